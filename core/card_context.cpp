@@ -1,0 +1,321 @@
+#include "card_context.h"
+
+#include <algorithm>
+#include <bit>
+#include <limits>
+#include <mutex>
+#include <optional>
+#include <stdexcept>
+#include <unordered_map>
+
+#include "hand_eval.h"
+#include "worker_pool.h"
+
+namespace velmora {
+namespace {
+
+/// 64-bit FNV-1a over the bytes of x, low byte first.
+std::uint64_t fnv(std::uint64_t x) {
+  std::uint64_t hash = 0xCBF29CE484222325;
+  for (int byte = 0; byte < 8; ++byte, x >>= 8) {
+    hash = (hash ^ (x & 0xFF)) * 0x100000001B3;
+  }
+  return hash;
+}
+
+void combine(std::uint64_t& seed, std::uint64_t x) {
+  seed ^= fnv(x) + 0x9E3779B97F4A7C15 + (seed << 6) + (seed >> 2);
+}
+
+std::uint64_t table_hash(const PocketWeights& weights) {
+  std::uint64_t hash = kNumPockets;
+  for (const float weight : weights) combine(hash, std::bit_cast<std::uint32_t>(weight));
+  return hash;
+}
+
+std::uint64_t key_of(const Board& board, const BySeat<PocketWeights>& weights) {
+  std::uint64_t key = 0;
+  for (const CardCode card : board.flop) combine(key, card);
+  combine(key, board.turn);
+  combine(key, board.river);
+  combine(key, 1);
+  combine(key, table_hash(weights[kOop]));
+  combine(key, table_hash(weights[kIp]));
+  return key;
+}
+
+/// The tables of the contexts that are alive, by key.
+class ArtifactTable {
+ public:
+  std::shared_ptr<const CachedArtifacts> find(std::uint64_t key) {
+    const std::lock_guard lock(mutex_);
+    const auto entry = entries_.find(key);
+    if (entry == entries_.end()) return nullptr;
+    std::shared_ptr<const CachedArtifacts> artifacts = entry->second.lock();
+    if (!artifacts) entries_.erase(entry);
+    return artifacts;
+  }
+
+  void publish(std::uint64_t key, const std::shared_ptr<const CachedArtifacts>& artifacts) {
+    const std::lock_guard lock(mutex_);
+    entries_[key] = artifacts;
+  }
+
+ private:
+  std::mutex mutex_;
+  std::unordered_map<std::uint64_t, std::weak_ptr<const CachedArtifacts>> entries_;
+};
+
+ArtifactTable& artifact_table() {
+  static ArtifactTable table;
+  return table;
+}
+
+void fill_pockets(CachedArtifacts& tables, const BySeat<PocketWeights>& weights, CardMask board) {
+  for (const Seat seat : {kOop, kIp}) {
+    for (std::size_t index = 0; index < kNumPockets; ++index) {
+      const float weight = weights[seat][index];
+      if (!(weight > 0)) continue;
+      const auto [a, b] = pocket_cards(index);
+      if (board & (mask_of(a) | mask_of(b))) continue;
+      tables.pockets[seat].push_back(make_pocket(a, b));
+      tables.hand_weights[seat].push_back(weight);
+    }
+    if (tables.pockets[seat].empty()) {
+      throw std::invalid_argument("Player range empty after filtering board cards");
+    }
+  }
+}
+
+void fill_same_hand_index(CachedArtifacts& tables) {
+  for (const Seat seat : {kOop, kIp}) {
+    std::vector<HandIndex> index_of(kNumPockets, kNoHand);
+    const std::vector<Pocket>& others = tables.pockets[opponent_of(seat)];
+    for (std::size_t i = 0; i < others.size(); ++i) {
+      index_of[pocket_index(others[i])] = static_cast<HandIndex>(i);
+    }
+    for (const Pocket pocket : tables.pockets[seat]) {
+      tables.same_hand_index[seat].push_back(index_of[pocket_index(pocket)]);
+    }
+  }
+}
+
+void fill_matchup_weights(CachedArtifacts& tables) {
+  for (std::size_t i = 0; i < tables.pockets[kOop].size(); ++i) {
+    const CardMask mask = mask_of_pocket(tables.pockets[kOop][i]);
+    const double weight = static_cast<double>(tables.hand_weights[kOop][i]);
+    for (std::size_t j = 0; j < tables.pockets[kIp].size(); ++j) {
+      if (mask & mask_of_pocket(tables.pockets[kIp][j])) continue;
+      tables.total_matchup_weight += weight * static_cast<double>(tables.hand_weights[kIp][j]);
+    }
+  }
+
+  BySeat<double> total{};
+  BySeat<std::array<double, kNumCards>> card_total{};
+  for (const Seat seat : {kOop, kIp}) {
+    for (std::size_t i = 0; i < tables.pockets[seat].size(); ++i) {
+      const double weight = static_cast<double>(tables.hand_weights[seat][i]);
+      total[seat] += weight;
+      card_total[seat][low_card(tables.pockets[seat][i])] += weight;
+      card_total[seat][high_card(tables.pockets[seat][i])] += weight;
+    }
+  }
+  for (const Seat seat : {kOop, kIp}) {
+    const Seat opponent = opponent_of(seat);
+    double sum = 0;
+    for (std::size_t i = 0; i < tables.pockets[seat].size(); ++i) {
+      const Pocket pocket = tables.pockets[seat][i];
+      const HandIndex twin = tables.same_hand_index[seat][i];
+      // Inclusion and exclusion: the identical pocket has been taken out with both of its cards.
+      const double same =
+          twin == kNoHand ? 0.0 : static_cast<double>(tables.hand_weights[opponent][twin]);
+      const double meets = total[opponent] - card_total[opponent][low_card(pocket)] -
+                           card_total[opponent][high_card(pocket)] + same;
+      const double value =
+          meets > 0 ? meets * static_cast<double>(tables.hand_weights[seat][i]) : 0.0;
+      tables.matchup_weights[seat].push_back(static_cast<float>(value));
+      sum += value;
+    }
+    tables.matchup_shares[seat] = tables.matchup_weights[seat];
+    if (sum > std::numeric_limits<double>::epsilon()) {
+      const float reciprocal = static_cast<float>(1.0 / sum);
+      for (float& share : tables.matchup_shares[seat]) share *= reciprocal;
+    }
+  }
+}
+
+struct RunoutPair {
+  CardCode a;
+  CardCode b;
+};
+
+/// Every pair of last two cards that the board allows.
+std::vector<RunoutPair> runout_pairs(const Board& board, CardMask flop) {
+  if (board.river != kNoCard) return {{board.turn, board.river}};
+  std::vector<RunoutPair> pairs;
+  for (CardCode a = 0; a < kNumCards; ++a) {
+    for (CardCode b = static_cast<CardCode>(a + 1); b < kNumCards; ++b) {
+      if (flop & (mask_of(a) | mask_of(b))) continue;
+      if (board.turn != kNoCard && a != board.turn && b != board.turn) continue;
+      pairs.push_back({a, b});
+    }
+  }
+  return pairs;
+}
+
+LiveHandList hands_off(const std::vector<Pocket>& pockets, CardMask dead) {
+  LiveHandList hands;
+  hands.reserve(pockets.size());
+  for (std::size_t i = 0; i < pockets.size(); ++i) {
+    if (mask_of_pocket(pockets[i]) & dead) continue;
+    hands.push_back({static_cast<HandIndex>(i), low_card(pockets[i]), high_card(pockets[i])});
+  }
+  hands.shrink_to_fit();
+  return hands;
+}
+
+StrengthList rank_hands(const std::vector<Pocket>& pockets, const LiveHandList& live,
+                        const std::array<CardCode, 5>& board) {
+  StrengthList list;
+  list.reserve(live.size() + 2);
+  list.push_back({0, kNoHand, 0, 0});
+  for (const LiveHand& hand : live) {
+    list.push_back(
+        {evaluate_hand(pockets[hand.hand], board) + 1, hand.hand, hand.card_a, hand.card_b});
+  }
+  list.push_back({0xFFFFFFFF, kNoHand, 0, 0});
+  std::sort(list.begin(), list.end(), [](const StrengthEntry& x, const StrengthEntry& y) {
+    return x.strength != y.strength ? x.strength < y.strength : x.hand < y.hand;
+  });
+  return list;
+}
+
+void fill_hand_lists(CachedArtifacts& tables, const Board& board) {
+  CardMask flop = 0;
+  for (const CardCode card : board.flop) flop |= mask_of(card);
+  tables.hands_without_card.resize(kNumCards);
+  tables.hands_without_pair.resize(kNumPockets);
+  tables.strength_tables.resize(kNumPockets);
+
+  for (const Seat seat : {kOop, kIp}) {
+    tables.all_hands[seat] = hands_off(tables.pockets[seat], 0);
+    for (CardCode card = 0; card < kNumCards; ++card) {
+      if (board.turn != kNoCard ? card != board.turn : (flop & mask_of(card)) != 0) continue;
+      tables.hands_without_card[card][seat] = hands_off(tables.pockets[seat], mask_of(card));
+    }
+  }
+
+  const std::vector<RunoutPair> pairs = runout_pairs(board, flop);
+  const std::size_t workers = std::min(card_context_max_workers(), pairs.size());
+  std::optional<WorkerPool> pool;
+  if (workers >= 2) pool.emplace(workers - 1);
+  parallel_for(pool ? &*pool : nullptr, pairs.size(), [&](std::size_t begin, std::size_t end) {
+    for (std::size_t i = begin; i < end; ++i) {
+      const auto [a, b] = pairs[i];
+      const std::size_t index = pocket_index(a, b);
+      for (const Seat seat : {kOop, kIp}) {
+        LiveHandList& live = tables.hands_without_pair[index][seat];
+        live = hands_off(tables.pockets[seat], mask_of(a) | mask_of(b));
+        tables.strength_tables[index][seat] = rank_hands(
+            tables.pockets[seat], live, {board.flop[0], board.flop[1], board.flop[2], a, b});
+      }
+    }
+  });
+}
+
+std::shared_ptr<const CachedArtifacts> compute(const Board& board, CardMask board_mask,
+                                               const BySeat<PocketWeights>& weights,
+                                               SuitFolding folding) {
+  auto tables = std::make_shared<CachedArtifacts>();
+  fill_pockets(*tables, weights, board_mask);
+  fill_same_hand_index(*tables);
+  fill_hand_lists(*tables, board);
+  fill_matchup_weights(*tables);
+  if (folding == SuitFolding::kOn) {
+    tables->isomorphism = find_suit_isomorphism(board, weights, tables->pockets);
+  }
+  return tables;
+}
+
+template <typename T>
+std::size_t bytes_of(const T&) {
+  return 0;
+}
+template <typename T, typename U>
+std::size_t bytes_of(const std::pair<T, U>&) {
+  return 0;
+}
+template <typename T>
+std::size_t bytes_of(const std::vector<T>& list);
+template <typename T, std::size_t N>
+std::size_t bytes_of(const std::array<T, N>& items);
+
+template <typename Items>
+std::size_t nested_bytes(const Items& items) {
+  std::size_t bytes = 0;
+  for (const auto& item : items) bytes += bytes_of(item);
+  return bytes;
+}
+template <typename T>
+std::size_t bytes_of(const std::vector<T>& list) {
+  return list.capacity() * sizeof(T) + nested_bytes(list);
+}
+template <typename T, std::size_t N>
+std::size_t bytes_of(const std::array<T, N>& items) {
+  return nested_bytes(items);
+}
+
+}  // namespace
+
+CardContext::CardContext(const Board& board, const BySeat<PocketWeights>& weights,
+                         SuitFolding folding)
+    : board_(board), range_weights_(weights) {
+  validate_board(board_);
+  for (const CardCode card : board_cards()) board_mask_ |= mask_of(card);
+  cache_key_ = key_of(board_, range_weights_);
+  if (folding == SuitFolding::kOff) {
+    tables_ = compute(board_, board_mask_, range_weights_, folding);
+    return;
+  }
+  tables_ = artifact_table().find(cache_key_);
+  if (tables_) return;
+  tables_ = compute(board_, board_mask_, range_weights_, folding);
+  artifact_table().publish(cache_key_, tables_);
+}
+
+std::vector<CardCode> CardContext::board_cards() const {
+  std::vector<CardCode> cards(board_.flop.begin(), board_.flop.end());
+  if (board_.turn != kNoCard) cards.push_back(board_.turn);
+  if (board_.river != kNoCard) cards.push_back(board_.river);
+  return cards;
+}
+
+const BySeat<StrengthList>& CardContext::strength_table(CardCode card_a, CardCode card_b) const {
+  static const BySeat<StrengthList> kEmpty;
+  if (card_a >= kNumCards || card_b >= kNumCards || card_a == card_b) return kEmpty;
+  return tables_->strength_tables[pocket_index(card_a, card_b)];
+}
+
+const LiveHandList& CardContext::live_hands(Seat seat, CardCode turn, CardCode river) const {
+  if (turn >= kNumCards) return tables_->all_hands[seat];
+  if (river < kNumCards && river != turn) {
+    return tables_->hands_without_pair[pocket_index(turn, river)][seat];
+  }
+  return tables_->hands_without_card[turn][seat];
+}
+
+std::size_t CardContext::memory_bytes() const {
+  const CachedArtifacts& t = *tables_;
+  const SuitIsomorphism& iso = t.isomorphism;
+  return bytes_of(t.pockets) + bytes_of(t.hand_weights) + bytes_of(t.matchup_shares) +
+         bytes_of(t.matchup_weights) + bytes_of(t.same_hand_index) + bytes_of(t.strength_tables) +
+         bytes_of(t.all_hands) + bytes_of(t.hands_without_card) + bytes_of(t.hands_without_pair) +
+         bytes_of(iso.turn_refs) + bytes_of(iso.turn_cards) + bytes_of(iso.turn_swaps) +
+         bytes_of(iso.river_refs) + bytes_of(iso.river_cards) + bytes_of(iso.river_swaps);
+}
+
+std::size_t card_context_max_workers() {
+  return worker_limit("VELMORA_CARDCTX_MAX_WORKERS");
+}
+
+}  // namespace velmora

@@ -1,0 +1,106 @@
+#include "discounted_cfr.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <iostream>
+#include <utility>
+
+#include "rows.h"
+
+namespace velmora {
+
+DiscountParams discount_params(std::uint32_t i) {
+  const double t = i == 0 ? 0.0 : static_cast<double>(i - 1);
+  const double p = t * std::sqrt(t);
+  std::uint32_t restart = i == 0 ? 0 : 1;
+  while (restart != 0 && restart <= i / 4) restart *= 4;
+  const double d = static_cast<double>(i - restart);
+  const double g = d / (d + 1);
+  return {static_cast<float>(p / (p + 1)), 0.5F, static_cast<float>(g * g * g)};
+}
+
+DiscountedCfr::DiscountedCfr(SolverOptions options) : options_(std::move(options)) {
+  if (options_.threads >= 2) pool_ = std::make_unique<WorkerPool>(options_.threads - 1);
+}
+
+void DiscountedCfr::prepare_states(Game& game) {
+  game.set_compressed_storage(options_.compressed_storage);
+  states_.prepare(game, options_.compressed_storage, pool_.get());
+}
+
+void DiscountedCfr::run(Game& game) {
+  using Clock = std::chrono::steady_clock;
+  exploitability_ = 0;
+  iterations_done_ = 0;
+  prepare_states(game);
+  const Clock::time_point run_start = Clock::now();
+
+  for (std::uint32_t i = 1; i <= options_.max_iterations && i != 0; ++i) {
+    // Step 1. The iteration, unless somebody wants the run to end.
+    if (options_.cancel && options_.cancel()) break;
+    const Clock::time_point start = Clock::now();
+    iterations_done_ = i;
+    run_iteration(game, i - 1);
+
+    // Step 2. The measure, at its interval and at the end.
+    const bool checks = i == options_.max_iterations ||
+                        (options_.check_interval != 0 && i % options_.check_interval == 0);
+    if (checks) exploitability_ = measure_exploitability(game);
+
+    // Step 3. The report.
+    const auto micros =
+        std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start).count();
+    const double ms = static_cast<double>(micros) / 1000.0;
+    if (options_.progress) options_.progress(i, exploitability_, ms);
+    if (options_.verbose && (i % 50 == 0 || i == options_.max_iterations)) {
+      std::cout << "[CFR] iteration " << i << " / " << options_.max_iterations
+                << "  exploitability≈" << exploitability_ << "  iter≈" << ms << "ms" << std::endl;
+    }
+
+    // Step 4. The target, looked at where the exploitability is known.
+    if (options_.check_interval != 0 && checks &&
+        options_.target_exploitability >= exploitability_) {
+      break;
+    }
+  }
+
+  if (options_.verbose) {
+    const auto total =
+        std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - run_start).count();
+    std::cout << "[CFR] completed " << iterations_done_ << " iterations in " << total
+              << "ms  exploitability≈" << exploitability_ << std::endl;
+  }
+}
+
+float DiscountedCfr::measure_exploitability(const Game& game) const {
+  const std::array<float, 2> best = best_cf_values(game);
+  double sum = 0;
+  if (game.settings().rake_fraction > 0 && game.settings().rake_cap > 0) {
+    // The rake is lost to both seats, so the values don't add up to 0 by themselves.
+    const std::array<float, 2> expected = cf_values(game);
+    sum = static_cast<double>(best[1] - expected[1]) + static_cast<double>(best[0] - expected[0]);
+  } else {
+    sum = static_cast<double>(best[1]) + static_cast<double>(best[0]);
+  }
+  return static_cast<float>(sum * 0.5);
+}
+
+void DiscountedCfr::run_iteration(const Game& game, std::uint32_t i) {
+  discount_ = discount_params(i);
+  for (const Seat seat : {kOop, kIp}) {
+    const std::vector<float>& weights = game.cards().hand_weights(opponent_of(seat));
+    FloatList reach;
+    FloatList values;
+    const std::span<float> reach_row = reach.row(weights.size());
+    std::copy(weights.begin(), weights.end(), reach_row.begin());
+    const std::span<float> result = values.row(game.num_hands(seat));
+    if (game.nodes()[0].river == kNoCard) {
+      solve_recursive(game, 0, seat, reach_row, result, 0, scratch_[seat]);
+    } else {
+      solve_river(game, 0, seat, reach_row, result, 0, scratch_[seat]);
+    }
+  }
+}
+
+}  // namespace velmora

@@ -1,0 +1,287 @@
+#include "range.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <limits>
+#include <locale.h>
+#include <stdexcept>
+
+#include "text.h"
+
+namespace velmora {
+
+namespace {
+
+// A desktop program sets the user's locale, where a decimal comma may be the rule. Numbers in the
+// notations are always read as the C locale reads them.
+locale_t c_locale() {
+  static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+  return locale;
+}
+
+/// What a conversion made of a whole text, with the grammar of the C library.
+template <typename Number>
+struct Conversion {
+  Number value;
+  bool found;         ///< A number stands at the beginning.
+  bool out_of_range;  ///< It doesn't fit its type.
+  bool complete;      ///< Nothing stands behind it.
+};
+
+template <typename Convert>
+auto convert(const std::string& text, Convert convert_text) {
+  const char* const begin = text.c_str();
+  char* end = nullptr;
+  errno = 0;
+  const auto value = convert_text(begin, &end);
+  return Conversion<decltype(convert_text(begin, &end))>{value, end != begin, errno == ERANGE,
+                                                         end == begin + text.size()};
+}
+
+Conversion<double> convert_double(const std::string& text) {
+  return convert(text,
+                 [](const char* begin, char** end) { return strtod_l(begin, end, c_locale()); });
+}
+
+void check_weight(float weight) {
+  if (!(weight >= 0 && weight <= 1)) throw std::invalid_argument("Weight must be within [0, 1]");
+}
+
+float parse_weight(std::string_view text) {
+  if (text.empty()) throw std::invalid_argument("Weight string is empty");
+  const auto weight = convert(std::string(text), [](const char* begin, char** end) {
+    return strtof_l(begin, end, c_locale());
+  });
+  if (!weight.found) throw std::invalid_argument("invalid stof argument");
+  if (weight.out_of_range) throw std::out_of_range("stof argument out of range");
+  if (!weight.complete) throw std::invalid_argument("Weight string contains invalid characters");
+  check_weight(weight.value);
+  return weight.value;
+}
+
+std::size_t checked_index(CardCode a, CardCode b) {
+  check_card_code(a);
+  check_card_code(b);
+  if (a == b) throw std::invalid_argument("Cards must differ");
+  return pocket_index(a, b);
+}
+
+void check_rank_order(std::uint8_t first, std::uint8_t second) {
+  if (first < second) throw std::invalid_argument("First rank must be >= second rank");
+}
+
+/// Calls `step` with the two ranks of each step of a plus expression.
+template <typename Step>
+void walk_plus(const ComboPattern& pattern, Step step) {
+  int high = pattern.high_rank;
+  int low = pattern.low_rank;
+  if (high - low > 1) {
+    for (; low < high; ++low) step(high, low);
+  } else {
+    for (; high < kNumRanks; ++high, ++low) step(high, low);
+  }
+}
+
+/// Calls `step` with the two ranks of each step from one pattern to another.
+template <typename Step>
+void walk_dash(const ComboPattern& first, const ComboPattern& second, Step step) {
+  const auto [min_high, max_high] = std::minmax({int{first.high_rank}, int{second.high_rank}});
+  const auto [min_low, max_low] = std::minmax({int{first.low_rank}, int{second.low_rank}});
+  const int gap = first.high_rank - first.low_rank;
+  if (gap == second.high_rank - second.low_rank) {
+    for (int high = min_high; high <= max_high; ++high) step(high, high - gap);
+    return;
+  }
+  if (min_high == max_high) {
+    for (int low = min_low; low <= max_low; ++low) step(max_high, low);
+    return;
+  }
+  const bool has_suffix =
+      first.suitedness == Suitedness::kSuited || first.suitedness == Suitedness::kOffsuit;
+  if (gap == 0 || second.high_rank == second.low_rank || !has_suffix) {
+    throw std::invalid_argument("Unsupported range expression");
+  }
+  for (int high = min_high; high <= max_high; ++high) {
+    for (int low = min_low; low <= max_low && low < high; ++low) step(high, low);
+  }
+}
+
+void apply_token(PocketWeights& weights, std::string_view token) {
+  const std::size_t colon = token.find(':');
+  const float weight =
+      colon == std::string_view::npos ? 1.0F : parse_weight(token.substr(colon + 1));
+  const std::string_view expression = token.substr(0, colon);
+  if (expression.empty()) throw std::invalid_argument("Missing range expression");
+
+  // The suits of the first pattern go with every step.
+  ComboPattern pattern;
+  const auto write = [&](int high, int low) {
+    ComboPattern at = pattern;
+    at.high_rank = static_cast<std::uint8_t>(high);
+    at.low_rank = static_cast<std::uint8_t>(low);
+    for (const std::size_t index : expand_pattern(at)) weights[index] = weight;
+  };
+  if (const std::size_t dash = expression.find('-'); dash != std::string_view::npos) {
+    pattern = parse_combo_pattern(expression.substr(0, dash));
+    const ComboPattern second = parse_combo_pattern(expression.substr(dash + 1));
+    if (pattern.suitedness != second.suitedness) {
+      throw std::invalid_argument("Suitedness mismatch in range");
+    }
+    walk_dash(pattern, second, write);
+  } else if (expression.back() == '+') {
+    if (expression.size() == 1) throw std::invalid_argument("Expected trailing '+'");
+    pattern = parse_combo_pattern(expression.substr(0, expression.size() - 1));
+    walk_plus(pattern, write);
+  } else {
+    pattern = parse_combo_pattern(expression);
+    write(pattern.high_rank, pattern.low_rank);
+  }
+}
+
+}  // namespace
+
+std::pair<CardCode, CardCode> pocket_cards(std::size_t index) {
+  if (index >= kNumPockets) throw std::out_of_range("Pocket index is out of range");
+  std::size_t low = 0;
+  for (std::size_t count = kNumCards - 1; index >= count; --count) {
+    index -= count;
+    ++low;
+  }
+  return {static_cast<CardCode>(low), static_cast<CardCode>(low + 1 + index)};
+}
+
+float get_weight(const PocketWeights& weights, CardCode a, CardCode b) {
+  return weights[checked_index(a, b)];
+}
+
+void set_weight(PocketWeights& weights, CardCode a, CardCode b, float weight) {
+  const std::size_t index = checked_index(a, b);
+  check_weight(weight);
+  weights[index] = weight;
+}
+
+ComboPattern parse_combo_pattern(std::string_view text) {
+  if (text.empty()) throw std::invalid_argument("Empty combo");
+  if (text.size() == 4 && is_letter(text[1]) && is_letter(text[3])) {
+    const CardCode first = parse_card(text.substr(0, 2));
+    const CardCode second = parse_card(text.substr(2, 2));
+    check_rank_order(rank_of(first), rank_of(second));
+    if (first == second) throw std::invalid_argument("Duplicate cards are not allowed");
+    return {rank_of(first), rank_of(second), Suitedness::kExact, suit_of(first), suit_of(second)};
+  }
+  if (text.size() != 2 && text.size() != 3) {
+    throw std::invalid_argument("Invalid combo pattern length");
+  }
+  ComboPattern pattern;
+  pattern.high_rank = rank_from_char(text[0]);
+  pattern.low_rank = rank_from_char(text[1]);
+  if (text.size() == 3) {
+    const char suffix = to_lower(text[2]);
+    if (suffix != 's' && suffix != 'o') throw std::invalid_argument("Invalid suitedness suffix");
+    pattern.suitedness = suffix == 's' ? Suitedness::kSuited : Suitedness::kOffsuit;
+  }
+  check_rank_order(pattern.high_rank, pattern.low_rank);
+  if (pattern.high_rank == pattern.low_rank && pattern.suitedness != Suitedness::kAny) {
+    throw std::invalid_argument("Pair cannot have suitedness suffix");
+  }
+  return pattern;
+}
+
+std::vector<std::size_t> expand_pattern(const ComboPattern& pattern) {
+  if (pattern.suitedness == Suitedness::kExact) {
+    return {checked_index(make_card(pattern.high_rank, pattern.suit1),
+                          make_card(pattern.low_rank, pattern.suit2))};
+  }
+  const bool pair = pattern.high_rank == pattern.low_rank;
+  std::vector<std::size_t> indices;
+  for (int high_suit = 0; high_suit < kNumSuits; ++high_suit) {
+    for (int low_suit = pair ? high_suit + 1 : 0; low_suit < kNumSuits; ++low_suit) {
+      const bool suited = high_suit == low_suit;
+      if (pattern.suitedness == Suitedness::kSuited && !suited) continue;
+      if (pattern.suitedness == Suitedness::kOffsuit && suited) continue;
+      indices.push_back(checked_index(make_card(pattern.high_rank, high_suit),
+                                      make_card(pattern.low_rank, low_suit)));
+    }
+  }
+  return indices;
+}
+
+PocketWeights parse_range(std::string_view text) {
+  PocketWeights weights{};
+  const std::string tokens = without_space(text);
+  for_each_piece(tokens, [&](std::string_view token) { apply_token(weights, token); });
+  return weights;
+}
+
+PocketWeights parse_range_text(std::string_view text) {
+  const std::string_view percent = trimmed(text);
+  if (percent.size() < 2 || percent.find('%') != percent.size() - 1 ||
+      percent.find_first_not_of("0123456789.%") != std::string_view::npos) {
+    return parse_range(text);
+  }
+  const auto number = convert_double(std::string(percent.substr(0, percent.size() - 1)));
+  if (!number.found || number.out_of_range) {
+    throw std::invalid_argument("Invalid percent range '" + std::string(percent) +
+                                "' (expected like '50%')");
+  }
+  const auto weight = static_cast<float>(number.value / 100);
+  check_weight(weight);
+  PocketWeights weights;
+  weights.fill(weight);
+  return weights;
+}
+
+bool is_suit_symmetric(const PocketWeights& weights, std::uint8_t suit1, std::uint8_t suit2) {
+  const auto exchanged = [&](int code) {
+    const auto card = static_cast<CardCode>(code);
+    const int suit = suit_of(card);
+    return make_card(rank_of(card), suit == suit1 ? suit2 : suit == suit2 ? suit1 : suit);
+  };
+  std::size_t index = 0;
+  for (int a = 0; a < kNumCards; ++a) {
+    for (int b = a + 1; b < kNumCards; ++b, ++index) {
+      // A not-a-number weight equals nothing, itself included.
+      if (!(weights[index] == weights[pocket_index(exchanged(a), exchanged(b))])) return false;
+    }
+  }
+  return true;
+}
+
+double parse_double_strict(std::string_view text) {
+  const auto number = convert_double(std::string(text));
+  if (number.found && !number.out_of_range && number.complete) return number.value;
+  constexpr std::string_view kHexDigits = "0123456789abcdef";
+  std::string hex;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    hex += kHexDigits[byte >> 4];
+    hex += kHexDigits[byte & 15];
+  }
+  throw std::invalid_argument("Failed to parse floating-point number from '" + std::string(text) +
+                              "' (hex=" + hex + ")");
+}
+
+std::int32_t parse_int_strict(std::string_view text) {
+  const auto number = convert(std::string(text), [](const char* begin, char** end) {
+    return strtoll_l(begin, end, 10, c_locale());
+  });
+  if (!number.found || number.out_of_range || !number.complete) {
+    throw std::invalid_argument("Failed to parse integer from '" + std::string(text) + "'");
+  }
+  if (number.value < std::numeric_limits<std::int32_t>::min() ||
+      number.value > std::numeric_limits<std::int32_t>::max()) {
+    throw std::out_of_range("Integer value is out of range");
+  }
+  return static_cast<std::int32_t>(number.value);
+}
+
+std::string hand_class_label(Pocket pocket) {
+  const std::uint8_t rank1 = rank_of(high_card(pocket));
+  const std::uint8_t rank2 = rank_of(low_card(pocket));
+  std::string label{rank_to_char(std::max(rank1, rank2)), rank_to_char(std::min(rank1, rank2))};
+  if (rank1 != rank2) label += suit_of(high_card(pocket)) == suit_of(low_card(pocket)) ? 's' : 'o';
+  return label;
+}
+
+}  // namespace velmora

@@ -1,0 +1,90 @@
+// Preflop ranges: their text notation and the weight of each of the 1326 two-card pockets.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "cards.h"
+
+namespace velmora {
+
+inline constexpr std::size_t kNumPockets = 1326;
+
+/// Two different card codes: the smaller in the low byte, the larger in the high byte.
+using Pocket = std::uint16_t;
+constexpr CardCode low_card(Pocket pocket) {
+  return static_cast<CardCode>(pocket & 0xFF);
+}
+constexpr CardCode high_card(Pocket pocket) {
+  return static_cast<CardCode>(pocket >> 8);
+}
+constexpr Pocket make_pocket(CardCode a, CardCode b) {
+  return a < b ? static_cast<Pocket>(a | (b << 8)) : static_cast<Pocket>(b | (a << 8));
+}
+constexpr CardMask mask_of_pocket(Pocket pocket) {
+  return mask_of(low_card(pocket)) | mask_of(high_card(pocket));
+}
+
+/// Weights in 0..1 by pocket index; 0 means that the pocket is not in the range.
+using PocketWeights = std::array<float, kNumPockets>;
+
+enum class Suitedness : std::uint32_t { kAny = 0, kSuited = 1, kOffsuit = 2, kExact = 3 };
+
+/// One parsed hand pattern such as "AK", "T9s" or "AsKh".
+struct ComboPattern {
+  std::uint8_t high_rank = 0;
+  std::uint8_t low_rank = 0;
+  Suitedness suitedness = Suitedness::kAny;
+  std::uint8_t suit1 = 0;  ///< Suit of the first card, for `kExact` only.
+  std::uint8_t suit2 = 0;  ///< Suit of the second card, for `kExact` only.
+
+  bool operator==(const ComboPattern&) const = default;
+};
+
+/// Place of two cards, in either order, in the order (0,1), (0,2), ..., (50,51). The codes are
+/// assumed to be different and in 0..51.
+constexpr std::size_t pocket_index(CardCode a, CardCode b) {
+  const std::size_t low = a < b ? a : b;
+  const std::size_t high = a < b ? b : a;
+  return low * (101 - low) / 2 + high - 1;
+}
+constexpr std::size_t pocket_index(Pocket pocket) {
+  return pocket_index(low_card(pocket), high_card(pocket));
+}
+/// The two codes of an index, smaller first. Throws `std::out_of_range`.
+std::pair<CardCode, CardCode> pocket_cards(std::size_t index);
+
+/// Weight of one pocket. Throws `std::out_of_range`, `std::invalid_argument` on bad cards.
+float get_weight(const PocketWeights& weights, CardCode a, CardCode b);
+/// As `get_weight`; also throws `std::invalid_argument` on a weight outside 0..1.
+void set_weight(PocketWeights& weights, CardCode a, CardCode b, float weight);
+
+/// Reads "AA", "AK", "AKs", "AKo" or "AsKh". Throws `std::invalid_argument`.
+ComboPattern parse_combo_pattern(std::string_view text);
+/// The indices of the pockets that a pattern covers. Throws `std::invalid_argument` for an exact
+/// pattern of one card twice.
+std::vector<std::size_t> expand_pattern(const ComboPattern& pattern);
+
+/// A range such as "88+,A8s+,A5s-A2s:0.5,KQo". Tokens overwrite from left to right.
+/// Throws `std::invalid_argument` or `std::out_of_range` at the first bad token.
+PocketWeights parse_range(std::string_view text);
+/// A percent text such as "50%" (every pocket at that weight) or else a range as above.
+PocketWeights parse_range_text(std::string_view text);
+
+/// True if the table is unchanged when the two suits are exchanged.
+bool is_suit_symmetric(const PocketWeights& weights, std::uint8_t suit1, std::uint8_t suit2);
+
+/// The whole text as a double. Throws `std::invalid_argument`.
+double parse_double_strict(std::string_view text);
+/// The whole text as a signed 32-bit number. Throws `std::invalid_argument`, `std::out_of_range`.
+std::int32_t parse_int_strict(std::string_view text);
+
+/// Label of the pocket in the 13 by 13 grid: "AA", "AKs", "AKo", higher rank first.
+std::string hand_class_label(Pocket pocket);
+
+}  // namespace velmora

@@ -1,0 +1,81 @@
+// What the solver learns: cumulative regrets and cumulative strategy of every decision node.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "game.h"
+#include "huge_pages.h"
+#include "rows.h"
+#include "worker_pool.h"
+
+namespace velmora {
+
+/// The place and shape of a node's tables. A table is action-major with one padded row of hands for
+/// each action; a hand keeps its index at every node of the seat, also where a dealt card blocks
+/// it, and has regrets of 0 there.
+struct NodeState {
+  std::size_t first_cell;  ///< In all arenas.
+  std::uint32_t num_actions;
+  std::uint32_t num_hands;    ///< Length of the acting seat's pocket list.
+  float regrets_scale;        ///< Of the compressed form; 1 at the start.
+  float strategy_sums_scale;  ///< Likewise.
+  Seat seat;                  ///< Who acts.
+  bool active;                ///< A decision node with at least one action; else all is 0.
+
+  std::size_t row_length() const { return padded(num_hands); }
+  std::size_t cells() const { return num_actions * row_length(); }
+};
+
+/// 16-bit form of a table of `num_actions` padded rows: cells are steps of a 32767th of the
+/// greatest magnitude, which becomes the scale. Padding becomes 0.
+void quantize_block(std::size_t num_actions, std::size_t num_hands, const float* floats,
+                    std::int16_t* out_q, float& out_scale);
+/// The floats of a quantised table.
+void dequantize_block(std::size_t num_actions, std::size_t num_hands, const std::int16_t* q,
+                      float scale, float* out_floats);
+
+/// The tables of all nodes, regrets and strategy sums in one arena each, in node order, which is
+/// the order in which the traversals walk. Plain tables are single floats. Compressed ones are
+/// 16-bit integers at rest and are expanded into the visitor's scratch memory while it works on
+/// them, so reading never changes them.
+class SolverState {
+ public:
+  /// Allocates and clears the tables of a game; anything learnt before is dropped. Pages are
+  /// claimed here, so memory use stays flat afterwards. Throws `std::bad_alloc`.
+  void prepare(const Game& game, bool compressed, WorkerPool* pool);
+
+  std::size_t size() const { return nodes_.size(); }
+  const NodeState& node(std::size_t index) const { return nodes_[index]; }
+  bool compressed() const { return compressed_; }
+  /// False at a chance node with two edges to one child: its branches share tables.
+  bool parallel_safe(std::size_t node) const { return parallel_safe_[node] != 0; }
+
+  /// A node's regrets in float form; `expanded` lends the room where they are compressed.
+  const float* regrets(const NodeState& state, FloatList& expanded) const;
+  const float* strategy_sums(const NodeState& state, FloatList& expanded) const;
+
+  /// The same for the traversal that changes them; `store_*` takes changes back into compressed
+  /// storage and does nothing for plain tables.
+  float* ensure_regrets(const NodeState& state, FloatList& expanded);
+  float* ensure_strategy_sums(const NodeState& state, FloatList& expanded);
+  void store_regrets(std::size_t node, const float* regrets);
+  void store_strategy_sums(std::size_t node, const float* sums);
+
+  /// Bytes of the tables that `prepare` would allocate for a tree of these counts.
+  static std::uint64_t table_bytes(const PlanCounts& counts, const CardContext& cards,
+                                   bool compressed);
+
+ private:
+  PageArray<NodeState> nodes_;
+  std::vector<std::uint8_t> parallel_safe_;
+  PageArray<float> regrets_;
+  PageArray<float> strategy_sums_;
+  PageArray<std::int16_t> regrets_q_;
+  PageArray<std::int16_t> strategy_sums_q_;
+  bool compressed_ = false;
+};
+
+}  // namespace velmora

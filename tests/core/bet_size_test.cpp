@@ -1,0 +1,213 @@
+#include "bet_size.h"
+
+#include <clocale>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "faults.h"
+
+namespace velmora {
+
+void PrintTo(const BetSize& size, std::ostream* out) {
+  *out << "{kind " << static_cast<std::uint32_t>(size.kind) << ", value " << size.value
+       << ", limit " << size.max_pot_fraction << ", chips " << size.chips << ", cap "
+       << size.raise_cap << ", streets " << size.geometric_streets << "}";
+}
+
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+BetSize percent(double fraction) {
+  return {BetSizeKind::kPotPercent, fraction, 0, 0, 0, 0};
+}
+BetSize multiple(double value) {
+  return {BetSizeKind::kRaiseMultiple, value, 0, 0, 0, 0};
+}
+BetSize chips(int amount, int cap = 0) {
+  return {BetSizeKind::kChips, 0, 0, amount, cap, 0};
+}
+BetSize geometric(int streets, double limit) {
+  return {BetSizeKind::kGeometric, 0, limit, 0, 0, streets};
+}
+const BetSize kAllInSize{BetSizeKind::kAllIn, 0, 0, 0, 0, 0};
+
+TEST(BetSize, FormsOfAToken) {
+  const std::vector<std::pair<std::string, BetSize>> cases{{"75%", percent(0.75)},
+                                                           {" 33.5% ", percent(0.335)},
+                                                           {"-5%", percent(-0.05)},
+                                                           {"2e120%", percent(2e118)},
+                                                           {"2.5x", multiple(2.5)},
+                                                           {"3X", multiple(3)},
+                                                           {"100c", chips(100)},
+                                                           {"100C", chips(100)},
+                                                           {"100c3r", chips(100, 3)},
+                                                           {"100C3R", chips(100, 3)},
+                                                           {"33", chips(33)},
+                                                           {"-5", chips(-5)},
+                                                           {"e", geometric(0, kInfinity)},
+                                                           {"2e", geometric(2, kInfinity)},
+                                                           {"3%120e", geometric(3, 1.2)},
+                                                           {"%120E", geometric(0, 1.2)},
+                                                           {"a", kAllInSize},
+                                                           {"A", kAllInSize},
+                                                           {"100a", kAllInSize},
+                                                           {"?!a", kAllInSize}};
+  for (const auto& [token, size] : cases)
+    EXPECT_EQ(parse_bet_size(token, true), size) << token;
+
+  EXPECT_EQ(parse_bet_sizes(" 33% ,, \t, a,2.5x", true),
+            (std::vector<BetSize>{percent(0.33), kAllInSize, multiple(2.5)}));
+  const SeatSizing seat = parse_seat_sizing("50%", "2x, 50c");
+  EXPECT_EQ(seat.bets, std::vector<BetSize>{percent(0.5)});
+  EXPECT_EQ(seat.raises, (std::vector<BetSize>{multiple(2), chips(50)}));
+}
+
+TEST(BetSize, FaultsOfTokens) {
+  const auto in_bets = [](const std::string& token) { return parse_bet_size(token, false); };
+  const auto in_raises = [](const std::string& token) { return parse_bet_size(token, true); };
+  const auto no_double = [](const std::string& text, const std::string& hex) {
+    return "invalid: Failed to parse floating-point number from '" + text + "' (hex=" + hex + ")";
+  };
+  const auto no_int = [](const std::string& text) {
+    return "invalid: Failed to parse integer from '" + text + "'";
+  };
+  faults::expect(in_bets, {{"", "invalid: Empty bet size token"},
+                           {" \t", "invalid: Empty bet size token"},
+                           {"2x", "invalid: Relative raise (x) is not allowed in this context"},
+                           {"x", "invalid: Relative raise (x) is not allowed in this context"},
+                           {"100c3r", "invalid: Raise cap is only valid for raises"},
+                           {"100c", "none"}});
+  faults::expect(in_raises, {{"1x", "invalid: Relative raise must exceed 1.0x"},
+                             {"0.5x", "invalid: Relative raise must exceed 1.0x"},
+                             {"-3x", "invalid: Relative raise must exceed 1.0x"},
+                             {"nanx", "invalid: Relative raise must exceed 1.0x"},
+                             {"x", no_double("", "")},
+                             {"5c3c", "invalid: Raise cap must end with 'r'"},
+                             {"100c0r", "invalid: Raise cap must be positive"},
+                             {"100c-1r", "invalid: Raise cap must be positive"},
+                             {"100cr", no_int("")},
+                             {"c", no_int("")},
+                             {"100r", no_int("100r")},
+                             {"1.5c", no_int("1.5")},
+                             {"3000000000c", "range: Integer value is out of range"},
+                             {"0e", "invalid: Geometric streets must be positive"},
+                             {"2%e", no_double("", "")},
+                             {"1.5e", no_int("1.5")},
+                             {"%", no_double("", "")},
+                             {"5 %", no_double("5 ", "3520")},
+                             {"33$", no_int("33$")}});
+}
+
+TEST(BetSize, NormalForm) {
+  struct Case {
+    std::string text, plain, with_all_in;
+  };
+  const std::vector<Case> cases{{"", "", "a"},
+                                {",,,", "", "a"},
+                                {"fifty", "", "a"},
+                                {"33, 75", "33%,75%", "33%,75%,a"},
+                                {"33%,75", "33%,75%", "33%,75%,a"},
+                                {"33 %", "33%", "33%,a"},
+                                {"33$", "33%", "33%,a"},
+                                {"-5", "5%", "5%,a"},
+                                {"a,33", "a,33%", "a,33%"},
+                                {"A", "A", "A"},
+                                {"100a", "100a", "100a,a"},
+                                {"2.5X, 100c3R, 2e", "2.5X,100c3R,2e", "2.5X,100c3R,2e,a"},
+                                {"r", "r", "r,a"},
+                                {".", ".%", ".%,a"}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(normalize_sizing(c.text, false), c.plain) << c.text;
+    EXPECT_EQ(normalize_sizing(c.text, true), c.with_all_in) << c.text;
+  }
+  faults::expect([](const std::string& text) { return normalize_sizing(text, true); },
+                 {{"33,%",
+                   "invalid: Sizing: invalid token '%'. Use numbers like '33, 75' or "
+                   "'33%, 75%'"},
+                  {"c", "invalid: Sizing: invalid token 'c'"},
+                  {"33, E", "invalid: Sizing: invalid token 'E'"},
+                  {"$x", "invalid: Sizing: invalid token 'x'"}});
+}
+
+TEST(BetSize, SizesOfAStreet) {
+  const StreetSizingText oop{"33, 75", "2x", true, false};
+  const StreetSizingText ip{"50", "", false, true};
+  StreetSizing sizing = parse_street_sizing("turn", oop, ip);
+  const std::vector<BetSize> oop_bets{percent(0.33), percent(0.75), kAllInSize};
+  EXPECT_EQ(sizing.seats[kOop].bets, oop_bets);
+  EXPECT_EQ(sizing.seats[kOop].raises, (std::vector<BetSize>{multiple(2), kAllInSize}));
+  EXPECT_EQ(sizing.seats[kIp].bets, std::vector<BetSize>{percent(0.5)});
+  EXPECT_TRUE(sizing.seats[kIp].raises.empty());
+  EXPECT_EQ(sizing.donk, oop_bets);
+
+  sizing = parse_street_sizing_bare({"33", "", true, true}, ip);
+  ASSERT_TRUE(sizing.donk.has_value());
+  EXPECT_TRUE(sizing.donk->empty());
+}
+
+TEST(BetSize, FaultsOfAStreetNameTheSeat) {
+  const StreetSizingText good{"50", "3x", false, false};
+  const StreetSizingText relative{"33, 2x", "3x", true, false};
+  const StreetSizingText huge{"33", "3000000000c", false, false};
+  const StreetSizingText foreign{"%", "2", false, false};
+  const std::string percent_fault =
+      "invalid: Sizing: invalid token '%'. Use numbers like '33, 75' or '33%, 75%'";
+
+  EXPECT_EQ(faults::of([&] { parse_street_sizing("turn", relative, huge); }),
+            "invalid: OOP turn sizing (bet='33, 2x', raise='3x', bet_norm='33%,2x,a', "
+            "raise_norm='3x,a'): Relative raise (x) is not allowed in this context");
+  EXPECT_EQ(faults::of([&] { parse_street_sizing("river", good, huge); }),
+            "invalid: IP river sizing (bet='33', raise='3000000000c', bet_norm='33%', "
+            "raise_norm='3000000000c'): Integer value is out of range");
+  EXPECT_EQ(faults::of([&] { parse_street_sizing("flop", good, foreign); }), percent_fault);
+
+  EXPECT_EQ(faults::of([&] { parse_street_sizing_bare(relative, good); }),
+            "invalid: Relative raise (x) is not allowed in this context");
+  EXPECT_EQ(faults::of([&] { parse_street_sizing_bare(good, huge); }),
+            "range: Integer value is out of range");
+  EXPECT_EQ(faults::of([&] { parse_street_sizing_bare(good, foreign); }), percent_fault);
+}
+
+// A program that follows the user's locale may run where the decimal mark is a comma.
+TEST(BetSize, NumbersDoNotDependOnTheLocale) {
+  const std::string before = std::setlocale(LC_ALL, nullptr);
+  bool has_comma = false;
+  for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "ru_RU.UTF-8"}) {
+    if (std::setlocale(LC_ALL, name) == nullptr) continue;
+    has_comma = true;
+    EXPECT_EQ(parse_bet_size("2.5x", true), multiple(2.5));
+    EXPECT_NE(faults::of([] { parse_bet_size("2,5x", true); }), "none");
+    break;
+  }
+  std::setlocale(LC_ALL, before.c_str());
+  if (!has_comma) GTEST_SKIP() << "No locale with a decimal comma is installed";
+}
+
+TEST(BetSize, AnyTextIsReadOrRefused) {
+  std::mt19937 random(13);
+  const std::string alphabet = "0123456789%%,,..aceErxX -+$\xff";
+  int read = 0;
+  for (int i = 0; i < 50000; ++i) {
+    std::string text(random() % 10, ' ');
+    for (char& c : text)
+      c = alphabet[random() % alphabet.size()];
+    const bool add_all_in = random() % 2 == 0;
+    ASSERT_TRUE(faults::allowed([&] { parse_bet_sizes(text, true); })) << text;
+    ASSERT_TRUE(faults::allowed([&] {
+      const std::string normal = normalize_sizing(text, add_all_in);
+      ASSERT_EQ(normalize_sizing(normal, add_all_in), normal) << text;
+      const auto sizes = parse_bet_sizes(normal, true);
+      ++read;
+      ASSERT_EQ(parse_bet_sizes(normalize_sizing(normal, false), true), sizes) << text;
+      for (const BetSize& size : sizes) {
+        ASSERT_TRUE(size.kind == BetSizeKind::kChips || size.chips == 0) << text;
+      }
+    })) << text;
+  }
+  EXPECT_GT(read, 5000);
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,194 @@
+#include "hand_eval.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <numeric>
+#include <random>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "faults.h"
+
+namespace velmora {
+namespace {
+
+using Seven = std::array<CardCode, 7>;
+
+Seven seven(std::string_view text) {
+  Seven cards{};
+  for (std::size_t i = 0; i < 7; ++i)
+    cards[i] = parse_card(text.substr(2 * i, 2));
+  return cards;
+}
+
+HandStrength value(std::string_view text) {
+  return evaluate_seven(seven(text));
+}
+
+/// A five-card hand as a list that compares as hands do: the category, then the ranks by how often
+/// they occur and by height.
+std::vector<int> rank_five(const std::array<CardCode, 5>& cards) {
+  std::map<int, int> counts;
+  bool flush = true;
+  for (const CardCode card : cards) {
+    ++counts[card / 4];
+    flush = flush && card % 4 == cards[0] % 4;
+  }
+  std::vector<std::pair<int, int>> groups;
+  for (const auto& [rank, count] : counts)
+    groups.emplace_back(count, rank);
+  std::sort(groups.rbegin(), groups.rend());
+  std::vector<int> ranks;
+  for (const auto& group : groups)
+    ranks.push_back(group.second);
+
+  bool straight = ranks.size() == 5 && ranks[0] - ranks[4] == 4;
+  if (ranks == std::vector<int>{12, 3, 2, 1, 0}) {
+    straight = true;
+    ranks = {3, 2, 1, 0, -1};
+  }
+  int category = 0;
+  if (straight && flush) {
+    category = 8;
+  } else if (groups[0].first == 4) {
+    category = 7;
+  } else if (groups[0].first == 3 && groups[1].first == 2) {
+    category = 6;
+  } else if (flush) {
+    category = 5;
+  } else if (straight) {
+    category = 4;
+  } else if (groups[0].first == 3) {
+    category = 3;
+  } else if (groups[0].first == 2) {
+    category = groups[1].first == 2 ? 2 : 1;
+  }
+  ranks.insert(ranks.begin(), category);
+  return ranks;
+}
+
+/// The best of the 21 hands of five cards.
+std::vector<int> best_of_21(const Seven& cards) {
+  std::vector<int> best;
+  for (std::size_t out1 = 0; out1 < 7; ++out1) {
+    for (std::size_t out2 = out1 + 1; out2 < 7; ++out2) {
+      std::array<CardCode, 5> five{};
+      std::size_t count = 0;
+      for (std::size_t i = 0; i < 7; ++i) {
+        if (i != out1 && i != out2) five[count++] = cards[i];
+      }
+      best = std::max(best, rank_five(five));
+    }
+  }
+  return best;
+}
+
+TEST(HandEval, KnownValues) {
+  struct Case {
+    std::string_view cards;
+    HandStrength category, primary, secondary;
+  };
+  const auto ranks = [](std::string_view chars) {
+    HandStrength mask = 0;
+    for (const char c : chars)
+      mask |= 1U << rank_from_char(c);
+    return mask;
+  };
+  const std::vector<Case> cases{{"AdAhKsQs2c9h3d", 1, ranks("A"), ranks("KQ9")},
+                                {"AdKhQs9c7h3d2s", 0, ranks("AKQ97"), 0},
+                                {"AhAdKhKdQhQd2c", 2, ranks("AK"), ranks("Q")},
+                                {"AhAdKhKd9hQd2c", 2, ranks("AK"), ranks("Q")},
+                                {"7h7d7cKd9hQd2c", 3, ranks("7"), ranks("KQ")},
+                                {"AhAdAcKhKdKc2c", 6, ranks("A"), ranks("K")},
+                                {"2h2d2cKhKdQcQh", 6, ranks("2"), ranks("K")},
+                                {"2h2d2c2sKdKcQh", 7, ranks("2"), ranks("K")},
+                                {"2h2d2c2s3d3c3h", 7, ranks("2"), ranks("3")},
+                                {"Ah2d3c4s5dKcKh", 4, ranks("5"), 0},
+                                {"Ah2d3c4s5d6cKh", 4, ranks("6"), 0},
+                                {"AhKdQcJsTd9c8h", 4, ranks("A"), 0},
+                                {"KhAd2c3s4dQcJh", 0, ranks("AKQJ4"), 0},
+                                {"5h5d5c4s3d2cAh", 4, ranks("5"), 0},
+                                {"Ah2h3h4h5h6d7c", 8, ranks("5"), 0},
+                                {"AhKhQhJhThTd9c", 8, ranks("A"), 0},
+                                {"AhKhQhJh9h8h2c", 5, ranks("AKQJ9"), 0},
+                                {"9h8h7h6h2hTd5c", 5, ranks("98762"), 0},
+                                {"2h4h6h8hTh9d7c", 5, ranks("T8642"), 0}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(value(c.cards), (c.category << 26) | (c.primary << 13) | c.secondary) << c.cards;
+  }
+  EXPECT_EQ(value("AsKsQsJsTs2c3d"), 0x22000000U);
+  EXPECT_EQ(value("Ah2d3c4s5dTcTh"), 0x10010000U);
+  EXPECT_EQ(value("Ah2h3h4h5hTcTh"), 0x20010000U);
+  EXPECT_EQ(value("AhAdKcQsJd2c3h"), 0x6000E00U);
+}
+
+TEST(HandEval, FaultsAndCardOrder) {
+  const std::array<CardCode, 5> board{3, 9, 21, 34, 50};
+  const Pocket pocket = make_pocket(51, 0);
+  EXPECT_EQ(evaluate_hand(pocket, board), evaluate_seven(Seven{0, 51, 50, 34, 21, 9, 3}));
+  for (const std::size_t size : {0U, 3U, 4U}) {
+    EXPECT_EQ(faults::of([&] { evaluate_hand(pocket, std::span(board).first(size)); }),
+              "invalid: Board must contain exactly 5 cards for evaluation");
+  }
+  for (const int code : {52, 64, 255}) {
+    for (std::size_t i = 0; i < 7; ++i) {
+      Seven cards{0, 51, 50, 34, 21, 9, 3};
+      cards[i] = static_cast<CardCode>(code);
+      EXPECT_EQ(faults::of([&] { evaluate_seven(cards); }), "range: Card code must be in [0, 52)");
+    }
+  }
+}
+
+// Every comparison must come out as between the best five-card hands, ties included.
+TEST(HandEval, ComparesAsTheBestOf21FiveCardHands) {
+  std::mt19937 random(20);
+  std::array<CardCode, kNumCards> deck{};
+  std::iota(deck.begin(), deck.end(), CardCode{0});
+  for (int i = 0; i < 12000; ++i) {
+    // A narrow deck now and then makes the rare categories and ties frequent.
+    const std::size_t deck_size = i % 4 == 0 ? 20 : kNumCards;
+    std::sort(deck.begin(), deck.end());
+    for (std::size_t k = 0; k < 9; ++k)
+      std::swap(deck[k], deck[k + random() % (deck_size - k)]);
+    // Two pockets on one board.
+    Seven one{};
+    Seven two{};
+    std::copy_n(deck.begin(), 7, one.begin());
+    std::copy_n(deck.begin() + 2, 7, two.begin());
+    const auto best_one = best_of_21(one);
+    const auto best_two = best_of_21(two);
+    const HandStrength value_one = evaluate_seven(one);
+    const HandStrength value_two = evaluate_seven(two);
+    ASSERT_EQ(value_one >> 26, static_cast<HandStrength>(best_one[0]));
+    ASSERT_EQ(value_one < value_two, best_one < best_two) << i;
+    ASSERT_EQ(value_one == value_two, best_one == best_two) << i;
+  }
+}
+
+TEST(HandEval, FrequenciesOfAllSevenCardHands) {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+  GTEST_SKIP() << "133,784,560 hands take too long under a sanitizer";
+#endif
+  std::array<std::uint64_t, 16> counts{};
+  Seven cards{};
+  const auto visit = [&](auto&& self, std::size_t place, int first) -> void {
+    for (int code = first; code < kNumCards; ++code) {
+      cards[place] = static_cast<CardCode>(code);
+      if (place == 6) {
+        ++counts[evaluate_seven(cards) >> 26];
+      } else {
+        self(self, place + 1, code + 1);
+      }
+    }
+  };
+  visit(visit, 0, 0);
+  EXPECT_EQ(counts,
+            (std::array<std::uint64_t, 16>{23'294'460, 58'627'800, 31'433'400, 6'461'620, 6'180'020,
+                                           4'047'644, 3'473'184, 224'848, 41'584}));
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,211 @@
+#include "worker_pool.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdint>
+#include <mutex>
+#include <new>
+#include <numeric>
+#include <optional>
+#include <set>
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+#include "faults.h"
+#include "huge_pages.h"
+#include "scoped_environment.h"
+#include "scratch.h"
+
+namespace velmora {
+namespace {
+
+using velmora_test::ScopedEnvironment;
+
+using Range = std::pair<std::size_t, std::size_t>;
+
+struct Split {
+  std::vector<Range> chunks;  ///< In ascending order.
+  std::vector<Range> here;    ///< Those of the calling thread.
+};
+
+Split split_of(WorkerPool* pool, std::size_t count) {
+  std::mutex mutex;
+  Split split;
+  parallel_for(pool, count, [&, caller = std::this_thread::get_id()](std::size_t begin,
+                                                                     std::size_t end) {
+    const std::lock_guard lock(mutex);
+    split.chunks.emplace_back(begin, end);
+    if (std::this_thread::get_id() == caller) split.here.emplace_back(begin, end);
+  });
+  std::sort(split.chunks.begin(), split.chunks.end());
+  return split;
+}
+
+TEST(WorkerPool, ChunksAreFixedAndTheCallerTakesTheLast) {
+  struct Case {
+    std::size_t workers;
+    std::size_t count;
+    std::vector<Range> chunks;
+  };
+  const Case cases[] = {
+      {4, 45, {{0, 12}, {12, 24}, {24, 36}, {36, 45}}},
+      {8, 12, {{0, 2}, {2, 4}, {4, 6}, {6, 8}, {8, 10}, {10, 12}}},
+      {16, 3, {{0, 1}, {1, 2}, {2, 3}}},
+      {2, 2, {{0, 1}, {1, 2}}},
+      {2, 49, {{0, 25}, {25, 49}}},
+      {4, 9, {{0, 3}, {3, 6}, {6, 9}}},
+      {2, 1, {{0, 1}}},
+      {2, 0, {{0, 0}}},
+      {1, 45, {{0, 45}}},
+  };
+  for (const Case& c : cases) {
+    WorkerPool pool(c.workers - 1);
+    EXPECT_EQ(pool.size(), c.workers - 1);
+    const Split split = split_of(&pool, c.count);
+    EXPECT_EQ(split.chunks, c.chunks) << c.workers << " workers, " << c.count;
+    EXPECT_EQ(split.here, std::vector<Range>{c.chunks.back()}) << c.workers << ", " << c.count;
+  }
+  EXPECT_EQ(split_of(nullptr, 45).here, (std::vector<Range>{{0, 45}}));
+}
+
+TEST(WorkerPool, ALoopInsideALoopRunsInPlace) {
+  WorkerPool pool(3);
+  WorkerPool other(3);
+  EXPECT_FALSE(WorkerPool::in_worker());
+  std::atomic<int> nested_chunks = 0;
+  std::atomic<int> on_workers = 0;
+  pool.parallel_for(4, [&](std::size_t begin, std::size_t) {
+    if (begin == 3) return;  // The calling thread is no worker and may spread its own loops.
+    on_workers += WorkerPool::in_worker() ? 1 : 0;
+    for (WorkerPool* nested : {&pool, &other}) {
+      nested->parallel_for(100, [&](std::size_t first, std::size_t last) {
+        nested_chunks += first == 0 && last == 100 ? 1 : 1000;
+      });
+    }
+  });
+  EXPECT_EQ(on_workers, 3);
+  EXPECT_EQ(nested_chunks, 6);
+  EXPECT_FALSE(WorkerPool::in_worker());
+}
+
+/// Many short loops one after the other: what the chunks wrote is there when the loop returns.
+TEST(WorkerPool, ResultsAreThereWhenTheLoopReturns) {
+  WorkerPool pool(3);
+  std::vector<std::uint64_t> cells(64);
+  for (std::uint64_t round = 1; round <= 2000; ++round) {
+    pool.parallel_for(cells.size(), [&](std::size_t begin, std::size_t end) {
+      for (std::size_t i = begin; i < end; ++i) cells[i] += round + i;
+    });
+    if (round % 100 != 0) continue;
+    const std::uint64_t sum = std::accumulate(cells.begin(), cells.end(), std::uint64_t{0});
+    ASSERT_EQ(sum, 64 * round * (round + 1) / 2 + round * 64 * 63 / 2);
+  }
+}
+
+TEST(WorkerPool, FaultsReachTheCaller) {
+  WorkerPool pool(3);
+  // Where a chunk faults, the others still run to their end, and the pool goes on working.
+  for (const std::set<std::size_t>& faulty :
+       {std::set<std::size_t>{0}, {1}, {3}, {0, 1, 2, 3}, {}, {0, 3}}) {
+    std::atomic<int> begun = 0;
+    const std::string fault = faults::of([&] {
+      pool.parallel_for(4, [&](std::size_t begin, std::size_t) {
+        ++begun;
+        if (faulty.count(begin)) throw std::invalid_argument("chunk failed");
+      });
+    });
+    EXPECT_EQ(fault, faulty.empty() ? "none" : "invalid: chunk failed");
+    EXPECT_EQ(begun, 4);
+  }
+  EXPECT_THROW(pool.parallel_for(4, [](std::size_t, std::size_t) { throw 7; }), int);
+  EXPECT_THROW(parallel_for(nullptr, 4, [](std::size_t, std::size_t) { throw 7; }), int);
+  EXPECT_EQ(split_of(&pool, 4).chunks.size(), 4U);
+}
+
+TEST(WorkerPool, QueuedTasksRunInOrderBeforeTheEnd) {
+  std::vector<int> order;
+  std::atomic<int> open = 0;
+  {
+    WorkerPool one(1);
+    for (int i = 0; i < 100; ++i) one.submit([&order, i] { order.push_back(i); });
+  }
+  std::vector<int> expected(100);
+  std::iota(expected.begin(), expected.end(), 0);
+  EXPECT_EQ(order, expected);
+  {
+    WorkerPool many(4);
+    for (int i = 0; i < 100; ++i) many.submit([&open] { ++open; });
+  }
+  EXPECT_EQ(open, 100);
+  const WorkerPool idle(4);
+}
+
+TEST(WorkerPool, LimitFromTheEnvironment) {
+  const std::size_t processors = std::max(1U, std::thread::hardware_concurrency());
+  const std::vector<std::pair<std::optional<std::string>, std::size_t>> cases = {
+      {std::nullopt, processors}, {"1", 1},         {"8abc", 8},
+      {"1000000", 1000000},       {"+3", 3},        {" 5", 5},
+      {"2.9", 2},                 {"", processors}, {"abc", processors},
+      {"-3", processors},         {"0", processors}, {"99999999999999999999", processors}};
+  for (const auto& [value, limit] : cases) {
+    const ScopedEnvironment environment("VELMORA_TEST_WORKERS", value);
+    EXPECT_EQ(worker_limit("VELMORA_TEST_WORKERS"), limit) << value.value_or("unset");
+  }
+}
+
+TEST(Scratch, FramesKeepTheirPlaceAtAnyDepth) {
+  ScratchStack stack;
+  std::vector<ScratchFrame*> frames;
+  for (std::size_t depth = 0; depth < 200; ++depth) {
+    frames.push_back(&stack.frame_at(depth));
+    frames.back()->sums.row(1)[0] = static_cast<float>(depth);
+  }
+  ScratchStack deep_first;
+  EXPECT_NE(&deep_first.frame_at(40), &deep_first.frame_at(39));
+  for (std::size_t depth = 200; depth-- > 0;) {
+    ASSERT_EQ(&stack.frame_at(depth), frames[depth]);
+    ASSERT_EQ(stack.frame_at(depth).sums.row(1)[0], static_cast<float>(depth));
+  }
+  EXPECT_EQ(std::set<ScratchFrame*>(frames.begin(), frames.end()).size(), 200U);
+}
+
+TEST(Scratch, ListsGrowWithZerosAndNeverShrink) {
+  FloatList list;
+  EXPECT_EQ(list.row(0).size(), 0U);
+  std::span<float> row = list.row(3);
+  ASSERT_EQ(row.size(), 3U);
+  for (std::size_t i = 0; i < padded(3); ++i) EXPECT_EQ(row.data()[i], 0);
+  std::fill_n(row.data(), padded(3), 7.0F);
+
+  const float* rows = list.rows(4, 9);
+  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(rows) % 64, 0U);
+  for (std::size_t i = 0; i < 4 * padded(9); ++i) EXPECT_EQ(rows[i], i < padded(3) ? 7 : 0);
+  row = list.row(2);
+  EXPECT_EQ(row.data(), rows);
+  EXPECT_EQ(row[1], 7);
+
+  const std::pair<std::size_t, std::size_t> lengths[] = {{0, 0}, {1, 8}, {8, 8}, {9, 16}, {1326, 1328}};
+  for (const auto& [length, expected] : lengths) EXPECT_EQ(padded(length), expected);
+}
+
+TEST(HugePages, ArraysAreZeroMovableAndRefuseWhatIsTooMuch) {
+  PageArray<std::uint64_t> array(100000);
+  EXPECT_EQ(std::count(array.data(), array.data() + array.size(), 0U), 100000);
+  array[99999] = 5;
+  PageArray<std::uint64_t> moved(std::move(array));
+  PageArray<std::uint64_t> assigned(3);
+  assigned = std::move(moved);
+  EXPECT_EQ(assigned.size(), 100000U);
+  EXPECT_EQ(assigned[99999], 5U);
+  const std::span<const std::uint64_t> view = assigned;
+  EXPECT_EQ(view.data(), assigned.data());
+  EXPECT_EQ(PageArray<int>(0).data(), nullptr);
+
+  for (const std::size_t size : {std::size_t{1} << 50, std::size_t{1} << 61, ~std::size_t{0}}) {
+    EXPECT_THROW(PageArray<std::uint64_t>{size}, std::bad_alloc) << size;
+  }
+}
+
+}  // namespace
+}  // namespace velmora
