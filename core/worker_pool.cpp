@@ -6,11 +6,24 @@
 #include <cstdlib>
 #include <exception>
 #include <memory>
+#include <utility>
 
 namespace velmora {
 namespace {
 
 thread_local bool this_thread_in_worker = false;
+
+/// Marks the thread while it runs a share of a loop.
+class WorkerMark {
+ public:
+  WorkerMark() : before_(std::exchange(this_thread_in_worker, true)) {}
+  ~WorkerMark() { this_thread_in_worker = before_; }
+  WorkerMark(const WorkerMark&) = delete;
+  WorkerMark& operator=(const WorkerMark&) = delete;
+
+ private:
+  bool before_;
+};
 
 /// What the chunks of one loop share. A chunk holds a reference of its own, so that waking the
 /// caller never touches memory that the caller has already left.
@@ -87,9 +100,8 @@ void WorkerPool::run() {
       task = std::move(queue_.front());
       queue_.pop_front();
     }
-    this_thread_in_worker = true;
+    const WorkerMark mark;
     task();
-    this_thread_in_worker = false;
   }
 }
 
@@ -118,7 +130,11 @@ void WorkerPool::parallel_for(std::size_t count, const Body& body) {
     if (!fan_out->faulted.exchange(true)) fan_out->fault = std::current_exception();
     for (std::size_t i = submitted; i < last; ++i) fan_out->finish_chunk();
   }
-  if (submitted == last) fan_out->run(body, last * chunk, count);
+  if (submitted == last) {
+    // A loop inside this share would wait in the queue behind the other shares of this one.
+    const WorkerMark mark;
+    fan_out->run(body, last * chunk, count);
+  }
   fan_out->wait();
   if (fan_out->fault) std::rethrow_exception(fan_out->fault);
 }

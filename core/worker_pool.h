@@ -30,12 +30,13 @@ class WorkerPool {
 
   /// Runs `body` over the items 0..count-1 in `size() + 1` chunks at most, the last of them on the
   /// calling thread, and returns when all are done. Chunks are fixed in advance, so the split is
-  /// the same in every run. On a pool's own thread, or with fewer than two items, the body runs
-  /// once over all items. The first exception of a body is thrown again here, after all chunks.
+  /// the same in every run. On a thread that is in such a loop already, or with fewer than two
+  /// items, the body runs once over all items. The first exception of a body is thrown again here,
+  /// after all chunks.
   void parallel_for(std::size_t count, const Body& body);
 
   std::size_t size() const { return threads_.size(); }
-  /// True on a thread that is running a task of some pool.
+  /// True on a thread that is running a task of some pool or its own share of a loop.
   static bool in_worker();
 
  private:

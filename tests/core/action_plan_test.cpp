@@ -182,9 +182,8 @@ TEST(BettingRules, ActionListsByPath) {
     const GameSettings settings = settings_of(c.rules);
     const CardContext cards = context_of(c.rules.board);
     std::string found;
-    EXPECT_EQ(faults::of([&] {
-                found = text_of(legal_actions(settings, walk(settings, cards, c.path)));
-              }),
+    EXPECT_EQ(faults::of(
+                  [&] { found = text_of(legal_actions(settings, walk(settings, cards, c.path))); }),
               "none");
     EXPECT_EQ(found, c.actions) << "bets '" << c.rules.bets << "' raises '" << c.rules.raises
                                 << "' path '" << c.path << "'";
@@ -270,7 +269,10 @@ TEST(ActionPlan, EqualsATreeBuiltFromHistories) {
       {{.board = "AhAd7c", .stack = 90, .bets = "a", .raises = ""}},
       {{.board = "AhKd7c2s", .bets = "33%,2e,a", .raises = "100c2r,2.5x"}},
       {{.board = "7h5h2hTh", .stack = 333, .bets = "e,20%", .raises = "%70e,50%", .jam = {2, 0}}},
-      {{.board = "AhKd7c2s9h", .bets = "25%,75%,150%,a", .raises = "50%,100%,a", .dont_donk = true}},
+      {{.board = "AhKd7c2s9h",
+        .bets = "25%,75%,150%,a",
+        .raises = "50%,100%,a",
+        .dont_donk = true}},
       {{.board = "AhKd7c", .stack = 40, .bets = "50%", .raises = "a"}, "KK,AsKs", "AA"},
       // A root that is not on the street of the board.
       {{.board = "AhKd7c2s", .stack = 300, .bets = "50%", .raises = "a", .street = kFlop}},
@@ -290,10 +292,10 @@ TEST(ActionPlan, EqualsATreeBuiltFromHistories) {
 TEST(ActionPlan, EqualsATreeBuiltFromHistoriesForRandomRules) {
   std::mt19937 random(20);
   const auto pick = [&random](const auto& list) { return list[random() % std::size(list)]; };
-  const char* const bet_tokens[] = {"33%", "50%", "75%", "150%", "0.5%", "a",   "e",  "2e",
-                                    "3e",  "%40e", "5c", "60c",  "400c", "99%", "1%", "%1e"};
-  const char* const raise_tokens[] = {"40%", "50%",    "100%",   "2x",   "3.3x",  "a",  "e",
-                                      "2e",  "60c",    "100c2r", "20c3r", "7c2r", "1.01x", "90%"};
+  const char* const bet_tokens[] = {"33%", "50%",  "75%", "150%", "0.5%", "a",   "e",  "2e",
+                                    "3e",  "%40e", "5c",  "60c",  "400c", "99%", "1%", "%1e"};
+  const char* const raise_tokens[] = {"40%", "50%", "100%",   "2x",    "3.3x", "a",     "e",
+                                      "2e",  "60c", "100c2r", "20c3r", "7c2r", "1.01x", "90%"};
   const auto text = [&](const auto& tokens) {
     std::string sizes;
     for (std::size_t count = random() % 4; count > 0; --count) {
@@ -346,11 +348,10 @@ TEST(ActionPlan, WorkersChangeNoNode) {
     for (std::size_t i = 0; i < one->node_count(); ++i) {
       const PlanNode& x = one->nodes()[i];
       const PlanNode& y = many->nodes()[i];
-      ASSERT_TRUE(std::equal(x.actions.begin(), x.actions.end(), y.actions.begin(),
-                             y.actions.end()) &&
-                  std::equal(x.children.begin(), x.children.end(), y.children.begin(),
-                             y.children.end()) &&
-                  x.kind == y.kind && x.pot == y.pot && x.turn == y.turn && x.river == y.river)
+      ASSERT_TRUE(
+          std::equal(x.actions.begin(), x.actions.end(), y.actions.begin(), y.actions.end()) &&
+          std::equal(x.children.begin(), x.children.end(), y.children.begin(), y.children.end()) &&
+          x.kind == y.kind && x.pot == y.pot && x.turn == y.turn && x.river == y.river)
           << "node " << i;
     }
   }
@@ -370,8 +371,10 @@ TEST(ActionPlan, TreesBeyondTheLimitsAreRefused) {
 
   // A tree of more nodes than an index can tell apart is counted at once and not built.
   const CardContext flop = context_of("AhKd7c");
-  const GameSettings wide = settings_of(
-      {.board = "AhKd7c", .stack = 1000, .bets = "10%,20%,33%,50%,75%,100%,150%", .raises = "2x,3x,4x"});
+  const GameSettings wide = settings_of({.board = "AhKd7c",
+                                         .stack = 1000,
+                                         .bets = "10%,20%,33%,50%,75%,100%,150%",
+                                         .raises = "2x,3x,4x"});
   EXPECT_GT(count_plan(wide, flop).nodes, std::uint64_t{1} << 32);
   EXPECT_EQ(faults::of([&] { ActionPlan(wide, flop); }), "other: std::bad_alloc");
 }

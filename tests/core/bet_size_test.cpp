@@ -54,8 +54,7 @@ TEST(BetSize, FormsOfAToken) {
                                                            {"A", kAllInSize},
                                                            {"100a", kAllInSize},
                                                            {"?!a", kAllInSize}};
-  for (const auto& [token, size] : cases)
-    EXPECT_EQ(parse_bet_size(token, true), size) << token;
+  for (const auto& [token, size] : cases) EXPECT_EQ(parse_bet_size(token, true), size) << token;
 
   EXPECT_EQ(parse_bet_sizes(" 33% ,, \t, a,2.5x", true),
             (std::vector<BetSize>{percent(0.33), kAllInSize, multiple(2.5)}));
@@ -191,8 +190,7 @@ TEST(BetSize, AnyTextIsReadOrRefused) {
   int read = 0;
   for (int i = 0; i < 50000; ++i) {
     std::string text(random() % 10, ' ');
-    for (char& c : text)
-      c = alphabet[random() % alphabet.size()];
+    for (char& c : text) c = alphabet[random() % alphabet.size()];
     const bool add_all_in = random() % 2 == 0;
     ASSERT_TRUE(faults::allowed([&] { parse_bet_sizes(text, true); })) << text;
     ASSERT_TRUE(faults::allowed([&] {

@@ -24,8 +24,7 @@ const char* const kOopRange = "AA,KK:0.5,QJs,76s:0.3,72o:0.1,AsKs:0.9";
 const char* const kIpRange = "KK,QQ:0.25,QJs:0.7,AKo:0.6,76s,55:0.4";
 
 CardContext make_context(const std::string& board, const std::string& oop = kOopRange,
-                         const std::string& ip = kIpRange,
-                         SuitFolding folding = SuitFolding::kOn) {
+                         const std::string& ip = kIpRange, SuitFolding folding = SuitFolding::kOn) {
   return {parse_board(board), {parse_range(oop), parse_range(ip)}, folding};
 }
 
@@ -45,7 +44,9 @@ bool holds(Pocket pocket, CardCode card) {
   return low_card(pocket) == card || high_card(pocket) == card;
 }
 
-bool conflict(Pocket x, Pocket y) { return holds(x, low_card(y)) || holds(x, high_card(y)); }
+bool conflict(Pocket x, Pocket y) {
+  return holds(x, low_card(y)) || holds(x, high_card(y));
+}
 
 const std::vector<std::string> kBoards = {"Ah7c2s",   "Kh7h2h",     "QcQd5h",  "7s6s5s",
                                           "Ah7c2s7d", "Ks7h2hKd5c", "QcQd5hQh"};
@@ -153,12 +154,9 @@ TEST(CardContext, ListsOfEveryRunoutHoldTheLiveHandsByStrength) {
 
 TEST(CardContext, MatchupWeightsAreThoseOfThePairsThatCanMeet) {
   const std::vector<std::tuple<std::string, std::string, std::string>> spots = {
-      {"Ah7c2s", kOopRange, kIpRange},
-      {"Kh7h2h", kIpRange, kOopRange},
-      {"Ks7h2hKd5c", kOopRange, kOopRange},
-      {"QcQd5h", "100%", "AA,72o:0.01"},
-      {"2c3d4h", "AsAh", "AsAd,KK:0.5"},
-      {"2c3d4h", "AsAh", "AsAd,AhAc"}};
+      {"Ah7c2s", kOopRange, kIpRange},      {"Kh7h2h", kIpRange, kOopRange},
+      {"Ks7h2hKd5c", kOopRange, kOopRange}, {"QcQd5h", "100%", "AA,72o:0.01"},
+      {"2c3d4h", "AsAh", "AsAd,KK:0.5"},    {"2c3d4h", "AsAh", "AsAd,AhAc"}};
   for (const auto& [board, oop, ip] : spots) {
     const CardContext cards(parse_board(board), {parse_range_text(oop), parse_range_text(ip)});
     BySeat<std::vector<double>> met = {std::vector<double>(cards.num_hands(kOop)),
@@ -221,7 +219,7 @@ TEST(CardContext, TablesAreSharedWhileASpotIsAlive) {
   EXPECT_EQ(first->cache_key(), equal.cache_key());
   EXPECT_EQ(&first->pockets(kOop), &equal.pockets(kOop));
 
-  const CardContext others[] = {make_context("7cAh2s"),   // The order of the flop counts.
+  const CardContext others[] = {make_context("7cAh2s"),  // The order of the flop counts.
                                 make_context("Ah7c2sKd"),
                                 make_context("Ah7c2s", kIpRange, kOopRange),
                                 make_context("Ah7c2s", std::string(kOopRange) + ",22:0.01"),

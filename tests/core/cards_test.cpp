@@ -13,8 +13,7 @@ namespace {
 
 std::string text_of(const Board& board) {
   std::string text;
-  for (const CardCode code : board.flop)
-    text += card_to_string(code);
+  for (const CardCode code : board.flop) text += card_to_string(code);
   for (const CardCode code : {board.turn, board.river}) {
     text += code == kNoCard ? "-" : card_to_string(code);
   }
@@ -142,8 +141,7 @@ TEST(Cards, AnyTextIsReadOrRefused) {
     }
     EXPECT_TRUE(faults::allowed([&] {
       const Board board = parse_board(text);
-      for (const CardCode code : board.flop)
-        check_card_code(code);
+      for (const CardCode code : board.flop) check_card_code(code);
     })) << text;
   }
 }

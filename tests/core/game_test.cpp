@@ -81,11 +81,14 @@ TEST(Game, ChanceNodesDealTheWholeDeck) {
     Spot spot;
     bool folds;
   };
-  const Case cases[] = {{spot_on("AhKh2h"), true},  {spot_on("AhKd2c"), false},
-                        {spot_on("AhAd2c"), true},  {spot_on("AhKh2c"), true},
+  const Case cases[] = {{spot_on("AhKh2h"), true},
+                        {spot_on("AhKd2c"), false},
+                        {spot_on("AhAd2c"), true},
+                        {spot_on("AhKh2c"), true},
                         {spot_on("AhKh2h", "AsKs,QQ"), true},
                         {spot_on("AhKh2c", "AsKs,QQ"), false},
-                        {spot_on("AhKhAcKc"), true}, {spot_on("AhKh2cTs"), false}};
+                        {spot_on("AhKhAcKc"), true},
+                        {spot_on("AhKh2cTs"), false}};
   for (const Case& c : cases) {
     SCOPED_TRACE(c.spot.board + " " + c.spot.oop_range);
     const auto game = make_game(c.spot);
@@ -208,11 +211,13 @@ TEST(NodeLocks, OnlyDecisionsTakeTables) {
   const std::size_t runout = find_node(*game, [](const PlanNode& n) { return n.runout; });
   // Two river nodes of one line that differ by their card only; without bets, all there is is a
   // check.
-  const auto on_river = [](const PlanNode& n) { return n.river != kNoCard && n.seat == kOop &&
-                                                       n.kind == NodeKind::kDecision; };
+  const auto on_river = [](const PlanNode& n) {
+    return n.river != kNoCard && n.seat == kOop && n.kind == NodeKind::kDecision;
+  };
   const std::size_t river = find_node(*game, on_river);
-  const std::size_t sibling = find_node(
-      *game, [&](const PlanNode& n) { return on_river(n) && n.river != game->nodes()[river].river; });
+  const std::size_t sibling = find_node(*game, [&](const PlanNode& n) {
+    return on_river(n) && n.river != game->nodes()[river].river;
+  });
   ASSERT_EQ(game->nodes()[river].actions.size(), 1U);
 
   const std::vector<NodeLockEntry> entries = {

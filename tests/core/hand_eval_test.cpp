@@ -19,8 +19,7 @@ using Seven = std::array<CardCode, 7>;
 
 Seven seven(std::string_view text) {
   Seven cards{};
-  for (std::size_t i = 0; i < 7; ++i)
-    cards[i] = parse_card(text.substr(2 * i, 2));
+  for (std::size_t i = 0; i < 7; ++i) cards[i] = parse_card(text.substr(2 * i, 2));
   return cards;
 }
 
@@ -38,12 +37,10 @@ std::vector<int> rank_five(const std::array<CardCode, 5>& cards) {
     flush = flush && card % 4 == cards[0] % 4;
   }
   std::vector<std::pair<int, int>> groups;
-  for (const auto& [rank, count] : counts)
-    groups.emplace_back(count, rank);
+  for (const auto& [rank, count] : counts) groups.emplace_back(count, rank);
   std::sort(groups.rbegin(), groups.rend());
   std::vector<int> ranks;
-  for (const auto& group : groups)
-    ranks.push_back(group.second);
+  for (const auto& group : groups) ranks.push_back(group.second);
 
   bool straight = ranks.size() == 5 && ranks[0] - ranks[4] == 4;
   if (ranks == std::vector<int>{12, 3, 2, 1, 0}) {
@@ -93,8 +90,7 @@ TEST(HandEval, KnownValues) {
   };
   const auto ranks = [](std::string_view chars) {
     HandStrength mask = 0;
-    for (const char c : chars)
-      mask |= 1U << rank_from_char(c);
+    for (const char c : chars) mask |= 1U << rank_from_char(c);
     return mask;
   };
   const std::vector<Case> cases{{"AdAhKsQs2c9h3d", 1, ranks("A"), ranks("KQ9")},
@@ -151,8 +147,7 @@ TEST(HandEval, ComparesAsTheBestOf21FiveCardHands) {
     // A narrow deck now and then makes the rare categories and ties frequent.
     const std::size_t deck_size = i % 4 == 0 ? 20 : kNumCards;
     std::sort(deck.begin(), deck.end());
-    for (std::size_t k = 0; k < 9; ++k)
-      std::swap(deck[k], deck[k + random() % (deck_size - k)]);
+    for (std::size_t k = 0; k < 9; ++k) std::swap(deck[k], deck[k + random() % (deck_size - k)]);
     // Two pockets on one board.
     Seven one{};
     Seven two{};

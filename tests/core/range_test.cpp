@@ -265,14 +265,12 @@ TEST(Range, AnyTextIsReadOrRefused) {
   int read = 0;
   for (int i = 0; i < 20000; ++i) {
     std::string text;
-    for (auto count = random() % 8; count > 0; --count)
-      text += pieces[random() % pieces.size()];
+    for (auto count = random() % 8; count > 0; --count) text += pieces[random() % pieces.size()];
     PocketWeights weights{};
     const auto read_text = [&] { weights = parse_range_text(text); };
     ASSERT_TRUE(faults::allowed(read_text)) << text;
     read += faults::of(read_text) == "none" ? 1 : 0;
-    for (const float weight : weights)
-      ASSERT_TRUE(weight >= 0 && weight <= 1) << text;
+    for (const float weight : weights) ASSERT_TRUE(weight >= 0 && weight <= 1) << text;
     ASSERT_TRUE(faults::allowed([&] { parse_double_strict(text); })) << text;
     ASSERT_TRUE(faults::allowed([&] { parse_int_strict(text); })) << text;
   }

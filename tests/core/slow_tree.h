@@ -167,9 +167,9 @@ class Tree {
     std::vector<Action> bets;
     const auto add = [&](const BetSize& size) {
       const std::int64_t to = to_of(size);
-      const ActionKind kind = to == most      ? ActionKind::kAllIn
+      const ActionKind kind = to == most    ? ActionKind::kAllIn
                               : t.faces_bet ? ActionKind::kRaise
-                                              : ActionKind::kBet;
+                                            : ActionKind::kBet;
       bets.push_back({kind, static_cast<std::int32_t>(to)});
     };
     if (t.faces_bet) {
@@ -185,17 +185,15 @@ class Tree {
       for (const BetSize& size : leads ? *sizes.donk : sizes.seats[me].bets) add(size);
     }
     const double jam = settings_.jam_threshold[me];
-    const bool has_all_in = std::any_of(bets.begin(), bets.end(), [](const Action& a) {
-      return a.kind == ActionKind::kAllIn;
-    });
+    const bool has_all_in = std::any_of(
+        bets.begin(), bets.end(), [](const Action& a) { return a.kind == ActionKind::kAllIn; });
     if (!t.all_in && jam > 0 && !has_all_in && most >= 1 &&
         most <= chips_of(static_cast<double>(called_pot) * jam)) {
       bets.push_back({ActionKind::kAllIn, static_cast<std::int32_t>(most)});
     }
 
     std::multiset<std::pair<std::int64_t, ActionKind>> sorted;
-    const std::int64_t pot_now =
-        settings_.starting_pot + t.node.invested[0] + t.node.invested[1];
+    const std::int64_t pot_now = settings_.starting_pot + t.node.invested[0] + t.node.invested[1];
     for (Action action : bets) {
       const double pot_after = static_cast<double>(pot_now + 2 * (action.amount - bet));
       if (most <= bet + chips_of(pot_after * settings_.force_all_in_threshold)) {

@@ -64,7 +64,8 @@ bool keeps_position(const CardContext& cards, CardCode turn, const Exchange& exc
   return mapped == together && images(cards, kOop, exchange) && images(cards, kIp, exchange);
 }
 
-/// A deal as the tables tell it: the folded cards with what is needed to rebuild each from its twin.
+/// A deal as the tables tell it: the folded cards with what is needed to rebuild each from its
+/// twin.
 struct Deal {
   CardCode turn;  ///< `kNoCard` where the turn itself is dealt.
   std::vector<CardCode> skipped;

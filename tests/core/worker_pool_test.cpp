@@ -32,12 +32,12 @@ struct Split {
 Split split_of(WorkerPool* pool, std::size_t count) {
   std::mutex mutex;
   Split split;
-  parallel_for(pool, count, [&, caller = std::this_thread::get_id()](std::size_t begin,
-                                                                     std::size_t end) {
-    const std::lock_guard lock(mutex);
-    split.chunks.emplace_back(begin, end);
-    if (std::this_thread::get_id() == caller) split.here.emplace_back(begin, end);
-  });
+  parallel_for(pool, count,
+               [&, caller = std::this_thread::get_id()](std::size_t begin, std::size_t end) {
+                 const std::lock_guard lock(mutex);
+                 split.chunks.emplace_back(begin, end);
+                 if (std::this_thread::get_id() == caller) split.here.emplace_back(begin, end);
+               });
   std::sort(split.chunks.begin(), split.chunks.end());
   return split;
 }
@@ -144,10 +144,18 @@ TEST(WorkerPool, QueuedTasksRunInOrderBeforeTheEnd) {
 TEST(WorkerPool, LimitFromTheEnvironment) {
   const std::size_t processors = std::max(1U, std::thread::hardware_concurrency());
   const std::vector<std::pair<std::optional<std::string>, std::size_t>> cases = {
-      {std::nullopt, processors}, {"1", 1},         {"8abc", 8},
-      {"1000000", 1000000},       {"+3", 3},        {" 5", 5},
-      {"2.9", 2},                 {"", processors}, {"abc", processors},
-      {"-3", processors},         {"0", processors}, {"99999999999999999999", processors}};
+      {std::nullopt, processors},
+      {"1", 1},
+      {"8abc", 8},
+      {"1000000", 1000000},
+      {"+3", 3},
+      {" 5", 5},
+      {"2.9", 2},
+      {"", processors},
+      {"abc", processors},
+      {"-3", processors},
+      {"0", processors},
+      {"99999999999999999999", processors}};
   for (const auto& [value, limit] : cases) {
     const ScopedEnvironment environment("VELMORA_TEST_WORKERS", value);
     EXPECT_EQ(worker_limit("VELMORA_TEST_WORKERS"), limit) << value.value_or("unset");
@@ -185,7 +193,8 @@ TEST(Scratch, ListsGrowWithZerosAndNeverShrink) {
   EXPECT_EQ(row.data(), rows);
   EXPECT_EQ(row[1], 7);
 
-  const std::pair<std::size_t, std::size_t> lengths[] = {{0, 0}, {1, 8}, {8, 8}, {9, 16}, {1326, 1328}};
+  const std::pair<std::size_t, std::size_t> lengths[] = {
+      {0, 0}, {1, 8}, {8, 8}, {9, 16}, {1326, 1328}};
   for (const auto& [length, expected] : lengths) EXPECT_EQ(padded(length), expected);
 }
 

@@ -1,0 +1,20 @@
+// Where exhausted memory is an answer and not the end of the program.
+#pragma once
+
+namespace velmora_app {
+
+/// While one exists, faults on its thread are caught and end as a failed run or an empty estimate.
+class FaultScope {
+ public:
+  FaultScope();
+  ~FaultScope();
+  FaultScope(const FaultScope&) = delete;
+  FaultScope& operator=(const FaultScope&) = delete;
+};
+
+/// True within a scope, and on pool threads, which hand their faults to the thread that waits for
+/// them. A program whose out-of-memory handler ends it asks this first, and throws
+/// `std::bad_alloc` instead.
+bool faults_are_caught();
+
+}  // namespace velmora_app

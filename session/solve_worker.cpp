@@ -1,0 +1,116 @@
+#include "solve_worker.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <chrono>
+#include <new>
+
+#include "discounted_cfr.h"
+#include "game.h"
+#include "node_locks.h"
+#include "result_snapshot.h"
+#include "spot_translation.h"
+#include "system_memory.h"
+
+namespace velmora_app {
+namespace {
+
+constexpr std::uint32_t kCheckInterval = 50;
+/// Reports before the end stay below a full bar.
+constexpr double kMostProgress = 0.999;
+
+double fraction_of(std::uint32_t iterations, std::uint32_t max_iterations) {
+  if (max_iterations == 0) return 0;
+  return std::clamp(static_cast<double>(iterations) / max_iterations, 0.0, kMostProgress);
+}
+
+/// The pages read the number out of the text, so it must not follow the user's locale.
+std::string iteration_status(std::uint32_t iteration, float exploitability) {
+  std::array<char, 64> digits{};
+  char* const end = std::to_chars(digits.data(), digits.data() + digits.size(),
+                                  static_cast<double>(exploitability), std::chars_format::fixed, 4)
+                        .ptr;
+  return "Iter " + std::to_string(iteration) + " | exploitability≈" +
+         std::string(digits.data(), end);
+}
+
+/// The system hands out more memory than it has and ends the program that uses it; so a spot that
+/// can't fit is refused before its tree and tables are made.
+void check_memory(const velmora::GameSettings& settings, const velmora::CardContext& cards,
+                  bool compressed) {
+  const std::uint64_t available = available_memory_bytes();
+  if (available == 0) return;
+  const velmora::PlanCounts counts = velmora::count_plan(settings, cards);
+  const std::uint64_t tables = velmora::SolverState::table_bytes(counts, cards, compressed);
+  const std::uint64_t per_node = sizeof(velmora::PlanNode) + sizeof(velmora::Action) +
+                                 sizeof(velmora::NodeIndex) + TreeSnapshot::bytes_for(1);
+  if (tables > available || counts.nodes > (available - tables) / per_node) throw std::bad_alloc();
+}
+
+double seconds_since(std::chrono::steady_clock::time_point start) {
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+}  // namespace
+
+SolvedSpot run_solve(const SolveConfig& config, const std::function<bool()>& cancelled,
+                     const std::function<void(const SolveProgress&)>& report, SolveResult& result) {
+  const auto start = std::chrono::steady_clock::now();
+  const auto stage = [&report](double progress, const char* status) {
+    SolveProgress p;
+    p.progress = progress;
+    p.status = status;
+    report(p);
+  };
+
+  // Step 1. The request.
+  result.board = config.board;
+  const SpotCards spot = translate_cards(config);
+  velmora::GameSettings settings = translate_settings(config);
+  result.starting_pot = config.starting_pot;
+  result.effective_stack = config.effective_stack;
+  translate_sizing(config, settings);
+
+  // Step 2. The game.
+  stage(0, "Init: building game object...");
+  velmora::CardContext cards(spot.board, spot.weights);
+  check_memory(settings, cards, config.compressed_storage);
+  const auto game = std::make_shared<velmora::Game>(std::move(settings), std::move(cards));
+  if (!config.node_locks.empty()) velmora::build_node_locks(*game, config.node_locks);
+
+  // Step 3. The solver.
+  velmora::SolverOptions options;
+  options.max_iterations = config.max_iterations;
+  options.target_exploitability = config.target_exploitability;
+  options.check_interval = kCheckInterval;
+  options.compressed_storage = config.compressed_storage;
+  options.threads = config.thread_count;
+  options.cancel = cancelled;
+  options.progress = [&](std::uint32_t iteration, float exploitability, double) {
+    SolveProgress p;
+    p.progress = fraction_of(iteration, config.max_iterations);
+    p.status = iteration_status(iteration, exploitability);
+    p.iteration = iteration;
+    p.exploitability = exploitability;
+    report(p);
+  };
+  stage(0, "Init: building game tree structures...");
+  const auto solver = std::make_shared<velmora::DiscountedCfr>(std::move(options));
+  stage(0, "Init: starting solver...");
+  result.build_seconds = seconds_since(start);
+  const auto solve_start = std::chrono::steady_clock::now();
+  solver->run(*game);
+  result.solve_seconds = seconds_since(solve_start);
+  if (cancelled()) return {};
+
+  // Step 4. The result.
+  const double done = fraction_of(solver->iterations_done(), config.max_iterations);
+  stage(done, "Finalizing: computing results...");
+  fill_summary(*game, *solver, result);
+  stage(done, "Finalizing: building result snapshot...");
+  fill_nodes(*game, *solver, solver->worker_count(), result);
+  return {game, solver};
+}
+
+}  // namespace velmora_app

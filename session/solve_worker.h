@@ -1,0 +1,18 @@
+// What happens on the worker thread between the start and the end of a run.
+#pragma once
+
+#include <functional>
+
+#include "solve_session.h"
+
+namespace velmora_app {
+
+/// Runs a request: translation, build, solve, snapshot. Reports the stages and each iteration to
+/// `report`. `result` is filled as far as the run gets; its `success` and `error` stay as they are.
+/// Gives the finished game and solver, or two null pointers if `cancelled` told the solver to stop.
+/// Throws the faults of the request, and `std::bad_alloc` for a spot that does not fit into the
+/// memory that the machine has left.
+SolvedSpot run_solve(const SolveConfig& config, const std::function<bool()>& cancelled,
+                     const std::function<void(const SolveProgress&)>& report, SolveResult& result);
+
+}  // namespace velmora_app

@@ -1,0 +1,118 @@
+#include "memory_estimate.h"
+
+#include <gtest/gtest.h>
+
+#include "game.h"
+#include "runs.h"
+#include "spot_translation.h"
+
+namespace session_test {
+namespace {
+
+using velmora::Game;
+using velmora::NodeKind;
+using velmora::PlanNode;
+using velmora_app::estimate_memory;
+using velmora_app::MemoryEstimate;
+
+std::unique_ptr<Game> build(const SolveConfig& config) {
+  const velmora_app::SpotCards spot = translate_cards(config);
+  velmora::GameSettings settings = translate_settings(config);
+  translate_sizing(config, settings);
+  return std::make_unique<Game>(settings, velmora::CardContext(spot.board, spot.weights));
+}
+
+std::vector<SolveConfig> requests() {
+  SolveConfig flop = flop_request();
+  SolveConfig rainbow = flop_request();
+  rainbow.board = "AhKd7c";
+  SolveConfig turn = river_request();
+  turn.board = "AhKd7c2s";
+  turn.starting_street = "turn";
+  turn.effective_stack = 400;
+  turn.oop_turn = turn.ip_turn = {"33,75", "2.5x", true, true};
+  SolveConfig mismatch = turn;
+  mismatch.starting_street = "flop";
+  return {flop, rainbow, turn, mismatch, river_request()};
+}
+
+TEST(MemoryEstimate, IsThatOfTheBuiltGame) {
+  for (SolveConfig config : requests()) {
+    SCOPED_TRACE(config.board + " " + config.starting_street);
+    const auto game = build(config);
+    std::uint64_t decisions = 0;
+    std::uint64_t cells = 0;
+    std::uint64_t entries = 0;
+    for (const PlanNode& node : game->nodes()) {
+      entries += node.actions.size() + node.children.size();
+      if (node.kind != NodeKind::kDecision) continue;
+      ++decisions;
+      cells += node.actions.size() * game->num_hands(node.seat);
+    }
+    for (const bool compressed : {false, true}) {
+      config.compressed_storage = compressed;
+      config.node_locks = {{12345678, "AA", 9, 1}};
+      std::string error = "untouched";
+      const std::optional<MemoryEstimate> found = estimate_memory(config, error);
+      ASSERT_TRUE(found) << error;
+      EXPECT_EQ(error, "untouched");
+      EXPECT_EQ(found->node_count, game->nodes().size());
+      EXPECT_EQ(found->decision_node_count, decisions);
+      EXPECT_EQ(found->oop_hands, game->num_hands(velmora::kOop));
+      EXPECT_EQ(found->ip_hands, game->num_hands(velmora::kIp));
+      EXPECT_EQ(found->state_bytes, cells * (compressed ? 4 : 8));
+      EXPECT_EQ(found->tree_bytes, game->nodes().size() * 72 + entries * 8);
+      EXPECT_EQ(found->context_bytes, game->cards().memory_bytes());
+      const std::uint64_t sum = found->tree_bytes + found->context_bytes + found->state_bytes;
+      EXPECT_EQ(found->total_bytes, static_cast<std::uint64_t>(static_cast<double>(sum) * 1.1));
+    }
+  }
+}
+
+TEST(MemoryEstimate, FaultsAreBareTexts) {
+  struct Case {
+    std::function<void(SolveConfig&)> change;
+    const char* error;
+  };
+  const Case cases[] = {
+      {[](SolveConfig& c) { c.board = "AhKd7"; },
+       "Board must include at least a flop (6 chars, e.g. AhKsQd)"},
+      {[](SolveConfig& c) { c.board = "AhKd7cAh"; }, "Turn conflicts with flop"},
+      {[](SolveConfig& c) { c.ip_range = "AKx"; }, "Invalid suitedness suffix"},
+      {[](SolveConfig& c) { c.oop_range = ""; }, "Player range empty after filtering board cards"},
+      {[](SolveConfig& c) { c.oop_flop.bet_sizes = "2x"; },
+       "Relative raise (x) is not allowed in this context"},
+      {[](SolveConfig& c) { c.ip_river.raise_sizes = "5c3c"; }, "Raise cap must end with 'r'"},
+      {[](SolveConfig& c) { c.ip_turn.bet_sizes = "e"; }, "Sizing: invalid token 'e'"},
+      {[](SolveConfig& c) {
+         c.effective_stack = 100000;
+         c.oop_river = c.ip_river = {.bet_sizes = "1c", .raise_sizes = "1c"};
+       },
+       "Betting tree is too deep"},
+  };
+  for (const Case& c : cases) {
+    SolveConfig config = river_request();
+    c.change(config);
+    std::string error;
+    EXPECT_FALSE(estimate_memory(config, error)) << c.error;
+    EXPECT_EQ(error, c.error);
+  }
+}
+
+/// A spot that no machine could hold is told by its figures, not by a fault.
+TEST(MemoryEstimate, CoversSpotsBeyondAnyMachine) {
+  SolveConfig config = flop_request();
+  config.board = "AhKd7c";
+  config.effective_stack = 10000;
+  config.oop_flop = config.ip_flop = config.oop_turn = config.ip_turn = config.oop_river =
+      config.ip_river = {.bet_sizes = "10,20,33,50,75,100,150", .raise_sizes = "2x,3x,4x"};
+  std::string error;
+  const std::optional<MemoryEstimate> found = estimate_memory(config, error);
+  ASSERT_TRUE(found) << error;
+  EXPECT_GT(found->node_count, std::uint64_t{1} << 32);
+  EXPECT_GT(found->tree_bytes, found->node_count * 72);
+  EXPECT_GT(found->total_bytes, found->tree_bytes);
+}
+
+}  // namespace
+}  // namespace session_test

@@ -1,0 +1,182 @@
+#include "result_snapshot.h"
+
+#include <cmath>
+#include <limits>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "action_text.h"
+#include "runs.h"
+
+namespace session_test {
+namespace {
+
+using ::testing::ElementsAre;
+using velmora::kNoCard;
+using velmora::NodeKind;
+using velmora::PlanNode;
+using velmora_app::ActionMeta;
+using velmora_app::NodeMeta;
+using velmora_app::SolvedSpot;
+using velmora_app::TreeSnapshot;
+
+TEST(ResultSnapshot, MirrorsEveryNode) {
+  SolveSession session;
+  SolveConfig config = flop_request();
+  config.max_iterations = 4;
+  const SolveResult result = result_of(session, config);
+  ASSERT_TRUE(result.success) << result.error;
+  const SolvedSpot spot = session.solved_spot();
+  ASSERT_EQ(result.nodes->size(), spot.game->nodes().size());
+
+  int runouts = 0;
+  for (std::size_t i = 0; i < result.nodes->size(); ++i) {
+    const PlanNode& node = spot.game->nodes()[i];
+    const NodeMeta meta = result.nodes->node(i);
+    const bool decides = node.kind == NodeKind::kDecision;
+    ASSERT_EQ(meta.node_type, decides                          ? "decision"
+                              : node.kind == NodeKind::kChance ? "chance"
+                                                               : "terminal");
+    ASSERT_EQ(meta.player, !decides ? "" : node.seat == velmora::kOop ? "OOP" : "IP");
+    ASSERT_EQ(meta.chance_deal, node.kind != NodeKind::kChance ? ""
+                                : node.turn == kNoCard         ? "turn"
+                                                               : "river");
+    ASSERT_EQ(meta.pot, node.pot);
+    ASSERT_EQ(meta.invested_oop, node.invested[0]);
+    ASSERT_EQ(meta.invested_ip, node.invested[1]);
+    ASSERT_EQ(meta.actions.size(), node.actions.size());
+    ASSERT_EQ(result.nodes->has_children(i), !node.children.empty());
+    if (node.actions.empty()) continue;
+    if (node.runout) ++runouts;
+
+    // The plain mean over the hands of the seat, each counting the same.
+    std::vector<double> means(node.actions.size(), 1.0 / static_cast<double>(node.actions.size()));
+    if (decides) {
+      const std::vector<float> strategy = spot.solver->average_strategy(i);
+      const std::size_t hands = spot.game->num_hands(node.seat);
+      ASSERT_EQ(strategy.size(), hands * means.size());
+      for (std::size_t a = 0; a < means.size(); ++a) {
+        means[a] = 0;
+        for (std::size_t h = 0; h < hands; ++h) {
+          means[a] += static_cast<double>(strategy[a * hands + h]) / static_cast<double>(hands);
+        }
+      }
+    }
+    for (std::size_t a = 0; a < means.size(); ++a) {
+      const ActionMeta& action = meta.actions[a];
+      ASSERT_NEAR(action.frequency, means[a], 1e-6) << "node " << i;
+      ASSERT_EQ(action.child_index, node.children[a]);
+      ASSERT_EQ(action.name, velmora_app::action_label(node.actions[a], node.pot));
+      ASSERT_EQ(action.action_type, velmora_app::action_key(node.actions[a], node.pot));
+    }
+  }
+  EXPECT_GT(runouts, 0);
+}
+
+TEST(ResultSnapshot, SummaryIsThatOfTheSolverAndTheRoot) {
+  SolveSession session;
+  const SolveResult result = result_of(session, river_request());
+  const SolvedSpot spot = session.solved_spot();
+  EXPECT_EQ(result.iterations, spot.solver->iterations_done());
+  EXPECT_EQ(result.exploitability, spot.solver->exploitability());
+  EXPECT_EQ(result.ev_oop, spot.solver->cf_values(*spot.game)[0]);
+  EXPECT_EQ(result.ev_ip, spot.solver->cf_values(*spot.game)[1]);
+  EXPECT_THAT(result.root_action_names, ElementsAre("Check", "Bet 50%", "All-In"));
+  EXPECT_THAT(result.root_action_types, ElementsAre("check", "bet 50%", "allin"));
+  const NodeMeta root = result.nodes->node(0);
+  ASSERT_EQ(result.root_action_freqs.size(), 3U);
+  for (std::size_t a = 0; a < 3; ++a) {
+    EXPECT_EQ(result.root_action_freqs[a], root.actions[a].frequency);
+  }
+}
+
+/// Percentages are shares of the node's pot; where there is none, of the starting pot.
+TEST(ResultSnapshot, BasesOfPercentages) {
+  struct Case {
+    std::int32_t pot;
+    const char* sizes;
+    std::vector<std::string> root;
+    std::vector<std::string> facing;  ///< Of the other seat after the first bet.
+  };
+  const Case cases[] = {
+      {100, "33", {"Check", "Bet 33%"}, {"Fold", "Call", "Raise 59%"}},
+      {7, "12c", {"Check", "Bet 171%"}, {"Fold", "Call", "Raise 153%"}},
+      {0, "50", {"Check", "Bet"}, {"Fold", "Call", "Raise 200%"}},
+  };
+  SolveSession session;
+  for (const Case& c : cases) {
+    SolveConfig config = river_request();
+    config.starting_pot = c.pot;
+    config.max_iterations = 0;
+    config.oop_river = config.ip_river = {c.sizes, "2.4x", false, false};
+    const SolveResult result = result_of(session, config);
+    ASSERT_TRUE(result.success) << result.error;
+    EXPECT_EQ(result.root_action_names, c.root);
+    const NodeMeta root = result.nodes->node(0);
+    const NodeMeta facing = result.nodes->node(root.actions[1].child_index);
+    std::vector<std::string> names;
+    for (const ActionMeta& action : facing.actions) {
+      names.push_back(action.name);
+      EXPECT_EQ(action.frequency, 1.0F / 3);
+    }
+    EXPECT_EQ(names, c.facing);
+    EXPECT_EQ(facing.player, "IP");
+  }
+}
+
+NodeMeta node_of(std::vector<ActionMeta> actions) {
+  NodeMeta node;
+  node.node_type = "decision";
+  node.player = "IP";
+  node.pot = 5;
+  node.actions = std::move(actions);
+  return node;
+}
+
+TEST(TreeSnapshot, GivesBackWhatItWasGiven) {
+  TreeSnapshot snapshot;
+  EXPECT_EQ(snapshot.size(), 0U);
+  EXPECT_THROW(snapshot.node(0), std::out_of_range);
+  // More actions than 16 bits count.
+  std::vector<ActionMeta> many(70000, {"Bet 33%", "bet 33%", 0.25F, 7});
+  many.back() = {"Fold", "fold", 1, 9};
+  snapshot.append(node_of({}));
+  snapshot.append(node_of(many));
+  snapshot.append(node_of({{"Call", "call", 0.5F, std::numeric_limits<std::uint32_t>::max()}}));
+  snapshot.append(node_of({}));
+
+  EXPECT_EQ(snapshot.size(), 4U);
+  EXPECT_FALSE(snapshot.has_children(0));
+  EXPECT_TRUE(snapshot.has_children(1));
+  EXPECT_TRUE(snapshot.has_children(2));
+  EXPECT_FALSE(snapshot.has_children(3));
+  EXPECT_THROW(static_cast<void>(snapshot.has_children(4)), std::out_of_range);
+  const NodeMeta wide = snapshot.node(1);
+  ASSERT_EQ(wide.actions.size(), many.size());
+  EXPECT_EQ(wide.actions[69998].name, "Bet 33%");
+  EXPECT_EQ(wide.actions[69999].action_type, "fold");
+  EXPECT_EQ(wide.actions[69999].child_index, 9U);
+  EXPECT_EQ(wide.player, "IP");
+  EXPECT_EQ(wide.chance_deal, "");
+  const NodeMeta narrow = snapshot.node(2);
+  ASSERT_EQ(narrow.actions.size(), 1U);
+  EXPECT_EQ(narrow.actions[0].child_index, std::numeric_limits<std::uint32_t>::max());
+  EXPECT_EQ(narrow.actions[0].frequency, 0.5F);
+}
+
+TEST(TreeSnapshot, RefusesMoreTextsThanItCanTellApart) {
+  TreeSnapshot snapshot;
+  const auto append_all = [&snapshot] {
+    for (int i = 0; i < 40000; ++i) {
+      const std::string number = std::to_string(i);
+      snapshot.append(node_of({{"Bet " + number + "%", "bet " + number + "%", 1, 0}}));
+    }
+  };
+  EXPECT_THROW(append_all(), std::length_error);
+  // What went in before that can still be read.
+  EXPECT_EQ(snapshot.node(30000).actions[0].name, "Bet 30000%");
+}
+
+}  // namespace
+}  // namespace session_test

@@ -1,0 +1,348 @@
+#include "solve_session.h"
+
+#include <atomic>
+#include <cmath>
+#include <future>
+#include <stdexcept>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "discounted_cfr.h"
+#include "game.h"
+#include "runs.h"
+
+namespace session_test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::StartsWith;
+using velmora_app::SolvedSpot;
+
+constexpr std::uint32_t kForever = 4'000'000'000U;
+
+bool is_empty(const SolvedSpot& spot) {
+  return !spot.game && !spot.solver;
+}
+
+TEST(SolveSession, ReportsTheStagesInOrder) {
+  SolveSession session;
+  Reports reports;
+  std::atomic<bool> readable = false;
+  ASSERT_TRUE(session.start(river_request(), reports.callback([&](const SolveProgress& report) {
+    EXPECT_TRUE(session.running());
+    if (!report.result) return;
+    const SolvedSpot spot = session.solved_spot();
+    readable = spot.game && spot.solver && spot.solver->iterations_done() == 3 &&
+               report.result->nodes->size() == spot.game->nodes().size();
+  })));
+  const SolveResult result = reports.result();
+  EXPECT_TRUE(readable);
+
+  const std::vector<SolveProgress> all = reports.all();
+  EXPECT_THAT(reports.statuses(),
+              ElementsAre("Init: building game object...", "Init: building game tree structures...",
+                          "Init: starting solver...", "Iter 1 | exploitability≈0.0000",
+                          "Iter 2 | exploitability≈0.0000", StartsWith("Iter 3 | exploitability≈"),
+                          "Finalizing: computing results...",
+                          "Finalizing: building result snapshot...", "Done"));
+  const double progress[] = {0, 0, 0, 1.0 / 3, 2.0 / 3, 0.999, 0.999, 0.999, 1};
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    EXPECT_EQ(all[i].progress, progress[i]) << all[i].status;
+    EXPECT_EQ(all[i].result.has_value(), i + 1 == all.size()) << all[i].status;
+    EXPECT_EQ(all[i].iteration, i >= 3 && i < 6 ? i - 2 : 0) << all[i].status;
+  }
+  EXPECT_EQ(all[4].exploitability, 0);
+  EXPECT_EQ(all[5].exploitability, result.exploitability);
+  EXPECT_GT(result.exploitability, 0);
+  char status[64];
+  std::snprintf(status, sizeof status, "Iter 3 | exploitability≈%.4f",
+                static_cast<double>(result.exploitability));
+  EXPECT_EQ(all[5].status, status);
+
+  EXPECT_TRUE(result.success);
+  EXPECT_EQ(result.error, "");
+  EXPECT_EQ(result.board, "AhKd7c2s9h");
+  EXPECT_EQ(result.starting_pot, 100);
+  EXPECT_EQ(result.effective_stack, 100);
+  EXPECT_EQ(result.iterations, 3U);
+  EXPECT_GE(result.build_seconds, 0);
+  EXPECT_GE(result.solve_seconds, 0);
+}
+
+TEST(SolveSession, StopsAtTheTargetWhereItMeasures) {
+  SolveSession session;
+  SolveConfig config = river_request();
+  config.max_iterations = 200;
+  config.target_exploitability = 1000;
+  const std::vector<SolveProgress> reports = run(session, config);
+  ASSERT_EQ(reports.size(), 3U + 50 + 3);
+  EXPECT_EQ(reports[52].status.rfind("Iter 50 | ", 0), 0U);
+  EXPECT_EQ(reports[53].progress, 0.25);
+  EXPECT_EQ(reports[54].progress, 0.25);
+  EXPECT_EQ(reports.back().result->iterations, 50U);
+
+  config.max_iterations = 0;
+  const std::vector<SolveProgress> none = run(session, config);
+  ASSERT_EQ(none.size(), 6U);
+  for (std::size_t i = 0; i < 5; ++i) EXPECT_EQ(none[i].progress, 0) << none[i].status;
+  EXPECT_EQ(none.back().status, "Done");
+  EXPECT_EQ(none.back().progress, 1);
+  const SolveResult& result = *none.back().result;
+  EXPECT_TRUE(result.success);
+  EXPECT_EQ(result.iterations, 0U);
+  EXPECT_EQ(result.exploitability, 0);
+  EXPECT_THAT(result.root_action_freqs, ElementsAre(1.0F / 3, 1.0F / 3, 1.0F / 3));
+}
+
+TEST(SolveSession, FaultsEndARunWithTheirText) {
+  struct Case {
+    std::function<void(SolveConfig&)> change;
+    std::string error;
+    std::size_t reports = 1;  ///< The last one included: a bad request says nothing before it.
+  };
+  const std::string short_board = "Board must include at least a flop (6 chars, e.g. AhKsQd)";
+  const Case cases[] = {
+      {[](SolveConfig& c) { c = {}; }, short_board},
+      {[](SolveConfig& c) { c.board = "AhKd7"; }, short_board},
+      {[](SolveConfig& c) { c.board = "AhKd7x2s"; }, "Invalid suit character"},
+      {[](SolveConfig& c) { c.board = "AhKd1c2s"; }, "Invalid rank character"},
+      {[](SolveConfig& c) { c.board = "AhKdAh"; }, "Flop cards must be unique"},
+      {[](SolveConfig& c) { c.board = "Ah Kd 7c"; },
+       "Flop string must contain exactly three cards"},
+      {[](SolveConfig& c) { c.board = "AhKd7cKd"; }, "Turn conflicts with flop", 2},
+      {[](SolveConfig& c) { c.board = "AhKd7c2s2s"; }, "River conflicts with existing cards", 2},
+      // The board comes before the ranges, OOP before IP, the ranges before the sizes.
+      {[](SolveConfig& c) {
+         c.board = "";
+         c.oop_range = "XX";
+       },
+       short_board},
+      {[](SolveConfig& c) {
+         c.oop_range = "AKx";
+         c.ip_range = "KA";
+       },
+       "Invalid suitedness suffix"},
+      {[](SolveConfig& c) {
+         c.ip_range = "KA";
+         c.oop_river.bet_sizes = "%";
+       },
+       "First rank must be >= second rank"},
+      {[](SolveConfig& c) { c.ip_range = "AA:1.5"; }, "Weight must be within [0, 1]"},
+      {[](SolveConfig& c) { c.ip_range = "..%"; },
+       "Invalid percent range '..%' (expected like '50%')"},
+      {[](SolveConfig& c) { c.oop_range = "AsAhAd"; }, "Invalid combo pattern length"},
+      {[](SolveConfig& c) { c.oop_range = ""; }, "Player range empty after filtering board cards",
+       2},
+      {[](SolveConfig& c) { c.ip_range = "AhKd"; },
+       "Player range empty after filtering board cards", 2},
+      // Sizes of all streets are read, also of those that the board has left behind.
+      {[](SolveConfig& c) { c.oop_flop.bet_sizes = "2x"; },
+       "OOP flop sizing (bet='2x', raise='', bet_norm='2x', raise_norm=''): "
+       "Relative raise (x) is not allowed in this context"},
+      {[](SolveConfig& c) {
+         c.ip_turn = {"33", "0.5x", true, false};
+       },
+       "IP turn sizing (bet='33', raise='0.5x', bet_norm='33%,a', raise_norm='0.5x,a'): "
+       "Relative raise must exceed 1.0x"},
+      {[](SolveConfig& c) {
+         c.ip_river.raise_sizes = "5c3c";
+         c.oop_river.raise_sizes = "1c0r";
+       },
+       "OOP river sizing (bet='50, a', raise='1c0r', bet_norm='50%,a', raise_norm='1c0r'): "
+       "Raise cap must be positive"},
+      {[](SolveConfig& c) { c.oop_river.bet_sizes = "%"; },
+       "Sizing: invalid token '%'. Use numbers like '33, 75' or '33%, 75%'"},
+      {[](SolveConfig& c) { c.ip_flop.raise_sizes = "33,x"; }, "Sizing: invalid token 'x'"},
+      // Trees that nobody could hold.
+      {[](SolveConfig& c) {
+         c.effective_stack = 100000;
+         c.oop_river = c.ip_river = {.bet_sizes = "1c", .raise_sizes = "1c"};
+       },
+       "Betting tree is too deep", 2},
+      {[](SolveConfig& c) {
+         c.board = "AhKd7c";
+         c.starting_street = "flop";
+         c.effective_stack = 10000;
+         c.oop_flop = c.ip_flop = c.oop_turn = c.ip_turn = c.oop_river =
+             c.ip_river = {.bet_sizes = "10,20,33,50,75,100,150", .raise_sizes = "2x,3x,4x"};
+       },
+       "std::bad_alloc", 2},
+  };
+  SolveSession session;
+  for (const Case& c : cases) {
+    ASSERT_TRUE(result_of(session, river_request()).success);
+    SolveConfig config = river_request();
+    c.change(config);
+    const std::vector<SolveProgress> reports = run(session, config);
+    const SolveProgress& last = reports.back();
+    EXPECT_EQ(last.status, "Error: " + c.error);
+    EXPECT_EQ(last.result->error, c.error);
+    EXPECT_FALSE(last.result->success);
+    EXPECT_EQ(last.result->board, config.board);
+    EXPECT_EQ(last.result->nodes, nullptr);
+    EXPECT_EQ(last.progress, 0);
+    EXPECT_EQ(reports.size(), c.reports) << c.error;
+    EXPECT_TRUE(is_empty(session.solved_spot())) << c.error;
+  }
+}
+
+/// A fault of the receiver of the reports is one of the run.
+TEST(SolveSession, FaultsOfTheCallbackEndTheRun) {
+  SolveSession session;
+  const auto error_where = [&session](auto&& fault) {
+    Reports reports;
+    session.start(river_request(), reports.callback([&](const SolveProgress& report) {
+      if (report.status == "Init: starting solver...") fault();
+    }));
+    return reports.result().error;
+  };
+  EXPECT_EQ(error_where([] { throw std::runtime_error("no room"); }), "no room");
+  EXPECT_EQ(error_where([] { throw 7; }), "Unknown error");
+  EXPECT_EQ(error_where([] {}), "");
+}
+
+TEST(SolveSession, CancelStopsBetweenIterations) {
+  struct Case {
+    std::string at;    ///< Cancelled in the report that begins so.
+    std::string last;  ///< Status of the last report before the end.
+    std::uint32_t iterations = 10;
+  };
+  const Case cases[] = {{"Init: building game object...", "Init: starting solver..."},
+                        {"Init: starting solver...", "Init: starting solver..."},
+                        {"Iter 7 |", "Iter 7 |"},
+                        {"Iter 10 |", "Iter 10 |"}};
+  SolveSession session;
+  for (const Case& c : cases) {
+    SolveConfig config = river_request();
+    config.max_iterations = c.iterations;
+    Reports reports;
+    ASSERT_TRUE(session.start(config, reports.callback([&](const SolveProgress& report) {
+      if (report.status.rfind(c.at, 0) == 0) session.cancel();
+    })));
+    const SolveResult result = reports.result();
+    const std::vector<SolveProgress> all = reports.all();
+    EXPECT_EQ(all.back().status, "Cancelled");
+    EXPECT_EQ(all.back().progress, 0);
+    EXPECT_FALSE(result.success);
+    EXPECT_EQ(result.error, "Cancelled");
+    EXPECT_EQ(result.board, config.board);
+    EXPECT_THAT(all[all.size() - 2].status, StartsWith(c.last));
+    EXPECT_TRUE(is_empty(session.solved_spot()));
+  }
+
+  // Too late: the run is over but for its result.
+  for (const char* at : {"Finalizing: computing", "Finalizing: building", "Done"}) {
+    Reports reports;
+    ASSERT_TRUE(session.start(river_request(), reports.callback([&](const SolveProgress& report) {
+      if (report.status.rfind(at, 0) == 0) session.cancel();
+    })));
+    EXPECT_TRUE(reports.result().success) << at;
+    EXPECT_FALSE(is_empty(session.solved_spot())) << at;
+  }
+  // And a cancel without a run does nothing to the next.
+  session.cancel();
+  EXPECT_TRUE(result_of(session, river_request()).success);
+}
+
+TEST(SolveSession, OneRunAtATime) {
+  SolveSession session;
+  SolveConfig endless = river_request();
+  endless.max_iterations = kForever;
+  endless.target_exploitability = -1;
+  Reports first;
+  ASSERT_TRUE(session.start(endless, first.callback()));
+  first.wait_for(10);
+  auto dropped = std::make_shared<int>(0);
+  const std::weak_ptr<int> kept = dropped;
+  EXPECT_FALSE(session.start(river_request(), [dropped = std::move(dropped)](const auto&) {
+    ADD_FAILURE() << "a refused run reports";
+  }));
+  EXPECT_TRUE(kept.expired());
+  EXPECT_TRUE(session.running());
+  EXPECT_TRUE(is_empty(session.solved_spot()));
+  first.wait_for(first.all().size() + 10);
+  session.cancel();
+  EXPECT_EQ(first.result().error, "Cancelled");
+
+  // As soon as the last report is there, the next run can start.
+  for (int i = 0; i < 20; ++i) EXPECT_TRUE(result_of(session, river_request()).success);
+}
+
+/// Also where the run ends at once, while the call that started it has hardly returned.
+TEST(SolveSession, NoStartFromInsideACallback) {
+  for (int i = 0; i < 50; ++i) {
+    SolveSession session;
+    Reports reports;
+    std::atomic<int> started = 0;
+    ASSERT_TRUE(session.start({}, reports.callback([&](const SolveProgress&) {
+      if (session.start(river_request(), {})) ++started;
+    })));
+    reports.result();
+    EXPECT_TRUE(result_of(session, river_request()).success);
+    EXPECT_EQ(started, 0);
+  }
+}
+
+TEST(SolveSession, DestructionCancelsAndWaits) {
+  SolveConfig endless = river_request();
+  endless.max_iterations = kForever;
+  endless.target_exploitability = -1;
+  for (const char* moment : {"Init: building game object...", "Iter 1 |"}) {
+    Reports reports;
+    {
+      SolveSession session;
+      std::promise<void> reached;
+      ASSERT_TRUE(session.start(
+          endless, reports.callback([&, once = false](const SolveProgress& report) mutable {
+            if (!once && report.status.rfind(moment, 0) == 0) {
+              once = true;
+              reached.set_value();
+            }
+          })));
+      reached.get_future().wait();
+    }
+    ASSERT_TRUE(reports.all().back().result);
+    EXPECT_EQ(reports.all().back().status, "Cancelled");
+  }
+}
+
+TEST(SolveSession, ResultsLiveAsLongAsTheyAreRead) {
+  SolveSession session;
+  EXPECT_TRUE(is_empty(session.solved_spot()));
+  // What is dropped during a run is that of the run before.
+  Reports reports;
+  ASSERT_TRUE(session.start(river_request(), reports.callback([&](const SolveProgress& report) {
+    if (!report.result) session.clear();
+  })));
+  const SolveResult result = reports.result();
+  const SolvedSpot held = session.solved_spot();
+  ASSERT_FALSE(is_empty(held));
+  session.clear();
+  EXPECT_TRUE(is_empty(session.solved_spot()));
+  EXPECT_EQ(held.solver->cf_values(*held.game)[0], result.ev_oop);
+  EXPECT_EQ(held.game.use_count(), 1);
+
+  // A new run begins without the results of the old one, and has objects of its own.
+  ASSERT_TRUE(result_of(session, river_request()).success);
+  const velmora::Game* const old_game = session.solved_spot().game.get();
+  Reports second;
+  std::atomic<bool> dropped = false;
+  ASSERT_TRUE(session.start(river_request(), second.callback([&](const SolveProgress& report) {
+    if (report.status == "Init: building game object...") dropped = is_empty(session.solved_spot());
+  })));
+  second.result();
+  EXPECT_TRUE(dropped);
+  EXPECT_NE(old_game, nullptr);
+  EXPECT_EQ(held.solver->cf_values(*held.game)[1], result.ev_ip);
+}
+
+TEST(SolveSession, RunsWithoutACallback) {
+  SolveSession session;
+  ASSERT_TRUE(session.start(river_request(), {}));
+  while (session.running()) std::this_thread::yield();
+  EXPECT_FALSE(is_empty(session.solved_spot()));
+}
+
+}  // namespace
+}  // namespace session_test
