@@ -1,0 +1,247 @@
+#include "app_controller.h"
+
+#include <exception>
+#include <utility>
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDesktopServices>
+#include <QTimer>
+
+#include "developer_mode.h"
+#include "processor_count.h"
+#include "solve_config_map.h"
+#include "solve_request.h"
+#include "text_files.h"
+
+using velmora_app::SolveConfig;
+using velmora_app::SolveProgress;
+using velmora_app::SolveResult;
+
+namespace {
+
+/// Intermediate reports are shown, and logged, no more often than a screen changes.
+constexpr int kReportIntervalMilliseconds = 16;
+
+void openBesideExecutable(const QString& path) {
+  QDesktopServices::openUrl(
+      QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + QLatin1Char('/') + path));
+}
+
+}  // namespace
+
+AppController::AppController(QObject* parent)
+    : AppController(MemoryMonitor::systemSources(), parent) {}
+
+AppController::AppController(MemoryMonitor::Sources memorySources, QObject* parent)
+    : QObject(parent),
+      developerMode_(developerModeOfEnvironment()),
+      systemThreadCount_(usableProcessorCount()),
+      memory_(std::move(memorySources)) {
+  connect(&memory_, &MemoryMonitor::systemMemoryChanged, this, &AppController::systemMemoryChanged);
+  connect(&memory_, &MemoryMonitor::solveRequiredMemoryChanged, this,
+          &AppController::solveRequiredMemoryChanged);
+  setStatus(tr("Ready"));
+}
+
+QString AppController::appDir() const {
+  return QCoreApplication::applicationDirPath();
+}
+
+void AppController::setRunning(bool running) {
+  if (running == running_) return;
+  running_ = running;
+  emit runningChanged();
+}
+
+void AppController::setProgress(double progress) {
+  if (progress == progress_) return;
+  progress_ = progress;
+  emit progressChanged();
+}
+
+void AppController::setStatus(const QString& text) {
+  if (text == statusText_) return;
+  statusText_ = text;
+  emit statusTextChanged();
+}
+
+void AppController::dropResult() {
+  outcome_ = {};
+  tree_.clear();
+}
+
+void AppController::startSolve() {
+  startSolveWithConfig({});
+}
+
+void AppController::startSolveWithConfig(const QVariantMap& cfg) {
+  if (running_) return;
+  setStatus(tr("Starting..."));
+  qInfo().noquote() << describeSolveRequest(cfg);
+  lastUiCfg_ = cfg;
+
+  // Step 1. Refuse what can't be solved, while the previous result is still there.
+  if (const QString refusal = refusalOf(cfg); !refusal.isEmpty()) {
+    setStatus(refusal);
+    return;
+  }
+  SolveConfig config = makeSolveConfig(cfg);
+  if (cfg.value("apply_node_locks", false).toBool()) config.node_locks = nodeLockTable_.entries();
+
+  // Step 2. Make room: only then is the available memory what the solve may take.
+  session_.clear();
+  dropResult();
+  memory_.noteResultsDropped();
+  emit resultsChanged();
+  emit systemMemoryChanged();
+  memory_.refreshAvailable();
+  memory_.noteSolveStarted();
+  const quint64 required = memory_.requiredBytes();
+  const quint64 available = memory_.availableBytes();
+  if (required != 0 && available != 0 && available <= required) {
+    setStatus(tr("Not enough RAM to solve (after clearing previous results)"));
+    return;
+  }
+
+  // Step 3. Go.
+  setRunning(true);
+  startSession(config);
+}
+
+void AppController::startSession(const SolveConfig& config) {
+  const auto inbox = std::make_shared<ReportInbox>();
+  // On the worker's thread.
+  const auto post = [this, inbox](const SolveProgress& report) {
+    if (!inbox->put(report)) return;
+    QMetaObject::invokeMethod(
+        this, [this, inbox] { readInbox(inbox); }, Qt::QueuedConnection);
+  };
+  try {
+    if (!session_.start(config, post)) {
+      // A run whose results were cleared is still on its way to its end, which is reported.
+      setStatus(tr("Already running"));
+      return;
+    }
+    inbox_ = inbox;
+  } catch (const std::exception& fault) {
+    SolveProgress report;
+    report.status = std::string("Error: ") + fault.what();
+    report.result.emplace().error = fault.what();
+    handleSolveProgress(report);
+  }
+}
+
+void AppController::readInbox(const std::shared_ptr<ReportInbox>& inbox) {
+  if (inbox != inbox_) return;  // Of a run that a newer one has replaced.
+  const auto report = inbox->take();
+  if (!report) return;
+  if (!report->result) {
+    QTimer::singleShot(kReportIntervalMilliseconds, this, [this, inbox] { readInbox(inbox); });
+  }
+  handleSolveProgress(*report);
+}
+
+void AppController::handleSolveProgress(const SolveProgress& report) {
+  qInfo().noquote().nospace() << "UI solve progress: p=" << report.progress
+                              << " status=" << QString::fromStdString(report.status)
+                              << " has_result=" << report.result.has_value();
+  setProgress(report.progress);
+  setStatus(QString::fromStdString(report.status));
+  if (!report.result) return;  // A run ends with its result, even if its thread is gone by now.
+
+  const SolveResult& result = *report.result;
+  dropResult();
+  outcome_ = outcomeOf(result);
+  if (result.success) {
+    tree_.set(result.nodes, result.effective_stack);
+    memory_.noteResultsHeld();
+    emit systemMemoryChanged();
+  }
+  qInfo().noquote().nospace() << "UI about to emit resultsChanged: root_actions="
+                              << outcome_.rootActions.size()
+                              << " summary.len=" << outcome_.summary.size();
+  emit resultsChanged();
+  qInfo().noquote() << "UI emitted resultsChanged";
+  // No report follows this one. The session may need a moment more to put its thread away.
+  setRunning(false);
+}
+
+void AppController::reSolveWithNodeLocks() {
+  if (running_) return;
+  if (lastUiCfg_.isEmpty()) {
+    setStatus(tr("No previous solve config (solve once first)"));
+    return;
+  }
+  QVariantMap cfg = lastUiCfg_;
+  cfg["apply_node_locks"] = true;
+  startSolveWithConfig(cfg);
+}
+
+void AppController::cancelSolve() {
+  session_.cancel();
+  setStatus(tr("Cancelling..."));
+}
+
+void AppController::clearResults() {
+  session_.cancel();
+  session_.clear();
+  nodeLockTable_.clear();
+  dropResult();
+  lastUiCfg_.clear();
+  setProgress(0);
+  setStatus(tr("Ready"));
+  setRunning(false);
+  memory_.reset();
+  emit resultsChanged();
+  emit systemMemoryChanged();
+}
+
+void AppController::requestSolveMemoryEstimate(const QVariantMap& cfg) {
+  memory_.requestEstimate(cfg);
+}
+
+void AppController::openLicensesFolder() {
+  openBesideExecutable("licenses");
+}
+
+void AppController::openThirdPartyNotices() {
+  openBesideExecutable("licenses/THIRD_PARTY_NOTICES.txt");
+}
+
+QString AppController::readTextResource(const QString& path) {
+  return ::readTextResource(path);
+}
+
+QVariantMap AppController::saveTextFile(const QUrl& fileUrl, const QString& text) {
+  return ::saveTextFile(fileUrl, text);
+}
+
+QVariantMap AppController::readTextFile(const QUrl& fileUrl) {
+  return ::readTextFile(fileUrl);
+}
+
+void AppController::setNodeLock(int nodeIndex, const QString& handLabel169, int actionIndex,
+                                double actionProb) {
+  nodeLockTable_.set(nodeIndex, handLabel169, actionIndex, actionProb);
+}
+
+void AppController::clearNodeLocks(int nodeIndex) {
+  nodeLockTable_.clear(nodeIndex);
+}
+
+QVariantList AppController::nodeLocks(int nodeIndex) {
+  return nodeLockTable_.locksAt(nodeIndex);
+}
+
+int AppController::treeNodeCount() {
+  return tree_.nodeCount();
+}
+
+QVariantMap AppController::nodeMeta(int nodeIndex) {
+  return tree_.meta(nodeIndex);
+}
+
+QVariantList AppController::nodeActions(int nodeIndex) {
+  return tree_.actions(nodeIndex);
+}

@@ -1,0 +1,142 @@
+// The one object through which the pages reach the solver.
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+#include <QString>
+#include <QUrl>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include "memory_monitor.h"
+#include "node_lock_table.h"
+#include "report_inbox.h"
+#include "solve_outcome.h"
+#include "solve_session.h"
+#include "tree_mirror.h"
+
+/// A facade: it leads a solve from the pages' settings map to the finished result and passes
+/// everything else on to the classes that know. All of it is of the user-interface thread, and
+/// no call throws.
+class AppController : public QObject {
+  Q_OBJECT
+  Q_PROPERTY(QString appDir READ appDir CONSTANT)
+  Q_PROPERTY(bool useTbb READ useTbb CONSTANT)
+  Q_PROPERTY(int systemThreadCount READ systemThreadCount CONSTANT)
+  Q_PROPERTY(QString systemMemoryText READ systemMemoryText CONSTANT)
+  Q_PROPERTY(
+      QString systemAvailableMemoryText READ systemAvailableMemoryText NOTIFY systemMemoryChanged)
+  Q_PROPERTY(qulonglong systemMemoryBytes READ systemMemoryBytes CONSTANT)
+  Q_PROPERTY(qulonglong systemAvailableMemoryBytes READ systemAvailableMemoryBytes NOTIFY
+                 systemMemoryChanged)
+  Q_PROPERTY(QString effectiveAvailableMemoryText READ effectiveAvailableMemoryText NOTIFY
+                 systemMemoryChanged)
+  Q_PROPERTY(qulonglong effectiveAvailableMemoryBytes READ effectiveAvailableMemoryBytes NOTIFY
+                 systemMemoryChanged)
+  Q_PROPERTY(QString solveRequiredMemoryText READ solveRequiredMemoryText NOTIFY
+                 solveRequiredMemoryChanged)
+  Q_PROPERTY(qulonglong solveRequiredMemoryBytes READ solveRequiredMemoryBytes NOTIFY
+                 solveRequiredMemoryChanged)
+  Q_PROPERTY(bool running READ running NOTIFY runningChanged)
+  Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
+  Q_PROPERTY(QString statusText READ statusText NOTIFY statusTextChanged)
+  Q_PROPERTY(QString resultsSummary READ resultsSummary NOTIFY resultsChanged)
+  Q_PROPERTY(int resultStartingPot READ resultStartingPot NOTIFY resultsChanged)
+  Q_PROPERTY(int resultIterations READ resultIterations NOTIFY resultsChanged)
+  Q_PROPERTY(double resultExploitability READ resultExploitability NOTIFY resultsChanged)
+  Q_PROPERTY(double resultEvOop READ resultEvOop NOTIFY resultsChanged)
+  Q_PROPERTY(double resultEvIp READ resultEvIp NOTIFY resultsChanged)
+  Q_PROPERTY(QVariantList rootActions READ rootActions NOTIFY resultsChanged)
+  Q_PROPERTY(qulonglong resultsReclaimableMemoryBytes READ resultsReclaimableMemoryBytes NOTIFY
+                 resultsChanged)
+  Q_PROPERTY(bool developerMode READ developerMode CONSTANT)
+
+ public:
+  explicit AppController(QObject* parent = nullptr);
+  /// With memory figures of the caller's.
+  explicit AppController(MemoryMonitor::Sources memorySources, QObject* parent = nullptr);
+
+  QString appDir() const;
+  bool useTbb() const { return false; }
+  int systemThreadCount() const { return systemThreadCount_; }
+  QString systemMemoryText() const { return memory_.systemText(); }
+  QString systemAvailableMemoryText() const { return memory_.availableText(); }
+  qulonglong systemMemoryBytes() const { return memory_.systemBytes(); }
+  qulonglong systemAvailableMemoryBytes() const { return memory_.availableBytes(); }
+  QString effectiveAvailableMemoryText() const { return memoryText(memory_.effectiveAvailable()); }
+  qulonglong effectiveAvailableMemoryBytes() const { return memory_.effectiveAvailable(); }
+  QString solveRequiredMemoryText() const { return memory_.requiredText(); }
+  qulonglong solveRequiredMemoryBytes() const { return memory_.requiredBytes(); }
+  bool running() const { return running_; }
+  double progress() const { return progress_; }
+  QString statusText() const { return statusText_; }
+  QString resultsSummary() const { return outcome_.summary; }
+  int resultStartingPot() const { return outcome_.startingPot; }
+  int resultIterations() const { return outcome_.iterations; }
+  double resultExploitability() const { return outcome_.exploitability; }
+  double resultEvOop() const { return outcome_.evOop; }
+  double resultEvIp() const { return outcome_.evIp; }
+  QVariantList rootActions() const { return outcome_.rootActions; }
+  qulonglong resultsReclaimableMemoryBytes() const { return memory_.reclaimableBytes(); }
+  bool developerMode() const { return developerMode_; }
+
+  /// A solve of nothing, which is refused for its board.
+  Q_INVOKABLE void startSolve();
+  /// Starts the solve that a solve configuration map describes. A refusal is told by `statusText`.
+  Q_INVOKABLE void startSolveWithConfig(const QVariantMap& cfg);
+  /// Solves the latest spot again with the node locks in force.
+  Q_INVOKABLE void reSolveWithNodeLocks();
+  Q_INVOKABLE void cancelSolve();
+  /// Drops the result, the node locks and the settings of the latest solve.
+  Q_INVOKABLE void clearResults();
+  /// Answers by `solveRequiredMemoryChanged`.
+  Q_INVOKABLE void requestSolveMemoryEstimate(const QVariantMap& cfg);
+  Q_INVOKABLE void openLicensesFolder();
+  Q_INVOKABLE void openThirdPartyNotices();
+  Q_INVOKABLE QString readTextResource(const QString& path);
+  Q_INVOKABLE QVariantMap saveTextFile(const QUrl& fileUrl, const QString& text);
+  Q_INVOKABLE QVariantMap readTextFile(const QUrl& fileUrl);
+  Q_INVOKABLE void setNodeLock(int nodeIndex, const QString& handLabel169, int actionIndex,
+                               double actionProb);
+  Q_INVOKABLE void clearNodeLocks(int nodeIndex);
+  Q_INVOKABLE QVariantList nodeLocks(int nodeIndex);
+  Q_INVOKABLE int treeNodeCount();
+  Q_INVOKABLE QVariantMap nodeMeta(int nodeIndex);
+  Q_INVOKABLE QVariantList nodeActions(int nodeIndex);
+
+ signals:
+  void runningChanged();
+  void progressChanged();
+  void statusTextChanged();
+  void resultsChanged();
+  void solveStatsChanged();
+  void playVsSolutionStatsChanged();
+  void systemMemoryChanged();
+  void solveRequiredMemoryChanged();
+
+ private:
+  void setRunning(bool running);
+  void setProgress(double progress);
+  void setStatus(const QString& text);
+
+  /// Drops what the pages show of a result.
+  void dropResult();
+  void startSession(const velmora_app::SolveConfig& config);
+  void readInbox(const std::shared_ptr<ReportInbox>& inbox);
+  void handleSolveProgress(const velmora_app::SolveProgress& report);
+
+  bool running_ = false;
+  double progress_ = 0;
+  QString statusText_;
+  SolveOutcome outcome_;
+  TreeMirror tree_;
+  NodeLockTable nodeLockTable_;
+  QVariantMap lastUiCfg_;  ///< Of the latest start, refused or not.
+  const bool developerMode_;
+  const int systemThreadCount_;
+  MemoryMonitor memory_;
+  std::shared_ptr<ReportInbox> inbox_;  ///< Of the latest run.
+  /// Last, so that it goes first: it waits for its run, whose reports are still posted here.
+  velmora_app::SolveSession session_;
+};

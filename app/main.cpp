@@ -1,0 +1,85 @@
+// Entry of the desktop program.
+#include <QDateTime>
+#include <QDebug>
+#include <QDir>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QQmlApplicationEngine>
+#include <QQmlContext>
+#include <QQmlError>
+#include <QQuickStyle>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include "app_controller.h"
+#include "crash_lines.h"
+#include "logging.h"
+
+namespace {
+
+/// Log lines from before a log file is open.
+void writeStartLine(const char* message) {
+  writeCrashLine(logLine(QDateTime::currentDateTime(), QtInfoMsg, message).toStdString());
+}
+
+void logStart(const LogPaths& paths) {
+  qInfo().noquote() << "Starting Dunmarrow";
+  qInfo().noquote() << "appDir=" + QCoreApplication::applicationDirPath();
+  qInfo().noquote() << "cwd=" + QDir::currentPath();
+  qInfo().noquote() << "log_appDir=" + paths.appDirLogPath;
+  qInfo().noquote() << "log_temp=" + paths.tempLogPath;
+  qInfo().noquote() << "QuickControlsStyle=" + QQuickStyle::name();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QQuickStyle::setStyle("Basic");
+  QGuiApplication app(argc, argv);
+  QGuiApplication::setWindowIcon(QIcon(":/Velmora/qml/assets/Dunmarrow_logo.png"));
+  QCoreApplication::setOrganizationName("Dunmarrow");
+  QCoreApplication::setApplicationName("Dunmarrow");
+  QCoreApplication::setApplicationVersion("1.0.1");
+
+  const LogPaths paths =
+      logPaths(QCoreApplication::applicationDirPath(),
+               QStandardPaths::writableLocation(QStandardPaths::TempLocation), QDir::currentPath());
+  LogFiles logFiles(paths);
+  setCrashLinePaths(paths.appDirLogPath, paths.tempLogPath);
+  installCrashHooks();
+  writeStartLine("Crash handlers installed (v2)");
+  writeStartLine("--- Velmora Desktop starting (pre-QFile) ---");
+  if (logFiles.open()) logStart(paths);
+
+  QGuiApplication::setQuitOnLastWindowClosed(true);
+  QQmlApplicationEngine engine;
+  AppController appController;
+  engine.rootContext()->setContextProperty("appController", &appController);
+
+  // Each warning is logged once, here, and not by the engine as well.
+  engine.setOutputWarningsToStandardError(false);
+  QObject::connect(&engine, &QQmlEngine::warnings, &app, [](const QList<QQmlError>& warnings) {
+    for (const QQmlError& warning : warnings) {
+      qWarning().noquote() << warning.toString();
+    }
+  });
+  QObject::connect(
+      &engine, &QQmlApplicationEngine::objectCreationFailed, &app,
+      [] {
+        qCritical() << "QML object creation failed";
+        QCoreApplication::exit(-1);
+      },
+      Qt::QueuedConnection);
+
+  const QUrl mainDocument("qrc:/Velmora/Main.qml");
+  engine.load(mainDocument);
+  if (engine.rootObjects().isEmpty()) {
+    qCritical().noquote() << "Failed to load QML:" << mainDocument.toString();
+    return -1;
+  }
+  qInfo().noquote().nospace() << "QML loaded. rootObjects=" << engine.rootObjects().size();
+  const int exitCode = QGuiApplication::exec();
+  // The windows go first: they look at the controller, which goes before the engine.
+  qDeleteAll(engine.rootObjects());
+  return exitCode;
+}

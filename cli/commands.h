@@ -1,0 +1,40 @@
+// What the headless tool can do. Each command gives the exit status of the program.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include <QString>
+
+enum ExitStatus : int { kDone = 0, kFailed = 1, kWrongUse = 2, kCancelled = 130 };
+
+/// Input that can't be used. The text is one line for the user.
+struct InputFault : std::runtime_error {
+  using std::runtime_error::runtime_error;
+  explicit InputFault(const QString& text) : std::runtime_error(text.toStdString()) {}
+};
+
+struct SolveRequest {
+  QString spot_path;
+  QString export_path;                      ///< Empty for no export.
+  QString locks_path;                       ///< Empty for no locks.
+  std::optional<std::uint64_t> threads;     ///< All processors of this process if absent.
+  std::optional<std::uint32_t> iterations;  ///< The spot's limit if absent.
+  bool quiet = false;
+};
+
+/// Solves a spot and writes the result as JSON to standard output. Throws `InputFault`.
+ExitStatus solve(const SolveRequest& request);
+
+/// Writes the memory estimate of a spot as JSON to standard output. Throws `InputFault`.
+ExitStatus estimate(const QString& spot_path);
+
+/// Solves the fixed set of spots and writes their speed and the signature of the results to
+/// standard output. `instruction_set` is a name such as "avx2", or empty for the strongest.
+/// Throws `InputFault`.
+ExitStatus bench(std::optional<std::uint64_t> threads, const QString& instruction_set);
+
+/// Processors that this process may use, at least 1.
+std::uint64_t all_processors();

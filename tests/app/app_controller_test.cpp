@@ -1,0 +1,323 @@
+#include "app_controller.h"
+
+#include <memory>
+
+#include <QDesktopServices>
+#include <QSignalSpy>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+#include "app_test_support.h"
+#include "memory_estimate.h"
+#include "solve_config_map.h"
+
+namespace {
+
+QVariantMap with(QVariantMap map, const QString& key, const QVariant& value) {
+  map[key] = value;
+  return map;
+}
+
+/// Starts a solve and waits for its end.
+void solve(AppController& controller, const QVariantMap& map) {
+  controller.startSolveWithConfig(map);
+  ASSERT_TRUE(controller.running()) << controller.statusText().toStdString();
+  ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
+}
+
+void startEndless(AppController& controller) {
+  controller.startSolveWithConfig(endlessSpot());
+  ASSERT_TRUE(controller.running()) << controller.statusText().toStdString();
+  ASSERT_TRUE(waitUntil([&] { return controller.statusText().startsWith("Iter "); }));
+}
+
+double rootFrequency(const AppController& controller, int action) {
+  return controller.rootActions().at(action).toMap().value("frequency").toDouble();
+}
+
+class AppControllerTest : public ::testing::Test {
+ protected:
+  const LogCapture log_;
+};
+
+}  // namespace
+
+TEST_F(AppControllerTest, StartsIdle) {
+  const AppController controller;
+  EXPECT_FALSE(controller.running());
+  EXPECT_EQ(controller.statusText(), "Ready");
+  EXPECT_EQ(controller.solveRequiredMemoryText(), "—");
+  EXPECT_GE(controller.systemThreadCount(), 1);
+  EXPECT_GT(controller.systemMemoryBytes(), controller.systemAvailableMemoryBytes());
+  EXPECT_GT(controller.effectiveAvailableMemoryBytes(), 0U);
+  EXPECT_TRUE(log_.messages().first().startsWith("[devtools] compiled_in=1 VELMORA_DEV_MODE="));
+}
+
+TEST_F(AppControllerTest, RefusesWhatCannotBeSolvedAndKeepsTheResult) {
+  const QString board = "Not ready: enter a valid board first";
+  const QString range = "Not ready: select at least one hand in both ranges";
+  const QString sizing = "Not ready: fill out both OOP and IP sizing";
+  const QVariantMap good = riverSpot();
+  const struct {
+    QVariantMap map;
+    QString status;
+  } cases[] = {
+      {{}, board},
+      {with(good, "board", "AsKd"), board},
+      {with(good, "board", "AsKd7h2c3s4s"), board},
+      {with(good, "board", "AsK__d7h"), board},
+      {with(with(good, "board", "As"), "oop_range", ""), board},  // The board is looked at first,
+      {with(good, "oop_range", ""), range},
+      {with(good, "oop_range", " \t"), range},
+      {with(good, "ip_range", "A"), range},
+      {with(good, "ip_range", "A,K"), range},
+      {with(with(good, "ip_range", "50%"), "ip_turn_bet_sizes", ""), range},  // then the ranges,
+      {with(good, "oop_flop_bet_sizes", ""), sizing},
+      {with(good, "ip_river_raise_sizes", "  "), sizing},
+      {with(good, "ip_turn_raise_sizes", QVariant()), sizing},
+  };
+  AppController controller;
+  solve(controller, good);
+  const QString summary = controller.resultsSummary();
+  const QSignalSpy running(&controller, &AppController::runningChanged);
+  for (const auto& c : cases) {
+    controller.startSolveWithConfig(c.map);
+    EXPECT_EQ(controller.statusText().toStdString(), c.status.toStdString());
+    EXPECT_FALSE(controller.running());
+  }
+  controller.startSolve();
+  EXPECT_EQ(controller.statusText(), board);
+  EXPECT_EQ(running.count(), 0);
+  EXPECT_EQ(controller.progress(), 1.0);
+  EXPECT_EQ(controller.resultsSummary(), summary);
+  EXPECT_EQ(controller.resultIterations(), 60);
+}
+
+TEST_F(AppControllerTest, SolvesASpotAndShowsItsResult) {
+  AppController controller;
+  const QSignalSpy results(&controller, &AppController::resultsChanged);
+  controller.startSolveWithConfig(riverSpot());
+  EXPECT_TRUE(controller.running());
+  EXPECT_EQ(controller.statusText(), "Starting...");
+  controller.startSolveWithConfig({});  // One at a time: not even the status changes.
+  EXPECT_EQ(controller.statusText(), "Starting...");
+  ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
+
+  EXPECT_EQ(controller.statusText(), "Done");
+  EXPECT_EQ(controller.progress(), 1.0);
+  EXPECT_EQ(controller.resultIterations(), 60);
+  EXPECT_EQ(controller.resultStartingPot(), 100);
+  EXPECT_GE(controller.resultExploitability(), 0);
+  EXPECT_NEAR(controller.resultEvOop() + controller.resultEvIp(), 0, 1e-3);
+  EXPECT_EQ(controller.resultsSummary(),
+            QStringLiteral("Board KsQd7h2c3s | iters 60 | expl≈%1 | EV(oop)=%2 EV(ip)=%3")
+                .arg(QString::number(controller.resultExploitability(), 'f', 4),
+                     QString::number(controller.resultEvOop(), 'f', 3),
+                     QString::number(controller.resultEvIp(), 'f', 3)));
+
+  ASSERT_EQ(controller.rootActions().size(), 2);
+  EXPECT_EQ(controller.rootActions().at(1).toMap().value("name"), "Bet 50%");
+  EXPECT_EQ(controller.rootActions().at(1).toMap().value("actionType"), "bet 50%");
+  EXPECT_NEAR(rootFrequency(controller, 0) + rootFrequency(controller, 1), 1, 1e-6);
+  EXPECT_EQ(controller.nodeMeta(0).value("player"), "OOP");
+  EXPECT_EQ(controller.nodeMeta(0).value("effectiveStack"), 200);
+  EXPECT_EQ(controller.nodeActions(0).size(), 2);
+  for (int node = 0; node < controller.treeNodeCount(); ++node) {
+    for (const QVariant& action : controller.nodeActions(node)) {
+      EXPECT_GT(action.toMap().value("childIndex").toInt(), node);
+      EXPECT_LT(action.toMap().value("childIndex").toInt(), controller.treeNodeCount());
+    }
+  }
+
+  // Once for the result that was dropped, once for the one that came.
+  EXPECT_EQ(results.count(), 2);
+  const QStringList log = log_.messages();
+  EXPECT_TRUE(log.contains(
+      "UI startSolveWithConfig: board=KsQd7h2c3s oop_range.len=2 ip_range.len=9 pot=100 stack=200 "
+      "rake%= rake_cap= iters=60 target_expl=0 oop_flop_bets=50 oop_flop_raises=60 "
+      "ip_flop_bets=50 ip_flop_raises=60 oop_jam_thr_en= oop_jam_thr_pct= ip_jam_thr_en= "
+      "ip_jam_thr_pct="));
+  EXPECT_EQ(log.mid(log.size() - 3),
+            (QStringList{"UI solve progress: p=1 status=Done has_result=true",
+                         QStringLiteral("UI about to emit resultsChanged: root_actions=2 "
+                                        "summary.len=%1")
+                             .arg(controller.resultsSummary().size()),
+                         "UI emitted resultsChanged"}));
+
+  controller.clearResults();
+  EXPECT_EQ(controller.statusText(), "Ready");
+  EXPECT_EQ(controller.progress(), 0);
+  EXPECT_EQ(controller.resultsSummary(), "");
+  EXPECT_EQ(controller.resultIterations(), 0);
+  EXPECT_EQ(controller.treeNodeCount(), 0);
+  EXPECT_EQ(results.count(), 3);
+}
+
+TEST_F(AppControllerTest, AFailedSolveTellsWhy) {
+  AppController controller;
+  solve(controller, with(riverSpot(), "oop_range", "AKx"));
+  ASSERT_TRUE(controller.statusText().startsWith("Error: "));
+  EXPECT_GT(controller.statusText().size(), 7);
+  EXPECT_EQ(controller.resultsSummary(), "Solve failed: " + controller.statusText().mid(7));
+  EXPECT_EQ(controller.progress(), 0);
+  EXPECT_EQ(controller.treeNodeCount(), 0);
+}
+
+TEST_F(AppControllerTest, ACancelledSolveEnds) {
+  AppController controller;
+  startEndless(controller);
+  controller.cancelSolve();
+  EXPECT_EQ(controller.statusText(), "Cancelling...");
+  ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
+  EXPECT_EQ(controller.statusText(), "Cancelled");
+  EXPECT_EQ(controller.resultsSummary(), "Solve failed: Cancelled");
+  EXPECT_EQ(controller.progress(), 0);
+}
+
+TEST_F(AppControllerTest, ANewSolveMayStartAsSoonAsOneHasEnded) {
+  AppController controller;
+  const QStringList boards{"KsQd7h2c3s", "KsQd7h2c4s", "KsQd7h2c5s"};
+  QStringList ended;
+  QObject::connect(&controller, &AppController::runningChanged, &controller, [&] {
+    if (controller.running()) return;
+    ended << controller.resultsSummary().mid(6, 10);
+    if (ended.size() < 60) {
+      controller.startSolveWithConfig(
+          with(riverSpot(), "board", boards[ended.size() % boards.size()]));
+      EXPECT_TRUE(controller.running()) << controller.statusText().toStdString();
+      EXPECT_EQ(controller.statusText(), "Starting...");
+    }
+  });
+  controller.startSolveWithConfig(with(riverSpot(), "board", boards[0]));
+  ASSERT_TRUE(waitUntil([&] { return ended.size() == 60; }));
+  for (qsizetype i = 0; i < ended.size(); ++i) EXPECT_EQ(ended[i], boards[i % boards.size()]);
+}
+
+TEST_F(AppControllerTest, ClearingDuringARunLeavesNoRunForEver) {
+  AppController controller;
+  startEndless(controller);
+  controller.clearResults();
+  EXPECT_FALSE(controller.running());
+  controller.startSolveWithConfig(with(riverSpot(), "max_iterations", 3));
+  EXPECT_TRUE(controller.running());
+  // The old run may still have been busy or already gone; only its own end may answer for it.
+  const bool refused = controller.statusText() == "Already running";
+  ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
+  EXPECT_EQ(controller.statusText(), refused ? "Cancelled" : "Done");
+  EXPECT_EQ(controller.resultIterations(), refused ? 0 : 3);
+}
+
+TEST_F(AppControllerTest, EndingDuringARunIsSafe) {
+  for (const bool runsAlready : {true, false}) {
+    auto controller = std::make_unique<AppController>();
+    if (runsAlready) {
+      startEndless(*controller);
+    } else {
+      controller->startSolveWithConfig(endlessSpot());
+      controller->requestSolveMemoryEstimate(endlessSpot());
+    }
+    controller.reset();
+    QCoreApplication::processEvents();
+  }
+}
+
+TEST_F(AppControllerTest, LocksApplyToAReSolveOnly) {
+  AppController controller;
+  controller.reSolveWithNodeLocks();
+  EXPECT_EQ(controller.statusText(), "No previous solve config (solve once first)");
+
+  solve(controller, riverSpot());
+  const double unlocked = rootFrequency(controller, 1);
+  const double locked = unlocked > 0.5 ? 0.125 : 0.875;
+  controller.setNodeLock(0, "AA", 1, locked);
+  EXPECT_EQ(controller.nodeLocks(0).size(), 1);
+  solve(controller, riverSpot());
+  EXPECT_EQ(rootFrequency(controller, 1), unlocked);
+
+  controller.reSolveWithNodeLocks();
+  ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
+  EXPECT_NEAR(rootFrequency(controller, 1), locked, 1e-6);
+
+  // The flag stays in the settings of the latest solve, and without a lock it changes nothing.
+  controller.clearNodeLocks(0);
+  controller.reSolveWithNodeLocks();
+  ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
+  EXPECT_EQ(rootFrequency(controller, 1), unlocked);
+
+  controller.setNodeLock(0, "AA", 1, locked);
+  controller.clearResults();
+  EXPECT_EQ(controller.nodeLocks(0), QVariantList());
+  controller.reSolveWithNodeLocks();
+  EXPECT_EQ(controller.statusText(), "No previous solve config (solve once first)");
+}
+
+TEST_F(AppControllerTest, ASolveThatDoesNotFitIsRefusedOnceTheResultIsGone) {
+  constexpr quint64 kMegabyte = 1ULL << 20;
+  quint64 available = 5 * kMegabyte;
+  AppController controller({[] { return 100 * kMegabyte; }, [&] { return available; },
+                            [](const auto&) { return 4 * kMegabyte; }});
+  solve(controller, riverSpot());  // Without an estimate nothing is in the way.
+  EXPECT_EQ(controller.resultsReclaimableMemoryBytes(), 0U);
+
+  controller.requestSolveMemoryEstimate(riverSpot());
+  ASSERT_TRUE(waitUntil([&] { return controller.solveRequiredMemoryBytes() != 0; }));
+  solve(controller, riverSpot());
+  EXPECT_EQ(controller.resultsReclaimableMemoryBytes(), 4 * kMegabyte);
+  EXPECT_EQ(controller.effectiveAvailableMemoryBytes(), 9 * kMegabyte);
+
+  available = 4 * kMegabyte;  // Read again at the start; as much as required is not enough.
+  controller.startSolveWithConfig(riverSpot());
+  EXPECT_EQ(controller.statusText(), "Not enough RAM to solve (after clearing previous results)");
+  EXPECT_FALSE(controller.running());
+  EXPECT_EQ(controller.resultIterations(), 0);
+  EXPECT_EQ(controller.treeNodeCount(), 0);
+  EXPECT_EQ(controller.resultsReclaimableMemoryBytes(), 0U);
+
+  available = 0;  // Unknown.
+  solve(controller, riverSpot());
+  EXPECT_EQ(controller.resultIterations(), 60);
+}
+
+TEST_F(AppControllerTest, EstimatesTheSpotOnScreen) {
+  AppController controller;
+  controller.requestSolveMemoryEstimate(riverSpot());
+  ASSERT_TRUE(waitUntil([&] { return controller.solveRequiredMemoryBytes() != 0; }));
+  std::string error;
+  const auto estimate = velmora_app::estimate_memory(makeSolveConfig(riverSpot()), error);
+  ASSERT_TRUE(estimate) << error;
+  EXPECT_EQ(controller.solveRequiredMemoryBytes(), estimate->total_bytes);
+  controller.requestSolveMemoryEstimate({});
+  ASSERT_TRUE(waitUntil([&] { return controller.solveRequiredMemoryBytes() == 0; }));
+  EXPECT_EQ(controller.solveRequiredMemoryText(), "—");
+}
+
+namespace {
+
+class UrlCatcher : public QObject {
+  Q_OBJECT
+
+ public:
+  QList<QUrl> urls;
+
+ public slots:
+  void open(const QUrl& url) { urls << url; }
+};
+
+}  // namespace
+
+TEST_F(AppControllerTest, NoticesAreOpenedBesideTheExecutable) {
+  AppController controller;
+  UrlCatcher catcher;
+  QDesktopServices::setUrlHandler("file", &catcher, "open");
+  controller.openLicensesFolder();
+  controller.openThirdPartyNotices();
+  QDesktopServices::unsetUrlHandler("file");
+  const QString appDir = QCoreApplication::applicationDirPath();
+  EXPECT_EQ(controller.appDir(), appDir);
+  EXPECT_EQ(catcher.urls,
+            (QList<QUrl>{QUrl::fromLocalFile(appDir + "/licenses"),
+                         QUrl::fromLocalFile(appDir + "/licenses/THIRD_PARTY_NOTICES.txt")}));
+}
+
+#include "app_controller_test.moc"

@@ -1,0 +1,31 @@
+// What the tests of this floor share.
+#pragma once
+
+#include <functional>
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+/// Solve configuration map of a river spot that solves in milliseconds. OOP holds aces only.
+QVariantMap riverSpot();
+/// The same, with more iterations than any test waits for and a target that is never reached.
+QVariantMap endlessSpot();
+
+/// Runs the event loop until the condition holds; false if it does not within a minute.
+bool waitUntil(const std::function<bool()>& condition);
+
+/// The bytes of a file; none if it can't be read.
+QByteArray bytesOf(const QString& path);
+
+/// Keeps the log messages of its lifetime, "warning: " in front of warnings, off the screen.
+class LogCapture {
+ public:
+  LogCapture();
+  ~LogCapture();
+  LogCapture(const LogCapture&) = delete;
+  LogCapture& operator=(const LogCapture&) = delete;
+
+  QStringList messages() const;
+};

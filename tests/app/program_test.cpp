@@ -1,0 +1,84 @@
+// The program itself, as a user starts it, without a screen.
+#include <csignal>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include "app_test_support.h"
+
+namespace {
+
+/// A copy of the program in a directory of its own, with a temporary directory of its own.
+class Program : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(QDir(dir_.path()).mkdir("app") && QDir(dir_.path()).mkdir("temp"));
+    ASSERT_TRUE(QFile::copy(DUNMARROW_PROGRAM, dir_.filePath("app/dunmarrow")));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("TMPDIR", dir_.filePath("temp"));
+    program_.setProcessEnvironment(environment);
+    program_.setWorkingDirectory(dir_.path());
+  }
+
+  void startAndWaitForWindow() {
+    program_.start(dir_.filePath("app/dunmarrow"), QStringList());
+    ASSERT_TRUE(program_.waitForStarted());
+    ASSERT_TRUE(waitUntil([&] { return bytesOf(tempLog()).contains("QML loaded."); }))
+        << bytesOf(tempLog()).toStdString() << program_.readAllStandardError().toStdString();
+  }
+  void killBy(int signal) {
+    ASSERT_EQ(::kill(static_cast<pid_t>(program_.processId()), signal), 0);
+    ASSERT_TRUE(program_.waitForFinished());
+    EXPECT_EQ(program_.exitStatus(), QProcess::CrashExit);
+    EXPECT_EQ(program_.exitCode(), signal);
+  }
+
+  QString appDirLog() const { return dir_.filePath("app/dunmarrow.log"); }
+  QString tempLog() const { return dir_.filePath("temp/dunmarrow.log"); }
+
+  QTemporaryDir dir_;
+  QProcess program_;
+};
+
+}  // namespace
+
+TEST_F(Program, WritesItsLifeIntoBothLogs) {
+  startAndWaitForWindow();
+  killBy(SIGSEGV);
+
+  // One expression for each line; the start lines and the crash lines end in CR LF.
+  const QString time = "[-0-9]{10}T[:0-9]{8}\\.\\d{3} ";
+  const auto quoted = [](const QString& text) { return QRegularExpression::escape(text); };
+  const QString expected =
+      time + "\\[INFO\\] Crash handlers installed \\(v2\\)\r\n" +                 //
+      time + "\\[INFO\\] --- Velmora Desktop starting \\(pre-QFile\\) ---\r\n" +  //
+      time + "\\[INFO\\] Starting Dunmarrow\n" +                                  //
+      time + "\\[INFO\\] appDir=" + quoted(dir_.filePath("app")) + "\n" +         //
+      time + "\\[INFO\\] cwd=" + quoted(dir_.path()) + "\n" +                     //
+      time + "\\[INFO\\] log_appDir=" + quoted(appDirLog()) + "\n" +              //
+      time + "\\[INFO\\] log_temp=" + quoted(tempLog()) + "\n" +                  //
+      time + "\\[INFO\\] QuickControlsStyle=Basic\n" +                            //
+      time + "\\[INFO\\] \\[devtools\\] compiled_in=1 [^\n]*\n" +                 //
+      time + "\\[INFO\\] QML loaded\\. rootObjects=1\n" +                         //
+      "FATAL: Vectored exception code=0xb addr=0\r\nFATAL: C signal received sig=11\r\n";
+  const QString log = QString::fromUtf8(bytesOf(appDirLog()));
+  EXPECT_TRUE(
+      QRegularExpression(QRegularExpression::anchoredPattern(expected)).match(log).hasMatch())
+      << log.toStdString();
+  EXPECT_EQ(QString::fromUtf8(bytesOf(tempLog())), log);
+}
+
+TEST_F(Program, RunsWhereItCannotWrite) {
+  ASSERT_TRUE(QDir(dir_.path()).mkdir("app/dunmarrow.log"));  // No file can be opened by that name.
+  startAndWaitForWindow();
+  killBy(SIGABRT);
+  const QByteArray log = bytesOf(tempLog());
+  EXPECT_TRUE(log.contains("[INFO] Crash handlers installed (v2)\r\n"));
+  EXPECT_TRUE(log.contains("[INFO] Starting Dunmarrow\n"));
+  EXPECT_TRUE(log.endsWith("FATAL: C signal received sig=6\r\n"));
+}
