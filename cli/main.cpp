@@ -48,7 +48,7 @@ class CommandLine {
 
   /// False if the program is to end now, with `status()`.
   bool read(const QStringList& arguments, int positionals) {
-    if (!parser_.parse(arguments)) return refuse(parser_.errorText() + '.');
+    if (!parser_.parse(arguments)) return refuse(parser_.errorText());
     if (parser_.isSet(help_)) {
       print(stdout, parser_.helpText());
       return end(kDone);

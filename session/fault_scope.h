@@ -12,8 +12,8 @@ class FaultScope {
   FaultScope& operator=(const FaultScope&) = delete;
 };
 
-/// True within a scope, and on pool threads, which hand their faults to the thread that waits for
-/// them. A program whose out-of-memory handler ends it asks this first, and throws
+/// True within a scope, and in the shares of a parallel loop, which hand their faults to the loop's
+/// caller. A program whose out-of-memory handler ends it asks this first, and throws
 /// `std::bad_alloc` instead.
 bool faults_are_caught();
 

@@ -177,6 +177,8 @@ TEST(BettingRules, ActionListsByPath) {
       {{.stack = 100, .bets = "50%", .force = 0.5}, "", "check, allin 100"},
       {{.bets = "50%,60%,100%", .merge = 0.1}, "", "check, bet 60, bet 100"},
       {{.bets = "50%,60%,100%", .merge = 0.05}, "", "check, bet 50, bet 60, bet 100"},
+      {{.bets = "50%,80%", .merge = 0.2}, "", "check, bet 80"},
+      {{.bets = "50%,81%", .merge = 0.2}, "", "check, bet 50, bet 81"},
   };
   for (const Case& c : cases) {
     const GameSettings settings = settings_of(c.rules);
@@ -274,6 +276,8 @@ TEST(ActionPlan, EqualsATreeBuiltFromHistories) {
         .raises = "50%,100%,a",
         .dont_donk = true}},
       {{.board = "AhKd7c", .stack = 40, .bets = "50%", .raises = "a"}, "KK,AsKs", "AA"},
+      // The same chips by fewer raises, 70 or 10, 30, 70, leave more under a cap.
+      {{.stack = 400, .bets = "10c,70c", .raises = "20c,40c,80c,100c3r"}},
       // A root that is not on the street of the board.
       {{.board = "AhKd7c2s", .stack = 300, .bets = "50%", .raises = "a", .street = kFlop}},
       {{.board = "AhKd7c2s9h", .stack = 300, .bets = "50%", .raises = "a", .street = kFlop}},

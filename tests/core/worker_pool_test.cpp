@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <mutex>
 #include <new>
@@ -9,6 +10,7 @@
 #include <optional>
 #include <set>
 #include <stdexcept>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -73,20 +75,29 @@ TEST(WorkerPool, ALoopInsideALoopRunsInPlace) {
   WorkerPool pool(3);
   WorkerPool other(3);
   EXPECT_FALSE(WorkerPool::in_worker());
+  std::atomic<int> in_place = 0;
   std::atomic<int> nested_chunks = 0;
-  std::atomic<int> on_workers = 0;
-  pool.parallel_for(4, [&](std::size_t begin, std::size_t) {
-    if (begin == 3) return;  // The calling thread is no worker and may spread its own loops.
-    on_workers += WorkerPool::in_worker() ? 1 : 0;
+  std::atomic<int> marked = 0;
+  pool.parallel_for(4, [&](std::size_t, std::size_t) {
     for (WorkerPool* nested : {&pool, &other}) {
-      nested->parallel_for(100, [&](std::size_t first, std::size_t last) {
-        nested_chunks += first == 0 && last == 100 ? 1 : 1000;
-      });
+      nested->parallel_for(100,
+                           [&, here = std::this_thread::get_id()](std::size_t, std::size_t end) {
+                             ++nested_chunks;
+                             if (end == 100 && std::this_thread::get_id() == here) ++in_place;
+                           });
+      // The end of an inner loop leaves the outer one where it was.
+      marked += WorkerPool::in_worker() ? 1 : 0;
     }
   });
-  EXPECT_EQ(on_workers, 3);
-  EXPECT_EQ(nested_chunks, 6);
+  EXPECT_EQ(nested_chunks, 8);
+  EXPECT_EQ(in_place, 8);
+  EXPECT_EQ(marked, 8);
   EXPECT_FALSE(WorkerPool::in_worker());
+
+  // Nor does a fault leave the mark behind.
+  EXPECT_THROW(pool.parallel_for(4, [](std::size_t, std::size_t) { throw 7; }), int);
+  EXPECT_FALSE(WorkerPool::in_worker());
+  EXPECT_EQ(split_of(&pool, 4).chunks.size(), 4U);
 }
 
 /// Many short loops one after the other: what the chunks wrote is there when the loop returns.
@@ -105,22 +116,22 @@ TEST(WorkerPool, ResultsAreThereWhenTheLoopReturns) {
 
 TEST(WorkerPool, FaultsReachTheCaller) {
   WorkerPool pool(3);
-  // Where a chunk faults, the others still run to their end, and the pool goes on working.
+  // Where a chunk faults, the others still run to their end before the loop returns, and the pool
+  // goes on working.
   for (const std::set<std::size_t>& faulty :
        {std::set<std::size_t>{0}, {1}, {3}, {0, 1, 2, 3}, {}, {0, 3}}) {
-    std::atomic<int> begun = 0;
+    std::atomic<std::size_t> ended = 0;
     const std::string fault = faults::of([&] {
       pool.parallel_for(4, [&](std::size_t begin, std::size_t) {
-        ++begun;
         if (faulty.count(begin)) throw std::invalid_argument("chunk failed");
+        std::this_thread::sleep_for(std::chrono::milliseconds(begin == 3 ? 0 : 5));
+        ++ended;
       });
     });
     EXPECT_EQ(fault, faulty.empty() ? "none" : "invalid: chunk failed");
-    EXPECT_EQ(begun, 4);
+    EXPECT_EQ(ended, 4 - faulty.size());
   }
-  EXPECT_THROW(pool.parallel_for(4, [](std::size_t, std::size_t) { throw 7; }), int);
   EXPECT_THROW(parallel_for(nullptr, 4, [](std::size_t, std::size_t) { throw 7; }), int);
-  EXPECT_EQ(split_of(&pool, 4).chunks.size(), 4U);
 }
 
 TEST(WorkerPool, QueuedTasksRunInOrderBeforeTheEnd) {
