@@ -136,7 +136,8 @@ void WorkerPool::parallel_for(std::size_t count, const Body& body) {
     fan_out->run(body, last * chunk, count);
   }
   fan_out->wait();
-  if (fan_out->fault) std::rethrow_exception(fan_out->fault);
+  // Taken out, so that the exception ends here and not on a pool thread that is still letting go.
+  if (fan_out->fault) std::rethrow_exception(std::exchange(fan_out->fault, nullptr));
 }
 
 void parallel_for(WorkerPool* pool, std::size_t count, const WorkerPool::Body& body) {
