@@ -79,7 +79,10 @@ void SolveSession::work(const SolveConfig& config, const Callback& callback) {
   }
   last.result = std::move(result);
   last_report_delivered_ = true;
-  report(last);
+  try {
+    report(last);
+  } catch (...) {  // NOLINT: nobody is left to tell, and the run is over.
+  }
   running_ = false;
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <future>
 #include <stdexcept>
+#include <thread>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -199,6 +200,11 @@ TEST(SolveSession, FaultsOfTheCallbackEndTheRun) {
   };
   EXPECT_EQ(error_where([] { throw std::runtime_error("no room"); }), "no room");
   EXPECT_EQ(error_where([] { throw 7; }), "Unknown error");
+  // A fault of the last report can be told to nobody; the next run goes its way.
+  session.start(river_request(), [](const SolveProgress& report) {
+    if (report.result) throw std::runtime_error("too late");
+  });
+  while (session.running()) std::this_thread::yield();
   EXPECT_EQ(error_where([] {}), "");
 }
 
