@@ -6,6 +6,7 @@
 #include "chance_node.h"
 #include "discounted_cfr.h"
 #include "kernels.h"
+#include "opponent_node.h"
 #include "terminal_payoff.h"
 
 namespace velmora {
@@ -72,16 +73,9 @@ void DiscountedCfr::measure_recursive(const Game& game, std::size_t node_index, 
     float* const strategy = frame.opp_strategy.rows(num_actions, reach.size());
     average_strategy_rows(strategy, states_.strategy_sums(state, frame.strategy_sums), num_actions,
                           stride);
-    float* const action_reach = frame.action_reach.rows(num_actions, reach.size());
-    for (std::size_t a = 0; a < num_actions; ++a) {
-      row_multiply(action_reach + a * stride, strategy + a * stride, reach.data(), stride);
-    }
-    float* const values = frame.action_values.rows(num_actions, result.size());
-    for (std::size_t a = 0; a < num_actions; ++a) {
-      walk(node.children[a], std::span<const float>(action_reach + a * stride, reach.size()),
-           std::span<float>(values + a * own_stride, result.size()), scratch);
-    }
-    sum_actions(result.data(), values, num_actions, own_stride);
+    opponent_values(node, strategy, reach, result, frame,
+                    [&](std::size_t child, std::span<const float> child_reach,
+                        std::span<float> row) { walk(child, child_reach, row, scratch); });
     return;
   }
 

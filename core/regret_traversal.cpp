@@ -6,6 +6,7 @@
 #include "chance_node.h"
 #include "discounted_cfr.h"
 #include "kernels.h"
+#include "opponent_node.h"
 #include "river_payoffs.h"
 #include "terminal_payoff.h"
 
@@ -123,17 +124,7 @@ void DiscountedCfr::solve_decision(const Game& game, std::size_t node_index, Sea
     if (const LockTable* lock = game.find_node_lock(node_index)) {
       apply_lock(strategy, *lock, num_actions, reach.size());
     }
-    float* const action_reach = frame.action_reach.rows(num_actions, reach.size());
-    for (std::size_t a = 0; a < num_actions; ++a) {
-      row_multiply(action_reach + a * stride, strategy + a * stride, reach.data(), stride);
-    }
-    float* const values = frame.action_values.rows(num_actions, result.size());
-    for (std::size_t a = 0; a < num_actions; ++a) {
-      walk(node.children[a], std::span<const float>(action_reach + a * stride, reach.size()),
-           std::span<float>(values + a * own_stride, result.size()));
-    }
-    // The reach has weighted the rows already.
-    sum_actions(result.data(), values, num_actions, own_stride);
+    opponent_values(node, strategy, reach, result, frame, walk);
     return;
   }
 
