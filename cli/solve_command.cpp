@@ -24,7 +24,6 @@ using velmora_app::SolveSession;
 
 namespace {
 
-constexpr std::uint32_t kMeasureInterval = 50;
 constexpr std::chrono::milliseconds kInterruptPoll{50};
 constexpr const char* kNoMemory = "Not enough RAM to solve (after clearing previous results)";
 constexpr const char* kCancelledText = "Cancelled";
@@ -51,8 +50,9 @@ struct Outcome {
 SolveResult run_to_end(SolveSession& session, const SolveConfig& config, ProgressLine& line,
                        Outcome& outcome) {
   session.start(config, [&](const SolveProgress& report) {
-    const bool measured = report.iteration > 0 && (report.iteration % kMeasureInterval == 0 ||
-                                                   report.iteration == config.max_iterations);
+    const bool measured =
+        report.iteration > 0 && (report.iteration % velmora_app::kCheckInterval == 0 ||
+                                 report.iteration == config.max_iterations);
     if (measured) outcome.history.emplace_back(report.iteration, report.exploitability);
     line.show(report, measured);
     if (!report.result) return;

@@ -25,6 +25,9 @@ namespace velmora_app {
 using velmora::NodeLockEntry;
 using velmora::StreetSizingText;
 
+/// Iterations from one measure of the exploitability to the next.
+inline constexpr std::uint32_t kCheckInterval = 50;
+
 /// Everything that defines a solve.
 struct SolveConfig {
   std::string board;  ///< Two characters a card, no separators: 6, 8 or 10 characters.

@@ -16,7 +16,6 @@
 namespace velmora_app {
 namespace {
 
-constexpr std::uint32_t kCheckInterval = 50;
 /// Reports before the end stay below a full bar.
 constexpr double kMostProgress = 0.999;
 

@@ -66,29 +66,34 @@ std::string group_path(const std::string& controller) {
 /// A group and its ancestors below `mount`, innermost first: a limit holds for all below it.
 std::vector<std::string> group_folders(const std::string& mount, std::string path) {
   std::vector<std::string> folders;
-  while (!path.empty() && path != "/") {
+  while (path.starts_with('/') && path != "/") {
     folders.push_back(mount + path);
-    path.resize(std::min(path.size(), path.rfind('/')));
+    path.resize(path.rfind('/'));
   }
   folders.push_back(mount);
   return folders;
 }
 
 std::vector<GroupMemory> memory_groups() {
+  /// Where a version of the control groups keeps its figures.
+  struct Version {
+    const char* mount;
+    const char* controller;
+    const char* limit;
+    const char* used;
+  };
+  constexpr Version kVersions[] = {
+      {"/sys/fs/cgroup", "", "/memory.max", "/memory.current"},
+      {"/sys/fs/cgroup/memory", "memory", "/memory.limit_in_bytes", "/memory.usage_in_bytes"}};
   std::vector<GroupMemory> groups;
-  for (const std::string& folder : group_folders("/sys/fs/cgroup", group_path(""))) {
-    const std::uint64_t limit = number_in(folder + "/memory.max", kNoLimit);
-    if (limit == kNoLimit) continue;
-    const std::uint64_t used = number_in(folder + "/memory.current", 0);
-    const std::uint64_t cache = reclaimable_in(folder + "/memory.stat");
-    groups.push_back({limit, used - std::min(used, cache)});
-  }
-  for (const std::string& folder : group_folders("/sys/fs/cgroup/memory", group_path("memory"))) {
-    const std::uint64_t limit = number_in(folder + "/memory.limit_in_bytes", kNoLimit);
-    if (limit == kNoLimit) continue;
-    const std::uint64_t used = number_in(folder + "/memory.usage_in_bytes", 0);
-    const std::uint64_t cache = reclaimable_in(folder + "/memory.stat");
-    groups.push_back({limit, used - std::min(used, cache)});
+  for (const Version& version : kVersions) {
+    for (const std::string& folder : group_folders(version.mount, group_path(version.controller))) {
+      const std::uint64_t limit = number_in(folder + version.limit, kNoLimit);
+      if (limit == kNoLimit) continue;
+      const std::uint64_t used = number_in(folder + version.used, 0);
+      const std::uint64_t cache = reclaimable_in(folder + "/memory.stat");
+      groups.push_back({limit, used - std::min(used, cache)});
+    }
   }
   return groups;
 }
