@@ -20,6 +20,10 @@ build_packages=(
   qml6-module-qtquick-controls
   qml6-module-qtquick-templates
   qml6-module-qtquick-layouts
+  qml6-module-qtquick-dialogs
+  qml6-module-qt-labs-settings
+  qml6-module-qt-labs-folderlistmodel
+  qml6-module-qt5compat-graphicaleffects
   qml6-module-qtqml
   qml6-module-qtqml-models
   qml6-module-qtqml-workerscript
@@ -30,6 +34,7 @@ test_packages=(
   libgmock-dev
   libbenchmark-dev
   locales
+  qml6-module-qttest
 )
 
 say() { printf '%s\n' "$*" >&2; }

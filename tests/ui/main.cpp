@@ -1,0 +1,50 @@
+// Runs the .qml tests of this folder with the program's own pages and a real controller.
+#include <memory>
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickStyle>
+#include <QTemporaryDir>
+#include <QtQuickTest>
+
+#include "app_controller.h"
+
+/// Readies each engine as the entry of the program does.
+class Setup : public QObject {
+  Q_OBJECT
+
+ public slots:
+  void applicationAvailable() {
+    QCoreApplication::setOrganizationName("DunmarrowTests");
+    QCoreApplication::setApplicationName("DunmarrowUiTests");
+  }
+
+  void qmlEngineAvailable(QQmlEngine* engine) {
+    engine->addImportPath("qrc:/");
+    controller_ = std::make_unique<AppController>();
+    engine->rootContext()->setContextProperty("appController", controller_.get());
+  }
+
+  void cleanupTestCase() { controller_.reset(); }
+
+ private:
+  std::unique_ptr<AppController> controller_;
+};
+
+int main(int argc, char* argv[]) {
+  // Settings and temporary files of the tests never meet the user's.
+  QTemporaryDir home;
+  if (!home.isValid()) {
+    qCritical() << "No temporary folder:" << home.errorString();
+    return 1;
+  }
+  qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+  qputenv("TMPDIR", home.path().toUtf8());
+  QQuickStyle::setStyle("Basic");
+  Setup setup;
+  return quick_test_main_with_setup(argc, argv, "velmora_ui_tests", QUICK_TEST_SOURCE_DIR, &setup);
+}
+
+#include "main.moc"

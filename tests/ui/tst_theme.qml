@@ -1,0 +1,102 @@
+import QtQuick
+import QtTest
+import Velmora
+import "../../qml/theme/font_families.js" as FontFamilies
+
+TestCase {
+    id: test
+
+    name: "Theme"
+
+    Component {
+        id: themeComponent
+
+        Theme {}
+    }
+
+    function test_action_colors_data() {
+        return [
+            { tag: "spaced percent", action: "bet 33 %", like: "Bet 33%" },
+            { tag: "past the end of the scale", action: "Raise 250%", like: "raise 200%" },
+            { tag: "plain bet", action: "Bet", token: "actionBet" },
+            { tag: "plain raise", action: "raise", token: "actionRaise" },
+            { tag: "accent", action: "Check", token: "accent" },
+            { tag: "all-in, short", action: "allin", token: "actionAllIn" },
+            { tag: "all-in, dash", action: "All-In", token: "actionAllIn" },
+            { tag: "all-in, underscore", action: "all_in", token: "actionAllIn" },
+            { tag: "empty", action: "", token: "textMuted" },
+            { tag: "unknown", action: "limp", token: "textMuted" },
+            { tag: "nothing", action: undefined, token: "textMuted" },
+            // Hue, saturation and lightness as the scale gives them at its ends and its middle.
+            { tag: "bet 0", action: "bet 0%", dark: [0.72, 0.70, 0.62], light: [0.72, 0.70, 0.42] },
+            { tag: "bet 100", action: "bet 100%", dark: [0.78, 0.70, 0.67], light: [0.78, 0.70, 0.47] },
+            { tag: "bet 200", action: "bet 200%", dark: [0.84, 0.70, 0.72], light: [0.84, 0.70, 0.52] },
+            { tag: "raise 0", action: "raise 0%", dark: [0.07, 0.78, 0.60], light: [0.07, 0.78, 0.44] },
+            { tag: "raise 50", action: "raise 50%", dark: [0.08, 0.78, 0.63], light: [0.08, 0.78, 0.47] },
+            { tag: "raise 200", action: "raise 200%", dark: [0.11, 0.78, 0.72], light: [0.11, 0.78, 0.56] }
+        ]
+    }
+
+    function test_action_colors(data) {
+        for (const dark of [true, false]) {
+            const theme = createTemporaryObject(themeComponent, test, { dark: dark })
+            const color = theme.actionColor(data.action)
+            const hsl = dark ? data.dark : data.light
+            if (hsl)
+                verify(Qt.colorEqual(color, Qt.hsla(hsl[0], hsl[1], hsl[2], 1)), String(color))
+            else
+                compare(color, data.token ? theme[data.token] : theme.actionColor(data.like))
+            compare(color.a, 1)
+        }
+    }
+
+    function test_suit_colors_data() {
+        return [
+            { tag: "s", token: "suitSpades" }, { tag: "Hearts", token: "suitHearts" },
+            { tag: "D", token: "suitDiamonds" }, { tag: "clubs", token: "suitClubs" },
+            { tag: "x", token: "text" }, { tag: "", token: "text" }
+        ]
+    }
+
+    function test_suit_colors(data) {
+        const theme = createTemporaryObject(themeComponent, test)
+        compare(theme.suitColor(data.tag), theme[data.token])
+    }
+
+    function test_accent_override() {
+        const theme = createTemporaryObject(themeComponent, test)
+        const before = String(theme._defaultAccent)
+        compare(String(theme.accent), before)
+        theme.accentOverride = "#A371F7"
+        theme.useAccentOverride = true
+        for (const token of ["accent", "actionCheck", "success", "suitClubs"])
+            compare(String(theme[token]), "#a371f7", token)
+        compare(theme.accentHover, Qt.lighter("#A371F7", 1.12))
+        compare(theme.accentMuted, Qt.darker("#A371F7", 1.6))
+        theme.dark = false
+        compare(theme.accentMuted, Qt.darker("#A371F7", 1.35))
+        theme.dark = true
+        compare(String(theme._defaultAccent), before)
+    }
+
+    function test_color_helpers() {
+        const theme = createTemporaryObject(themeComponent, test)
+        compare(theme.withOpacity(theme.danger, 0.18), Qt.rgba(theme.danger.r, theme.danger.g, theme.danger.b, 0.18))
+        compare(theme.lighten(theme.surface, 0.1), Qt.lighter(theme.surface, 1.1))
+        compare(theme.darken(theme.surface, 0.1), Qt.darker(theme.surface, 1.1))
+    }
+
+    function test_font_lists_data() {
+        return [
+            { tag: "later entry", list: "Segoe UI, Consolas, monospace", expected: "Consolas" },
+            { tag: "any case", list: "CONSOLAS", expected: "Consolas" },
+            { tag: "system", list: "Segoe UI, system-ui, Consolas", expected: "System Sans" },
+            { tag: "generic", list: "Segoe UI, monospace", expected: "monospace" },
+            { tag: "none", list: "Segoe UI", expected: "System Sans" }
+        ]
+    }
+
+    function test_font_lists(data) {
+        compare(FontFamilies.firstInstalled(data.list, ["Arial", "Consolas"], "System Sans"), data.expected)
+    }
+}
