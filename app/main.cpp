@@ -53,6 +53,7 @@ int main(int argc, char* argv[]) {
 
   QGuiApplication::setQuitOnLastWindowClosed(true);
   QQmlApplicationEngine engine;
+  engine.addImportPath("qrc:/");
   AppController appController;
   engine.rootContext()->setContextProperty("appController", &appController);
 

@@ -1,4 +1,5 @@
 import QtQuick
+import "../logic/color_text.js" as ColorText
 
 /// The colour, shape and motion tokens of the window, in a dark and a light mode.
 ///
@@ -94,6 +95,17 @@ QtObject {
     property string uiFamily: "sans-serif"
     property string monoFamily: "monospace"
 
+    /// Takes an accent as "#RRGGBB" or "#AARRGGBB"; an empty text is the default one, and any other is
+    /// not looked at.
+    function applyAccentHex(text: var) {
+        const accent = String(text).trim()
+        if (accent !== "" && !ColorText.isValidHexColor(accent))
+            return
+        useAccentOverride = accent !== ""
+        if (useAccentOverride)
+            accentOverride = accent
+    }
+
     /// The colour of a suit given as a letter or a plural name; `text` for anything else.
     function suitColor(suit: string): color {
         switch (String(suit).toLowerCase()) {
@@ -147,15 +159,16 @@ QtObject {
         }
     }
 
-    function withOpacity(color: color, alpha: real): color {
-        return Qt.rgba(color.r, color.g, color.b, alpha)
+    function withOpacity(color: var, alpha: real): color {
+        const opaque = Qt.color(color)
+        return Qt.rgba(opaque.r, opaque.g, opaque.b, alpha)
     }
 
-    function lighten(color: color, amount: real): color {
+    function lighten(color: var, amount: real): color {
         return Qt.lighter(color, 1 + amount)
     }
 
-    function darken(color: color, amount: real): color {
+    function darken(color: var, amount: real): color {
         return Qt.darker(color, 1 + amount)
     }
 

@@ -41,6 +41,7 @@ int main(int argc, char* argv[]) {
     return 1;
   }
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+  qputenv("XDG_CACHE_HOME", home.path().toUtf8());
   qputenv("TMPDIR", home.path().toUtf8());
   QQuickStyle::setStyle("Basic");
   Setup setup;

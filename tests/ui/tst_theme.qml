@@ -79,9 +79,28 @@ TestCase {
         compare(String(theme._defaultAccent), before)
     }
 
+    function test_accent_texts_data() {
+        return [
+            { tag: "blanks around", text: " #a371F7 ", accent: "#a371f7" },
+            { tag: "with alpha", text: "#80a371f7", accent: "#80a371f7" },
+            { tag: "none", text: "", accent: "" },
+            { tag: "too short", text: "#a371f", accent: "#112233" },
+            { tag: "a name", text: "red", accent: "#112233" }
+        ]
+    }
+
+    function test_accent_texts(data) {
+        const theme = createTemporaryObject(themeComponent, test, { useAccentOverride: true, accentOverride: "#112233" })
+        theme.applyAccentHex(data.text)
+        compare(theme.useAccentOverride, data.accent !== "")
+        if (data.accent !== "")
+            compare(String(theme.accent), data.accent)
+    }
+
     function test_color_helpers() {
         const theme = createTemporaryObject(themeComponent, test)
         compare(theme.withOpacity(theme.danger, 0.18), Qt.rgba(theme.danger.r, theme.danger.g, theme.danger.b, 0.18))
+        compare(theme.withOpacity("red", 0.5), Qt.rgba(1, 0, 0, 0.5))
         compare(theme.lighten(theme.surface, 0.1), Qt.lighter(theme.surface, 1.1))
         compare(theme.darken(theme.surface, 0.1), Qt.darker(theme.surface, 1.1))
     }

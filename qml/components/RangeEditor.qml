@@ -1,0 +1,128 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora
+import "../logic/hand_grid.js" as HandGrid
+import "../logic/range_text.js" as RangeText
+
+/// A range as a text and as a matrix to paint on. It asks for a new text with `rangeChanged`; the
+/// owner sets `rangeText`.
+Item {
+    id: root
+
+    property Theme theme: Fallback.theme
+    property Typography type: Fallback.type
+    property string rangeText
+    property string label: qsTr("Range")
+
+    readonly property var weights: RangeText.parseRangeWeights(rangeText)
+    readonly property int handCount: _hands().length
+
+    signal rangeChanged(newRange: string)
+
+    /// The labels with a weight above 0, in grid order.
+    function _hands(): var {
+        return HandGrid.LABELS.filter(hand => weights[hand] > 0)
+    }
+
+    /// The range text with a hand on or off; all hands that are on have weight 1.
+    function _painted(hand: string, on: bool): string {
+        const hands = _hands()
+        return HandGrid.LABELS.filter(other => other === hand ? on : hands.includes(other)).join(", ")
+    }
+
+    implicitWidth: column.implicitWidth
+    implicitHeight: column.implicitHeight
+
+    Column {
+        id: column
+
+        spacing: root.theme.spaceSm
+
+        Item {
+            width: matrix.width
+            height: presets.height
+
+            Row {
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: root.theme.spaceSm
+
+                Text {
+                    anchors.baseline: count.baseline
+                    text: root.label
+                    color: root.theme.text
+                    font.family: root.theme.uiFamily
+                    font.pixelSize: root.type.bodyMd
+                    font.weight: root.type.weightBold
+                }
+
+                Text {
+                    id: count
+
+                    text: qsTr("%1 hands").arg(root.handCount)
+                    color: root.theme.textMuted
+                    font.family: root.theme.uiFamily
+                    font.pixelSize: root.type.labelSm
+                }
+            }
+
+            Row {
+                id: presets
+
+                anchors.right: parent.right
+                spacing: root.theme.spaceXs
+
+                Repeater {
+                    model: ["100%", "50%", "25%"]
+
+                    SmallButton {
+                        required property string modelData
+
+                        objectName: modelData
+                        theme: root.theme
+                        type: root.type
+                        text: modelData
+                        onClicked: root.rangeChanged(modelData)
+                    }
+                }
+
+                SmallButton {
+                    objectName: "clear"
+                    theme: root.theme
+                    type: root.type
+                    text: qsTr("Clear")
+                    onClicked: root.rangeChanged("")
+                }
+            }
+        }
+
+        HandMatrix {
+            id: matrix
+
+            objectName: "matrix"
+            theme: root.theme
+            label: root.label
+            cellSize: 30
+            editable: true
+            weights: root.weights
+            width: implicitWidth
+            height: implicitHeight
+            onHandPainted: (hand, desiredOn) => root.rangeChanged(root._painted(hand, desiredOn))
+        }
+
+        InputField {
+            objectName: "field"
+            theme: root.theme
+            type: root.type
+            width: matrix.width
+            mono: true
+            label: root.label
+            placeholderText: qsTr("e.g., AA, KK, AKs, QQ+ or 50%")
+            onTextEdited: root.rangeChanged(text)
+
+            Binding on text {
+                value: root.rangeText
+            }
+        }
+    }
+}
