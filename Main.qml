@@ -1,27 +1,25 @@
 import QtQuick
+import QtQuick.Controls
 
-Window {
+/// The window. It takes the width that the pages want, or the screen where that is narrower.
+ApplicationWindow {
     id: window
 
-    width: 1540
-    height: 1200
-    minimumWidth: 1100
-    minimumHeight: 700
+    width: Math.min(Math.max(1540, shell.projectRecommendedWidth), Screen.desktopAvailableWidth)
+    height: Math.min(1200, Screen.desktopAvailableHeight)
+    minimumWidth: Math.min(Math.max(1100, shell.projectRecommendedWidth), Screen.desktopAvailableWidth)
+    minimumHeight: Math.min(700, Screen.desktopAvailableHeight)
     visible: true
     title: qsTr("Dunmarrow")
     color: "#080B12"
     flags: Qt.Window | Qt.WindowTitleHint | Qt.WindowSystemMenuHint | Qt.WindowMinMaxButtonsHint
            | Qt.WindowCloseButtonHint
+    font.family: shell.theme.uiFamily
+    font.pixelSize: shell.type.bodyMd
 
-    Text {
-        anchors.centerIn: parent
-        width: Math.min(implicitWidth, parent.width - 2 * font.pixelSize)
-        horizontalAlignment: Text.AlignHCenter
-        wrapMode: Text.Wrap
-        text: appController.statusText
-        color: "#F0F6FC"
-        font.pixelSize: 22
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
+    AppShell {
+        id: shell
+
+        anchors.fill: parent
     }
 }

@@ -1,0 +1,15 @@
+import QtQuick
+import QtQuick.Controls
+import Velmora
+
+/// The heading of a card.
+Label {
+    property Theme theme: Fallback.theme
+    property Typography type: Fallback.type
+
+    color: theme.text
+    font.pixelSize: type.bodyLg
+    font.weight: type.weightBold
+    elide: Text.ElideRight
+    Accessible.role: Accessible.Heading
+}

@@ -1,0 +1,71 @@
+import QtQuick
+import QtQuick.Layouts
+import Qt.labs.settings
+import Velmora
+
+/// The preferences. A change of the look shows at once and is kept by "Save Settings".
+ScrollPage {
+    id: root
+
+    function applyAccentHex(text: string) {
+        theme.applyAccentHex(text)
+    }
+
+    function saveSettings() {
+        store.darkMode = theme.dark
+        store.accentHex = theme.useAccentOverride ? String(theme.accentOverride) : ""
+        store.sync()
+    }
+
+    function resetToDefaults() {
+        theme.dark = true
+        theme.useAccentOverride = false
+        saveSettings()
+    }
+
+    Settings {
+        id: store
+
+        property bool darkMode: true
+        property string accentHex: ""
+
+        category: "ui"
+    }
+
+    ColumnLayout {
+        Layout.alignment: Qt.AlignHCenter
+        Layout.preferredWidth: Math.min(root.width * 0.66, root.width - 48)
+        Layout.fillWidth: false
+        spacing: root.theme.spaceXl
+
+        SectionHeader {
+            theme: root.theme
+            title: qsTr("Settings")
+        }
+
+        AppearanceCard {
+            Layout.fillWidth: true
+            theme: root.theme
+            type: root.type
+            onAccentChosen: text => root.applyAccentHex(text)
+        }
+
+        RowLayout {
+            Layout.alignment: Qt.AlignRight
+            spacing: root.theme.spaceMd
+
+            SecondaryButton {
+                theme: root.theme
+                text: qsTr("Reset to Defaults")
+                onClicked: root.resetToDefaults()
+            }
+
+            PrimaryButton {
+                theme: root.theme
+                text: qsTr("Save Settings")
+                iconName: "save"
+                onClicked: root.saveSettings()
+            }
+        }
+    }
+}

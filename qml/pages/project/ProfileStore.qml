@@ -1,0 +1,52 @@
+import QtQuick
+import Qt.labs.settings
+import "../../logic/settings_profiles.js" as SettingsProfiles
+
+/// The user's settings profiles, kept in the settings store as one JSON text.
+QtObject {
+    id: root
+
+    /// Maps with `id`, `name`, `createdAt` and `data`, in the order in which they were saved.
+    property var settingsProfiles: []
+
+    readonly property Settings _store: Settings {
+        id: store
+
+        property string profilesJson: ""
+
+        category: "settings_profiles"
+    }
+
+    function save(name: string, data: var) {
+        const taken = settingsProfiles.map(profile => profile.name)
+        settingsProfiles = settingsProfiles.concat([{
+            id: _newNodeId(),
+            name: SettingsProfiles.uniqueName(name.trim(), taken),
+            createdAt: new Date().toISOString(),
+            data: data
+        }])
+        persistSettingsProfiles()
+    }
+
+    /// The profile of an id, or undefined.
+    function find(id: string): var {
+        return settingsProfiles.find(profile => profile.id === id)
+    }
+
+    function deleteSettingsProfileById(id: string) {
+        settingsProfiles = settingsProfiles.filter(profile => profile.id !== id)
+        persistSettingsProfiles()
+    }
+
+    function persistSettingsProfiles() {
+        settingsProfiles = SettingsProfiles.sanitized(settingsProfiles, _newNodeId)
+        store.profilesJson = JSON.stringify(settingsProfiles)
+        store.sync()
+    }
+
+    function _newNodeId(): string {
+        return SettingsProfiles.newNodeId(Date.now(), Math.random)
+    }
+
+    Component.onCompleted: settingsProfiles = SettingsProfiles.parse(store.profilesJson, _newNodeId)
+}

@@ -1,0 +1,179 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Controls
+import Velmora
+
+/// The bet and raise sizes of one seat, street by street.
+Card {
+    id: root
+
+    property Typography type: Fallback.type
+    required property ProjectState project
+    required property string seat  ///< "oop" or "ip"
+
+    readonly property string seatName: seat === "oop" ? qsTr("OOP") : qsTr("IP")
+    /// The columns.
+    readonly property var streets: [
+        { key: "flop", title: qsTr("Flop") },
+        { key: "turn", title: qsTr("Turn") },
+        { key: "river", title: qsTr("River") }
+    ]
+    readonly property bool _jamEnabled: project[seat + "AddAllInIfJamLtEnabled"]
+
+    /// The label of a table row.
+    component RowTitle: Label {
+        Layout.minimumWidth: implicitWidth
+        color: root.theme.textMuted
+        font.pixelSize: root.type.labelMd
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: root.theme.spaceSm
+
+        GridLayout {
+            Layout.fillWidth: true
+            columns: 4
+            columnSpacing: root.theme.spaceSm
+            rowSpacing: root.theme.spaceSm
+
+            CardTitle {
+                Layout.bottomMargin: root.theme.spaceXs
+                theme: root.theme
+                type: root.type
+                text: root.seat === "oop" ? qsTr("OOP Sizing") : qsTr("IP Sizing")
+            }
+
+            Repeater {
+                model: root.streets
+
+                SizingCell {
+                    id: heading
+
+                    required property var modelData
+
+                    implicitHeight: headingLabel.implicitHeight
+
+                    Label {
+                        id: headingLabel
+
+                        anchors.centerIn: parent
+                        text: heading.modelData.title
+                        color: root.theme.textMuted
+                        font.pixelSize: root.type.labelMd
+                        font.weight: root.type.weightSemibold
+                    }
+                }
+            }
+
+            RowTitle {
+                text: qsTr("Bet sizes (%)")
+            }
+
+            SizeFields {
+                model: root.streets
+                theme: root.theme
+                type: root.type
+                project: root.project
+                seat: root.seat
+                seatName: root.seatName
+                title: qsTr("Bet sizes (%)")
+                suffix: "BetSizesText"
+                placeholder: "33, 75, 125"
+            }
+
+            RowTitle {
+                text: qsTr("Raise sizes (%)")
+            }
+
+            SizeFields {
+                model: root.streets
+                theme: root.theme
+                type: root.type
+                project: root.project
+                seat: root.seat
+                seatName: root.seatName
+                title: qsTr("Raise sizes (%)")
+                suffix: "RaiseSizesText"
+                placeholder: "75, 125, 200"
+            }
+
+            RowTitle {
+                text: qsTr("Add All-In")
+            }
+
+            SizeSwitches {
+                model: root.streets
+                theme: root.theme
+                project: root.project
+                seat: root.seat
+                seatName: root.seatName
+                title: qsTr("Add All-In")
+                suffix: "AddAllIn"
+            }
+
+            RowTitle {
+                visible: root.seat === "oop"
+                text: qsTr("Don't donk")
+            }
+
+            SizeSwitches {
+                model: root.seat === "oop" ? root.streets : []
+                theme: root.theme
+                project: root.project
+                seat: root.seat
+                seatName: root.seatName
+                title: qsTr("Don't donk")
+                suffix: "DontDonk"
+            }
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.topMargin: root.theme.spaceXs
+            spacing: root.theme.spaceSm
+
+            BoundSwitch {
+                theme: root.theme
+                value: root._jamEnabled
+                text: root.seatName + " " + jamLabel.text
+                onSwitched: on => root.project.set(root.seat + "AddAllInIfJamLtEnabled", on)
+            }
+
+            Label {
+                id: jamLabel
+
+                Layout.fillWidth: true
+                text: qsTr("Add all-in if jam less than")
+                color: root.theme.textMuted
+                font.pixelSize: root.type.labelMd
+                elide: Text.ElideRight
+            }
+
+            LiveNumberField {
+                Layout.preferredWidth: 72
+                theme: root.theme
+                type: root.type
+                enabled: root._jamEnabled
+                label: root.seatName + " " + jamLabel.text
+                placeholderText: qsTr("e.g. 30")
+                high: 1000
+                decimals: 3
+                number: root.project[root.seat + "AddAllInIfJamLtPct"]
+                onNumberCommitted: number => root.project.set(root.seat + "AddAllInIfJamLtPct", number)
+            }
+
+            Label {
+                text: qsTr("% pot")
+                color: root.theme.textMuted
+                font.pixelSize: root.type.labelMd
+            }
+        }
+
+        Item {
+            Layout.fillHeight: true
+        }
+    }
+}

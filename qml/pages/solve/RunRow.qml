@@ -1,0 +1,59 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Controls
+import Velmora
+
+/// One run: how it went, when it began, and what it was asked for.
+Item {
+    id: root
+
+    property Theme theme: Fallback.theme
+    property Typography type: Fallback.type
+    required property string status  ///< "Running", "Completed" or "Cancelled".
+    required property string startedAt
+    required property string summary
+
+    readonly property color _color: status === "Running" ? theme.success : status === "Completed" ? theme.info : theme.danger
+    readonly property string _statusText: status === "Running" ? qsTr("Running")
+        : status === "Completed" ? qsTr("Completed") : qsTr("Cancelled")
+
+    implicitHeight: 34
+    Accessible.role: Accessible.ListItem
+    Accessible.name: _statusText + ", " + startedAt + ", " + summary
+
+    RowLayout {
+        anchors.fill: parent
+        spacing: root.theme.spaceMd
+
+        Rectangle {
+            Layout.preferredWidth: 90
+            Layout.preferredHeight: 18
+            radius: height / 2
+            color: root.theme.withOpacity(root._color, 0.18)
+            border.color: root._color
+
+            Label {
+                anchors.centerIn: parent
+                text: root._statusText
+                color: root._color
+                font.pixelSize: root.type.labelSm
+                font.weight: root.type.weightSemibold
+            }
+        }
+
+        Label {
+            text: root.startedAt
+            color: root.theme.textMuted
+            font.family: root.theme.monoFamily
+            font.pixelSize: root.type.labelMd
+        }
+
+        Label {
+            Layout.fillWidth: true
+            text: root.summary
+            color: root.theme.text
+            font.pixelSize: root.type.labelMd
+            elide: Text.ElideRight
+        }
+    }
+}

@@ -1,0 +1,102 @@
+import QtQuick
+import QtTest
+import "find.js" as Find
+
+/// A test of the real window: it is made anew for each test function, with the size of a usual one.
+TestCase {
+    id: root
+
+    property var window
+    property var shell
+    readonly property var project: shell?.project
+    readonly property var controller: shell?.controller
+
+    function init() {
+        failOnWarning(/.?/)
+        const component = Qt.createComponent("qrc:/Velmora/Main.qml")
+        compare(component.status, Component.Ready, component.errorString())
+        window = component.createObject(null)
+        window.width = 1600
+        window.height = 1200
+        // Keys go to the window that the test case lives in.
+        parent = window.contentItem
+        window.requestActivate()
+        tryVerify(() => window.active)
+        shell = Find.withProperties(window.contentItem, "navIndex", "canSolve")
+    }
+
+    function cleanup() {
+        controller.clearResults()
+        tryVerify(() => !controller.running)
+        parent = null
+        window.destroy()
+        window = undefined
+        wait(0)
+    }
+
+    /// The page that shows.
+    function page(): Item {
+        return Find.withProperties(window.contentItem, "minimumContentWidth", "rows")
+    }
+
+    function click(item: Item) {
+        verify(item, "nothing to click on")
+        if (page() && page().reveal && _isInside(item, page()))
+            page().reveal(item)
+        waitForRendering(window.contentItem, 200)
+        mouseClick(item)
+    }
+
+    function clickButton(text: string) {
+        const button = Find.button(window.contentItem, text)
+        verify(button, "no button says " + text)
+        verify(button.enabled, "the button can't be pressed: " + text)
+        click(button)
+    }
+
+    /// Replaces what a field holds, by keyboard, and leaves it by Tab.
+    function typeInto(field: Item, text: string) {
+        click(field)
+        verify(field.activeFocus, "the field takes no focus")
+        keyClick(Qt.Key_A, Qt.ControlModifier)
+        keyClick(Qt.Key_Delete)
+        for (const character of text)
+            keyClick(character)
+        keyClick(Qt.Key_Tab)
+    }
+
+    function field(label: string, index = 0): Item {
+        const found = Find.fields(window.contentItem, label)
+        verify(found.length > index, "no field is called " + label)
+        return found[index]
+    }
+
+    function tab(text: string): Item {
+        return Find.all(window.contentItem, item => item.text === text && item.tabEnabled !== undefined)[0]
+    }
+
+    /// A river spot that solves in a moment.
+    function setRiverSpot() {
+        shell.resetToNewProject()
+        const spot = {
+            boardText: "AsKd7h2c9s", oopRangeText: "AA,KK,QJs", ipRangeText: "AK,QQ,JJ",
+            startingPot: 100, effectiveStack: 200, startingStreet: "river", maxIterations: 150,
+            targetExploitability: 0.01
+        }
+        for (const seat of ["oop", "ip"]) {
+            for (const street of ["Flop", "Turn", "River"]) {
+                spot[seat + street + "BetSizesText"] = "50"
+                spot[seat + street + "RaiseSizesText"] = "60"
+            }
+        }
+        shell.applyProjectState(spot)
+    }
+
+    function _isInside(item: Item, ancestor: Item): bool {
+        for (let candidate = item; candidate; candidate = candidate.parent) {
+            if (candidate === ancestor)
+                return true
+        }
+        return false
+    }
+}

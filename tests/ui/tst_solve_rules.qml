@@ -1,0 +1,220 @@
+import QtQuick
+import QtTest
+import "../../qml/logic/number_text.js" as NumberText
+import "../../qml/logic/project_keys.js" as ProjectKeys
+import "../../qml/logic/presets.js" as Presets
+import "../../qml/logic/range_facts.js" as RangeFacts
+import "../../qml/logic/settings_profiles.js" as SettingsProfiles
+import "../../qml/logic/solve_gate.js" as SolveGate
+import "../../qml/logic/solve_status.js" as SolveStatus
+
+TestCase {
+    name: "SolveRules"
+
+    function test_boards_data() {
+        return [
+            { tag: "flop", text: "QsJh2h", ready: true },
+            { tag: "turn, any case, blanks", text: "qS jH 2h Td", ready: true },
+            { tag: "river", text: "QsJh2hTd3c", ready: true },
+            { tag: "empty", text: "", ready: false },
+            { tag: "two cards", text: "QsJh", ready: false },
+            { tag: "six cards", text: "QsJh2hTd3c4c", ready: false },
+            { tag: "placeholder", text: "Qs__2h", ready: false },
+            { tag: "ten as digits", text: "10sJh2h", ready: false },
+            { tag: "odd length", text: "QsJh2", ready: false }
+        ]
+    }
+
+    function test_boards(data) {
+        compare(SolveGate.isStrictBoardReady(data.text), data.ready)
+    }
+
+    function test_hands_data() {
+        return [
+            { tag: "AA", has: true }, { tag: "ako", has: true }, { tag: " 98 ", has: true },
+            { tag: "x, T9s", has: true }, { tag: "A", has: false }, { tag: "A,K", has: false },
+            { tag: "50%", has: false }, { tag: "", has: false }
+        ]
+    }
+
+    function test_hands(data) {
+        compare(SolveGate.hasAnyHand(data.tag), data.has)
+    }
+
+    function test_memory_data() {
+        return [
+            { tag: "fits", required: 5, available: 6, reclaimable: 0, enough: true },
+            { tag: "exactly all of it", required: 6, available: 6, reclaimable: 0, enough: false },
+            { tag: "with what results give back", required: 8, available: 6, reclaimable: 3, enough: true },
+            { tag: "no estimate", required: 0, available: 6, reclaimable: 0, enough: false },
+            { tag: "unknown free memory", required: 5, available: 0, reclaimable: 9, enough: false },
+            { tag: "broken figure", required: 5, available: 6, reclaimable: NaN, enough: true }
+        ]
+    }
+
+    function test_memory(data) {
+        compare(SolveGate.hasEnoughRamToSolve(data.required, data.available, data.reclaimable), data.enough)
+    }
+
+    function test_status_texts_data() {
+        return [
+            { tag: "running", text: "Iter 51 | exploitability≈1.2500", iteration: 51, value: 1.25 },
+            { tag: "not measured", text: "Iter 3 | exploitability≈inf", iteration: 3 },
+            { tag: "init", text: "Init: starting solver...", iteration: 0 },
+            { tag: "finalizing", text: "Finalizing: computing results...", iteration: 0, finalizing: true }
+        ]
+    }
+
+    function test_status_texts(data) {
+        compare(SolveStatus.parseIterationFromStatusText(data.text), data.iteration)
+        compare(SolveStatus.parseExploitabilityFromStatusText(data.text), data.value)
+        compare(SolveStatus.isFinalizingText(data.text), data.finalizing === true)
+    }
+
+    function test_iteration_line() {
+        const line = SolveStatus.parseIterationLine("Iter 7 of many, exploitability = 0.5")
+        compare(line.iteration, "7")
+        compare(line.value, "0.5")
+        compare(SolveStatus.parseIterationLine("Init: Iter 7 | exploitability≈1"), undefined)
+    }
+
+    function test_exploitability_shown_data() {
+        return [
+            { tag: "50", value: 1, shown: "∞" },
+            { tag: "51", value: 1.006, shown: "1.01" },
+            { tag: "60", value: undefined, shown: "—" }
+        ]
+    }
+
+    function test_exploitability_shown(data) {
+        compare(SolveStatus.formatExploitabilityForUi(Number(data.tag), data.value), data.shown)
+    }
+
+    function test_wheel_data() {
+        return [
+            { tag: "no target", target: 0, limit: 400, total: 400 },
+            { tag: "1 %", target: 1, limit: 400, total: 150 },
+            { tag: "half", target: 0.5, limit: 400, total: 200 },
+            { tag: "tenth", target: 0.1, limit: 400, total: 300 },
+            { tag: "finer", target: 0.09, limit: 400, total: 400 },
+            { tag: "short limit", target: 0.5, limit: 120, total: 120 },
+            { tag: "no limit", target: 0.5, limit: 0, total: 1 },
+            { tag: "broken", target: NaN, limit: 400, total: 400 }
+        ]
+    }
+
+    function test_wheel(data) {
+        compare(SolveStatus.progressWheelTotalIterations(data.target, data.limit), data.total)
+    }
+
+    function test_window_and_clock() {
+        compare([0, 1, 10, 11, 20].map(iteration => SolveStatus.iterationWindowValue(iteration, 10)), [0, 1, 10, 1, 10])
+        compare([0, 61, 6000].map(SolveStatus.formatMinutesSeconds), ["00:00", "01:01", "100:00"])
+    }
+
+    function test_thread_choices_data() {
+        return [
+            { tag: "1", choices: ["Max", "1"] },
+            { tag: "8", choices: ["Max", "1", "2", "4", "8"] },
+            { tag: "12", choices: ["Max", "1", "2", "4", "8", "12"] },
+            { tag: "192", choices: ["Max", "1", "2", "4", "8", "16", "32", "64", "128", "192"] }
+        ]
+    }
+
+    function test_thread_choices(data) {
+        compare(SolveStatus.threadChoices(Number(data.tag)), data.choices)
+    }
+
+    function test_thread_count() {
+        compare([0, 1, 7, 12, 13, NaN].map(count => SolveStatus.validThreadCount(count, 12)), [12, 1, 7, 12, 12, 12])
+    }
+
+    function test_configuration_map() {
+        const config = ProjectKeys.solveConfig(Object.assign(Presets.customerQuickSolvePreset(4), {
+            oopTurnDontDonk: true, ipAddAllInIfJamLtEnabled: true, ipAddAllInIfJamLtPct: 40
+        }))
+        compare(Object.keys(config).length, 11 + 18 + 3 + 4)
+        compare(config.board, "QsJh2h")
+        compare(config.target_exploitability, 0.9)
+        compare(config.thread_count, 4)
+        compare(config.oop_turn_bet_sizes, "55")
+        compare(config.ip_river_raise_sizes, "45")
+        compare(config.oop_turn_dont_donk, true)
+        compare(config.ip_turn_dont_donk, undefined)
+        compare(config.oop_add_all_in_jam_threshold_enabled, false)
+        compare(config.ip_add_all_in_jam_threshold_pct, 40)
+        compare(ProjectKeys.percentOfPot(0, 0.5), 0)
+        compare(ProjectKeys.percentOfPot(100, NaN), 0)
+    }
+
+    function test_profiles_bring_back_all_but_board_and_ranges() {
+        const state = Object.assign(Presets.customerQuickSolvePreset(4), { oopFlopAddAllIn: true, rakeCap: 7 })
+        const values = SettingsProfiles.projectValues(SettingsProfiles.snapshot(state), 0)
+        for (const key of ProjectKeys.all) {
+            const kept = !["boardText", "oopRangeText", "ipRangeText", "betSizesText", "threadCount"].includes(key)
+            compare(ProjectKeys.coerced(key, values[key]), kept ? state[key] : ProjectKeys.coerced(key, undefined), key)
+        }
+    }
+
+    function test_older_profiles() {
+        const values = SettingsProfiles.projectValues({
+            starting_pot: 200, target_exploitability: 1, add_all_in_jam_threshold_enabled: true,
+            add_all_in_jam_threshold_pct: 30, oop_add_all_in_jam_threshold_enabled: false
+        }, 50)
+        compare(values.targetExploitability, 0.5)
+        compare(values.oopAddAllInIfJamLtEnabled, true)
+        compare(values.ipAddAllInIfJamLtPct, 30)
+        compare(ProjectKeys.coerced("oopFlopBetSizesText", values.oopFlopBetSizesText), "")
+        compare(ProjectKeys.coerced("oopFlopAddAllIn", values.oopFlopAddAllIn), false)
+        compare(SettingsProfiles.projectValues({ target_exploitability: 1 }, 0).targetExploitability, 1)
+        compare(SettingsProfiles.projectValues({}, 50).ipAddAllInIfJamLtPct, undefined)
+    }
+
+    function test_stored_profiles_data() {
+        return [
+            { tag: "not JSON", json: "{", names: [] },
+            { tag: "no list", json: "{\"name\": \"fast\"}", names: [] },
+            { tag: "what has no name goes", json: "[null, 3, {\"name\": \"  \"}, {\"name\": \" fast \", \"data\": []}]", names: ["fast"] }
+        ]
+    }
+
+    function test_stored_profiles(data) {
+        const profiles = SettingsProfiles.parse(data.json, () => "new")
+        compare(profiles.map(profile => profile.name), data.names)
+        for (const profile of profiles) {
+            compare(profile.id, "new")
+            compare(profile.createdAt, "")
+            compare(profile.data, {})
+        }
+    }
+
+    function test_unique_names() {
+        compare(SettingsProfiles.uniqueName("fast", []), "fast")
+        compare(SettingsProfiles.uniqueName("fast", ["fast"]), "fast (2)")
+        compare(SettingsProfiles.uniqueName("fast", ["fast", "fast (2)", "fast (4)"]), "fast (3)")
+        verify(/^n_[0-9a-z]+_[0-9a-z]{6}$/.test(SettingsProfiles.newNodeId(Date.now(), Math.random)))
+    }
+
+    function test_numbers_typed_data() {
+        return [
+            { tag: "0", value: 1 }, { tag: "", value: 100 }, { tag: "abc", value: 100 },
+            { tag: "2,5", value: 2.5 }, { tag: "999999", value: 1000 }, { tag: " 7 ", value: 7 }
+        ]
+    }
+
+    function test_numbers_typed(data) {
+        compare(NumberText.clamped(data.tag, 1, 1000, 100), data.value)
+    }
+
+    function test_numbers_shown() {
+        compare([0.5, 5, 0.1 + 0.2, 0.000001, 33.3333].map(number => NumberText.plain(number, 3)),
+                ["0.5", "5", "0.3", "0", "33.333"])
+    }
+
+    function test_range_size() {
+        const facts = RangeFacts.ofWeights({ AA: 1, AKs: 0.5, AKo: 0.25, KK: 0 })
+        compare(facts.hands, 3)
+        compare(facts.combos, 6 + 2 + 3)
+        fuzzyCompare(facts.share, 11 / 1326, 1e-12)
+    }
+}
