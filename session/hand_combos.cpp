@@ -1,0 +1,162 @@
+#include "hand_combos.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <stdexcept>
+
+#include "hand_categories.h"
+#include "node_reach.h"
+#include "result_node.h"
+
+namespace velmora_app {
+
+using velmora::PlanNode;
+using velmora::Pocket;
+
+namespace {
+
+bool counts(float weight) {
+  return std::isfinite(weight) && weight > 0.0F;
+}
+
+/// The values of a node's actions against those who play towards it, in chips.
+class PricedActions {
+ public:
+  PricedActions(const SolvedSpot& spot, std::uint64_t node, const PlanNode& decision,
+                ActionValues& values)
+      : reach_(range_reach_at(spot, node, velmora::opponent_of(decision.seat))),
+        table_(values.at(spot, node, reach_)),
+        mass_(spot.game->cards(), decision.seat, reach_),
+        scale_(*spot.game, decision) {}
+
+  std::vector<double> evs_of(std::size_t hand) const {
+    const double mass = mass_.of(hand);
+    std::vector<double> evs;
+    evs.reserve(table_->size());
+    for (const std::vector<float>& row : *table_) {
+      evs.push_back(scale_.chips(static_cast<double>(row[hand]), mass));
+    }
+    return evs;
+  }
+
+  /// Value of the hand when it plays its actions as often as `strategy` (action-major) tells: what
+  /// a walk from the node itself would give, to the last bit.
+  double ev_of(std::size_t hand, const std::vector<float>& strategy) const {
+    double value = 0;
+    for (std::size_t a = 0; a < table_->size(); ++a) {
+      const std::vector<float>& row = (*table_)[a];
+      value +=
+          static_cast<double>(strategy[a * row.size() + hand]) * static_cast<double>(row[hand]);
+    }
+    return scale_.chips(static_cast<double>(static_cast<float>(value)), mass_.of(hand));
+  }
+
+ private:
+  std::vector<float> reach_;
+  std::shared_ptr<const ActionValueTable> table_;
+  OpponentMass mass_;
+  ChipScale scale_;
+};
+
+std::vector<float> probabilities_of(std::size_t hand, std::size_t hands,
+                                    const std::vector<float>& strategy) {
+  std::vector<float> probabilities(strategy.size() / hands);
+  double sum = 0;
+  for (std::size_t a = 0; a < probabilities.size(); ++a) {
+    const float entry = strategy[a * hands + hand];
+    probabilities[a] = counts(entry) ? entry : 0.0F;
+    sum += static_cast<double>(probabilities[a]);
+  }
+  for (float& probability : probabilities) {
+    probability = sum > 0 ? static_cast<float>(static_cast<double>(probability) / sum)
+                          : 1.0F / static_cast<float>(probabilities.size());
+  }
+  return probabilities;
+}
+
+/// The pocket of two card texts, empty if they are no two different cards.
+std::optional<Pocket> pocket_of(std::string_view c1, std::string_view c2) {
+  try {
+    const velmora::CardCode a = velmora::parse_card(c1);
+    const velmora::CardCode b = velmora::parse_card(c2);
+    if (a != b) return velmora::make_pocket(a, b);
+  } catch (const std::invalid_argument&) {  // NOLINT: the empty answer tells it.
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+NodeHandCombos query_hand_combos(const SolvedSpot& spot, std::uint64_t node, ActionValues& values) {
+  NodeHandCombos result;
+  const PlanNode* const decision = decision_at(spot, node);
+  if (!decision) return result;
+  const std::vector<float> strategy = strategy_at(spot, node);
+  if (strategy.empty()) return result;
+  const std::vector<Pocket>& pockets = spot.game->cards().pockets(decision->seat);
+  const std::vector<float>& weights = spot.game->cards().hand_weights(decision->seat);
+
+  // Step 1. How each hand gets here and what its actions are worth.
+  const std::vector<float> own_reach =
+      reach_at(spot, node, decision->seat, std::vector<float>(pockets.size(), 1.0F));
+  const PricedActions priced(spot, node, *decision, values);
+
+  // Step 2. One record for each hand of the range.
+  for (std::size_t h = 0; h < pockets.size(); ++h) {
+    if (!counts(weights[h])) continue;
+    HandCombo combo;
+    combo.c1 = velmora::card_to_string(velmora::low_card(pockets[h]));
+    combo.c2 = velmora::card_to_string(velmora::high_card(pockets[h]));
+    combo.weight = static_cast<double>(own_reach[h]) * static_cast<double>(weights[h]);
+    combo.action_probabilities = probabilities_of(h, pockets.size(), strategy);
+    combo.buckets = velmora::hand_categories(*spot.game, *decision, pockets[h]);
+    combo.ev = priced.ev_of(h, strategy);
+    combo.action_evs = priced.evs_of(h);
+    result.combos.push_back(std::move(combo));
+  }
+  std::stable_sort(result.combos.begin(), result.combos.end(),
+                   [](const HandCombo& a, const HandCombo& b) { return a.ev > b.ev; });
+  result.ok = true;
+  return result;
+}
+
+SeatHandCombos query_seat_hand_combos(const SolvedSpot& spot, std::uint64_t node,
+                                      velmora::Seat seat) {
+  SeatHandCombos result;
+  const PlanNode* const found = node_at(spot, node);
+  if (!found) return result;
+  const velmora::CardMask blocked = spot.game->cards().board_mask() |
+                                    velmora::mask_of(found->turn) | velmora::mask_of(found->river);
+  const std::vector<Pocket>& pockets = spot.game->cards().pockets(seat);
+  const std::vector<float>& weights = spot.game->cards().hand_weights(seat);
+  for (std::size_t h = 0; h < pockets.size(); ++h) {
+    if (!counts(weights[h]) || (velmora::mask_of_pocket(pockets[h]) & blocked)) continue;
+    result.combos.push_back({velmora::card_to_string(velmora::low_card(pockets[h])),
+                             velmora::card_to_string(velmora::high_card(pockets[h])),
+                             static_cast<double>(weights[h])});
+  }
+  result.ok = true;
+  return result;
+}
+
+PocketActionEvs query_pocket_action_evs(const SolvedSpot& spot, std::uint64_t node,
+                                        velmora::Seat seat, std::string_view c1,
+                                        std::string_view c2, ActionValues& values) {
+  PocketActionEvs result;
+  const PlanNode* const decision = decision_at(spot, node);
+  if (!decision || decision->seat != seat) return result;
+  const std::optional<Pocket> pocket = pocket_of(c1, c2);
+  if (!pocket) return result;
+  const std::vector<Pocket>& pockets = spot.game->cards().pockets(seat);
+  const auto found = std::find(pockets.begin(), pockets.end(), *pocket);
+  if (found == pockets.end()) return result;
+  // Opposing hands that share a card with this one don't enter its values or its mass, so the walk
+  // that serves all hands of the node serves it too.
+  result.evs = PricedActions(spot, node, *decision, values)
+                   .evs_of(static_cast<std::size_t>(found - pockets.begin()));
+  result.ok = true;
+  return result;
+}
+
+}  // namespace velmora_app
