@@ -10,6 +10,8 @@
 
 #include "developer_mode.h"
 #include "processor_count.h"
+#include "result_variants.h"
+#include "showdown.h"
 #include "solve_config_map.h"
 #include "solve_request.h"
 #include "text_files.h"
@@ -69,6 +71,7 @@ void AppController::setStatus(const QString& text) {
 void AppController::dropResult() {
   outcome_ = {};
   tree_.clear();
+  results_.caches().clear();
 }
 
 void AppController::startSolve() {
@@ -244,4 +247,40 @@ QVariantMap AppController::nodeMeta(int nodeIndex) {
 
 QVariantList AppController::nodeActions(int nodeIndex) {
   return tree_.actions(nodeIndex);
+}
+
+QVariantList AppController::nodeActionStats(int nodeIndex) {
+  return results_.nodeActionStats(nodeIndex);
+}
+
+QVariantList AppController::nodePocketActionEvs(int nodeIndex, const QString& player,
+                                                const QString& c1, const QString& c2) {
+  return results_.nodePocketActionEvs(nodeIndex, player, c1, c2);
+}
+
+QVariantMap AppController::showdownWinner(const QString& boardText, const QString& oopText,
+                                          const QString& ipText) {
+  return variantOf(velmora_app::showdown_winner(boardText.toLatin1().toStdString(),
+                                                oopText.toLatin1().toStdString(),
+                                                ipText.toLatin1().toStdString()));
+}
+
+QVariantMap AppController::nodeHandStrategy(int nodeIndex) {
+  return results_.nodeHandStrategy(nodeIndex);
+}
+
+QVariantMap AppController::nodeHandStrategyReach169(int nodeIndex, const QString& bucketName) {
+  return results_.nodeHandStrategyReach169(nodeIndex, bucketName);
+}
+
+QVariantList AppController::nodeHandCombos(int nodeIndex) {
+  return results_.nodeHandCombos(nodeIndex);
+}
+
+QVariantList AppController::nodeSeatHandCombos(int nodeIndex, const QString& player) {
+  return results_.nodeSeatHandCombos(nodeIndex, player);
+}
+
+QVariantList AppController::nodeHandBuckets(int nodeIndex) {
+  return results_.nodeHandBuckets(nodeIndex);
 }

@@ -12,6 +12,7 @@
 #include "memory_monitor.h"
 #include "node_lock_table.h"
 #include "report_inbox.h"
+#include "result_queries.h"
 #include "solve_outcome.h"
 #include "solve_session.h"
 #include "tree_mirror.h"
@@ -104,6 +105,28 @@ class AppController : public QObject {
   Q_INVOKABLE int treeNodeCount();
   Q_INVOKABLE QVariantMap nodeMeta(int nodeIndex);
   Q_INVOKABLE QVariantList nodeActions(int nodeIndex);
+  /// One map for each action: "name", "actionType", "frequency", "combos" (range weight that plays
+  /// it), "equity" (0..1, not a number if unknown) and "ev" (chips).
+  Q_INVOKABLE QVariantList nodeActionStats(int nodeIndex);
+  /// Chips by action of one hand of the player who acts.
+  Q_INVOKABLE QVariantList nodePocketActionEvs(int nodeIndex, const QString& player,
+                                               const QString& c1, const QString& c2);
+  /// "winner" ("OOP", "IP", "TIE" or "UNKNOWN"), "oopStrength" and "ipStrength".
+  Q_INVOKABLE QVariantMap showdownWinner(const QString& boardText, const QString& oopText,
+                                         const QString& ipText);
+  /// By hand label "weights", "dominantActionTypes" and "actionProbs"; "actionNames" and
+  /// "actionTypeList". The weights are those of the range.
+  Q_INVOKABLE QVariantMap nodeHandStrategy(int nodeIndex);
+  /// The same weighted by how often the hands get to the node, of one hand category or, with an
+  /// empty name, of all hands.
+  Q_INVOKABLE QVariantMap nodeHandStrategyReach169(int nodeIndex, const QString& bucketName);
+  /// The hands of the player who acts, the best first: "c1", "c2", "weight" (reach times range
+  /// weight), "ev" (chips), "actionEvs", "buckets" (category names) and "actionProbs".
+  Q_INVOKABLE QVariantList nodeHandCombos(int nodeIndex);
+  /// The hands that a player can hold at a node of any kind: "c1", "c2" and "weight".
+  Q_INVOKABLE QVariantList nodeSeatHandCombos(int nodeIndex, const QString& player);
+  /// "name", "displayName", "combos" (range weight) and "actionProbs" of each hand category.
+  Q_INVOKABLE QVariantList nodeHandBuckets(int nodeIndex);
 
  signals:
   void runningChanged();
@@ -133,6 +156,7 @@ class AppController : public QObject {
   TreeMirror tree_;
   NodeLockTable nodeLockTable_;
   QVariantMap lastUiCfg_;  ///< Of the latest start, refused or not.
+  ResultQueries results_{session_, tree_};
   const bool developerMode_;
   const int systemThreadCount_;
   MemoryMonitor memory_;

@@ -1,0 +1,90 @@
+#include "reach_grid.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include <QHash>
+
+namespace {
+
+struct LabelSums {
+  double weightSum = 0;
+  int count = 0;
+  QList<double> actions;
+};
+
+bool isIn(const QVariantMap& combo, const QString& category) {
+  const QVariantList names = combo.value("buckets").toList();
+  return std::any_of(names.begin(), names.end(), [&](const QVariant& name) {
+    return name.toString().trimmed().toLower() == category;
+  });
+}
+
+/// The sums over their weight, brought to a sum of 1.
+QVariantList meansOf(const LabelSums& sums) {
+  QList<double> means;
+  double total = 0;
+  for (const double action : sums.actions) {
+    const double mean = action / sums.weightSum;
+    means.append(std::isfinite(mean) && mean > 0 ? mean : 0.0);
+    total += means.last();
+  }
+  QVariantList list;
+  for (const double mean : means) list.append(total > 0 ? mean / total : mean);
+  return list;
+}
+
+}  // namespace
+
+QString handClassLabelFromCards(const QString& c1, const QString& c2) {
+  static const QString kRanks = QStringLiteral("AKQJT98765432");
+  if (c1.size() < 2 || c2.size() < 2) return {};
+  qsizetype high = kRanks.indexOf(c1[0].toUpper());
+  qsizetype low = kRanks.indexOf(c2[0].toUpper());
+  if (high < 0 || low < 0) return {};
+  if (high > low) std::swap(high, low);
+  const QString ranks = QString(kRanks[high]) + kRanks[low];
+  if (high == low) return ranks;
+  return ranks + (c1[1].toLower() == c2[1].toLower() ? 's' : 'o');
+}
+
+QVariantMap reachGrid(QVariantMap base, const QVariantList& combos, const QString& category) {
+  // Step 1. Sums over the hands of each label.
+  qsizetype actions = base.value("actionTypeList").toList().size();
+  QHash<QString, LabelSums> sumsByLabel;
+  for (const QVariant& entry : combos) {
+    const QVariantMap combo = entry.toMap();
+    if (!category.isEmpty() && !isIn(combo, category)) continue;
+    const QString label =
+        handClassLabelFromCards(combo.value("c1").toString(), combo.value("c2").toString());
+    const double reach = combo.value("weight").toDouble();
+    if (label.isEmpty() || !std::isfinite(reach) || !(reach > 0)) continue;
+    const double weight = std::min(reach, 1.0);
+    const QVariantList probabilities = combo.value("actionProbs").toList();
+    if (actions < 1) actions = probabilities.size();
+    if (actions < 1) continue;
+
+    LabelSums& sums = sumsByLabel[label];
+    sums.weightSum += weight;
+    ++sums.count;
+    sums.actions.resize(actions);
+    for (qsizetype a = 0; a < std::min(actions, probabilities.size()); ++a) {
+      const double probability = probabilities[a].toDouble();
+      if (std::isfinite(probability) && probability > 0) sums.actions[a] += probability * weight;
+    }
+  }
+
+  // Step 2. Their means.
+  QVariantMap weights;
+  QVariantMap actionProbs;
+  for (auto it = sumsByLabel.cbegin(); it != sumsByLabel.cend(); ++it) {
+    weights[it.key()] = it->weightSum / it->count;
+    actionProbs[it.key()] = meansOf(*it);
+  }
+  if (!category.isEmpty() || !weights.isEmpty()) {
+    base["weights"] = weights;
+    base["actionProbs"] = actionProbs;
+  }
+  return base;
+}

@@ -1,0 +1,123 @@
+#include "result_queries.h"
+
+#include <cstdint>
+#include <optional>
+
+#include <QCoreApplication>
+
+#include "reach_grid.h"
+#include "result_variants.h"
+
+using velmora_app::SolvedSpot;
+
+namespace {
+
+/// The stored answer of a node, else what `compute` gives, which is stored unless it is nothing.
+template <typename Answer, typename Compute>
+Answer answerOf(QMap<int, Answer>& cache, int nodeIndex, const Compute& compute) {
+  if (nodeIndex < 0) return {};
+  if (const auto known = cache.constFind(nodeIndex); known != cache.cend()) return *known;
+  const std::optional<Answer> answer = compute(static_cast<std::uint64_t>(nodeIndex));
+  return answer ? *cache.insert(nodeIndex, *answer) : Answer();
+}
+
+/// What the pages read of a record; nothing if the query could not be answered.
+template <typename Record>
+auto answerIn(const Record& record) {
+  return record.ok ? std::optional(variantOf(record)) : std::nullopt;
+}
+
+velmora::Seat seatOf(const QString& player) {
+  return player.trimmed().toUpper() == QLatin1String("IP") ? velmora::kIp : velmora::kOop;
+}
+
+/// A text that compares equal however a card was typed.
+QString cardKey(const QString& card) {
+  return card.trimmed().toLower();
+}
+
+}  // namespace
+
+QVariantMap ResultQueries::nodeHandStrategy(int nodeIndex) {
+  return answerOf(caches_.handStrategyCache, nodeIndex, [&](std::uint64_t node) {
+    auto map = answerIn(velmora_app::query_hand_strategy(session_.solved_spot(), node));
+    if (map)
+      (*map)["actionTypeList"] = actionTypes(nodeIndex, (*map)["actionNames"].toList().size());
+    return map;
+  });
+}
+
+QVariantList ResultQueries::actionTypes(int nodeIndex, qsizetype count) const {
+  QVariantList types;
+  for (const QVariant& action : tree_.actions(nodeIndex)) {
+    types.append(action.toMap().value("actionType"));
+  }
+  return types.size() == count ? types : QVariantList(count, QStringLiteral("none"));
+}
+
+QVariantMap ResultQueries::nodeHandStrategyReach169(int nodeIndex, const QString& bucketName) {
+  if (nodeIndex < 0) return {};
+  const QString category = bucketName.trimmed().toLower();
+  const QString key = QString::number(nodeIndex) + '|' + category;
+  if (const auto known = caches_.reach169Cache.constFind(key);
+      known != caches_.reach169Cache.cend()) {
+    return *known;
+  }
+  const QVariantList combos = nodeHandCombos(nodeIndex);
+  QVariantMap grid = nodeHandStrategy(nodeIndex);
+  if (caches_.handCombosCache.contains(nodeIndex)) grid = reachGrid(grid, combos, category);
+  return *caches_.reach169Cache.insert(key, grid);
+}
+
+QVariantList ResultQueries::nodeActionStats(int nodeIndex) {
+  return answerOf(caches_.actionStatsCache, nodeIndex, [this](std::uint64_t node) {
+    return answerIn(velmora_app::query_action_stats(session_.solved_spot(), node, *values_));
+  });
+}
+
+QVariantList ResultQueries::nodeHandCombos(int nodeIndex) {
+  return answerOf(caches_.handCombosCache, nodeIndex, [this](std::uint64_t node) {
+    return answerIn(velmora_app::query_hand_combos(session_.solved_spot(), node, *values_));
+  });
+}
+
+QVariantList ResultQueries::nodeSeatHandCombos(int nodeIndex, const QString& player) {
+  const velmora::Seat seat = seatOf(player);
+  auto& cache =
+      seat == velmora::kOop ? caches_.seatHandCombosOopCache : caches_.seatHandCombosIpCache;
+  return answerOf(cache, nodeIndex, [&](std::uint64_t node) {
+    return answerIn(velmora_app::query_seat_hand_combos(session_.solved_spot(), node, seat));
+  });
+}
+
+QVariantList ResultQueries::nodeHandBuckets(int nodeIndex) {
+  QVariantList list = answerOf(caches_.handBucketsCache, nodeIndex, [this](std::uint64_t node) {
+    return answerIn(velmora_app::query_hand_buckets(session_.solved_spot(), node));
+  });
+  // The names for display follow the language and are not kept.
+  for (QVariant& entry : list) {
+    QVariantMap bucket = entry.toMap();
+    bucket["displayName"] = QCoreApplication::translate(
+        "HandBuckets", bucket.value("name").toString().toUtf8().constData());
+    entry = bucket;
+  }
+  return list;
+}
+
+QVariantList ResultQueries::nodePocketActionEvs(int nodeIndex, const QString& player,
+                                                const QString& c1, const QString& c2) {
+  if (nodeIndex < 0) return {};
+  const velmora_app::PocketActionEvs record = velmora_app::query_pocket_action_evs(
+      session_.solved_spot(), static_cast<std::uint64_t>(nodeIndex), seatOf(player),
+      c1.toStdString(), c2.toStdString(), *values_);
+  if (record.ok) return variantOf(record);
+  for (const QVariant& entry : caches_.handCombosCache.value(nodeIndex)) {
+    const QVariantMap combo = entry.toMap();
+    const QString first = cardKey(combo.value("c1").toString());
+    const QString second = cardKey(combo.value("c2").toString());
+    const bool matches = (first == cardKey(c1) && second == cardKey(c2)) ||
+                         (first == cardKey(c2) && second == cardKey(c1));
+    if (matches) return combo.value("actionEvs").toList();
+  }
+  return {};
+}
