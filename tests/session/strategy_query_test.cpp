@@ -1,0 +1,287 @@
+// Queries that sum a node's strategy: by hand class, by hand category, by action.
+#include <cmath>
+#include <functional>
+#include <map>
+#include <optional>
+#include <random>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "action_stats.h"
+#include "equity.h"
+#include "hand_buckets.h"
+#include "query_spots.h"
+#include "showdown.h"
+#include "strategy_grid.h"
+
+namespace session_test {
+namespace {
+
+using velmora::kNoCard;
+using velmora_app::ActionValues;
+using velmora_app::NodeActionStats;
+using velmora_app::query_hand_strategy;
+
+double weight_of(const SolvedSpot& spot, Seat seat, std::size_t hand) {
+  return static_cast<double>(spot.game->cards().hand_weights(seat)[hand]);
+}
+
+TEST(StrategyQueries, GridSumsTheHandsOfEachClass) {
+  const auto& labels = velmora_app::hand_class_labels();
+  EXPECT_EQ(labels[0], "AA");
+  EXPECT_EQ(labels[1], "AKs");
+  EXPECT_EQ(labels[13], "AKo");
+  EXPECT_EQ(labels[168], "22");
+  for (const QueryCase& c : query_cases()) {
+    const SolvedSpot spot = solved(c.spot, velmora::SuitFolding::kOn);
+    for (const Path& path : c.paths) {
+      const std::size_t node = follow(spot, path);
+      const PlanNode& at = spot.game->nodes()[node];
+      const std::size_t actions = at.actions.size();
+      const std::vector<float> strategy = spot.solver->average_strategy(node);
+      const auto grid = query_hand_strategy(spot, node);
+      const auto buckets = query_hand_buckets(spot, node);
+      ASSERT_TRUE(grid.ok && buckets.ok);
+
+      // By class, and by category, the weights and the weighted play of the hands.
+      std::map<std::string, std::vector<double>> by_class, by_name;
+      for (std::size_t h = 0; h < spot.game->num_hands(at.seat); ++h) {
+        const Pocket pocket = spot.game->cards().pockets(at.seat)[h];
+        const auto add = [&](std::vector<double>& sums) {
+          sums.resize(actions + 1);
+          sums[actions] += weight_of(spot, at.seat, h);
+          for (std::size_t a = 0; a < actions; ++a) {
+            sums[a] += weight_of(spot, at.seat, h) *
+                       static_cast<double>(strategy[a * spot.game->num_hands(at.seat) + h]);
+          }
+        };
+        add(by_class[velmora::hand_class_label(pocket)]);
+        for (std::string_view name : velmora::hand_categories(*spot.game, at, pocket)) {
+          add(by_name[std::string(name == "pair" ? "air" : name)]);
+        }
+      }
+      ASSERT_EQ(grid.labels.size(), 169U);
+      for (std::size_t i = 0; i < 169; ++i) {
+        const auto sums = by_class.find(grid.labels[i]);
+        if (sums == by_class.end()) {
+          EXPECT_EQ(grid.weights[i], 0);
+          EXPECT_EQ(grid.dominant_action_types[i], "");
+          EXPECT_EQ(grid.action_probabilities[i * actions], 0);
+          continue;
+        }
+        EXPECT_NEAR(grid.weights[i], sums->second[actions], 1e-6) << grid.labels[i];
+        EXPECT_NE(grid.dominant_action_types[i], "");
+        for (std::size_t a = 0; a < actions; ++a) {
+          EXPECT_NEAR(grid.action_probabilities[i * actions + a],
+                      sums->second[a] / sums->second[actions], 1e-6);
+        }
+      }
+      EXPECT_EQ(buckets.buckets.size(), by_name.size());
+      const auto* row = velmora::kHandCategoryNames.begin();
+      for (const auto& bucket : buckets.buckets) {
+        row = std::find(row, velmora::kHandCategoryNames.end(), bucket.name);  // In their order.
+        ASSERT_NE(row, velmora::kHandCategoryNames.end()) << bucket.name;
+        const auto& sums = by_name.at(bucket.name);
+        EXPECT_NEAR(bucket.combos, sums[actions], 1e-6);
+        EXPECT_NEAR(bucket.action_probabilities[0], sums[0] / sums[actions], 1e-6);
+      }
+    }
+  }
+}
+
+TEST(StrategyQueries, OfEqualActionsTheFirstDominates) {
+  const SolvedSpot spot = solved(query_cases()[0].spot, velmora::SuitFolding::kOn, 0);
+  const auto grid = query_hand_strategy(spot, 0);
+  EXPECT_EQ(grid.dominant_action_types[0], "check");
+  EXPECT_THAT(grid.action_names, ::testing::ElementsAre("Check", "Bet 50%"));
+  EXPECT_FALSE(query_hand_strategy(spot, follow(spot, {0, 0})).ok);
+  EXPECT_FALSE(query_hand_buckets(spot, follow(spot, {0, 0})).ok);
+  EXPECT_FALSE(query_hand_strategy({}, 0).ok);
+}
+
+/// Chance that a pocket wins against another one, over all boards; ties count half.
+double equity_of(const SolvedSpot& spot, const PlanNode& node, Pocket own, Pocket other) {
+  std::vector<CardCode> board(spot.game->cards().board().flop.begin(),
+                              spot.game->cards().board().flop.end());
+  if (node.turn != kNoCard) board.push_back(node.turn);
+  if (node.river != kNoCard) board.push_back(node.river);
+  double score = 0;
+  int boards = 0;
+  const std::function<void(CardCode)> run_out = [&](CardCode from) {
+    if (board.size() == 5) {
+      const auto mine = velmora::evaluate_hand(own, board);
+      const auto theirs = velmora::evaluate_hand(other, board);
+      score += mine > theirs ? 1.0 : mine == theirs ? 0.5 : 0.0;
+      ++boards;
+      return;
+    }
+    for (CardCode card = from; card < velmora::kNumCards; ++card) {
+      const auto used = mask_of_pocket(own) | mask_of_pocket(other);
+      if ((used & mask_of(card)) || std::count(board.begin(), board.end(), card)) continue;
+      board.push_back(card);
+      run_out(static_cast<CardCode>(card + 1));
+      board.pop_back();
+    }
+  };
+  run_out(0);
+  return score / boards;
+}
+
+TEST(StrategyQueries, ActionStatisticsAgreeWithSumsOverPairs) {
+  for (const QueryCase& c : query_cases()) {
+    const SolvedSpot spot = solved(c.spot, velmora::SuitFolding::kOn);
+    for (const Path& path : c.paths) {
+      const std::size_t node = follow(spot, path);
+      SCOPED_TRACE("node " + std::to_string(node));
+      const PlanNode& at = spot.game->nodes()[node];
+      const Seat other = opponent_of(at.seat);
+      const auto& own = spot.game->cards().pockets(at.seat);
+      const auto& opposing = spot.game->cards().pockets(other);
+      const auto dealt = mask_of(at.turn) | mask_of(at.river);
+      const std::vector<float> strategy = spot.solver->average_strategy(node);
+      ActionValues values;
+      const NodeActionStats stats = query_action_stats(spot, node, values);
+      ASSERT_TRUE(stats.ok);
+      EXPECT_EQ(stats.frequencies, spot.solver->average_action_frequencies(node));
+
+      for (std::size_t a = 0; a < at.actions.size(); ++a) {
+        const auto child = spot.solver->compute_cfvalue(*spot.game, at.children[a], at.seat);
+        double combos = 0, value = 0, share = 0, met_total = 0, mean = 0, hero_total = 0;
+        for (std::size_t h = 0; h < own.size(); ++h) {
+          const double played =
+              weight_of(spot, at.seat, h) * static_cast<double>(strategy[a * own.size() + h]);
+          double mass = 0, met = 0, won = 0;
+          for (std::size_t o = 0; o < opposing.size(); ++o) {
+            if (mask_of_pocket(own[h]) & mask_of_pocket(opposing[o])) continue;
+            const double weight = weight_of(spot, other, o);
+            mass += weight;  // Of the whole range, whatever the node's cards take away.
+            if ((mask_of_pocket(own[h]) | mask_of_pocket(opposing[o])) & dealt) continue;
+            met += weight;
+            if (played > 0) won += weight * equity_of(spot, at, own[h], opposing[o]);
+          }
+          combos += played;
+          if (mass > 0) {
+            value += played * static_cast<double>(child[h]) *
+                     spot.game->cards().total_matchup_weight() / mass;
+          }
+          share += played * won;
+          met_total += played * met;
+          if (met > 0) mean += played * won / met;
+          if (met > 0) hero_total += played;
+        }
+        EXPECT_NEAR(stats.combos[a], combos, 1e-6);
+        const double half = c.spot.pot / 2.0 + at.commit;
+        EXPECT_NEAR(stats.evs[a], half + (combos > 0 ? value / combos : 0), 1e-3 * c.spot.pot);
+        if (met_total == 0) {
+          EXPECT_TRUE(std::isnan(stats.equity[a]));
+        } else if (at.river != kNoCard) {
+          EXPECT_NEAR(stats.equity[a], share / met_total, 1e-6);
+        } else {
+          // Sampled: the hand is drawn first, then whom it meets. Four standard errors.
+          EXPECT_NEAR(stats.equity[a], mean / hero_total, 4 * 0.5 / std::sqrt(4000));
+        }
+      }
+
+      // The node alone decides the figures.
+      ActionValues fresh;
+      const NodeActionStats again = query_action_stats(spot, node, fresh);
+      EXPECT_EQ(again.evs, stats.evs);
+      for (std::size_t a = 0; a < stats.equity.size(); ++a) {
+        EXPECT_TRUE(again.equity[a] == stats.equity[a] || std::isnan(stats.equity[a]));
+      }
+    }
+  }
+}
+
+/// The samples, draw by draw, by the distributions of the standard library.
+TEST(StrategyQueries, SamplesAreDrawnAsTold) {
+  const std::vector<Pocket> hero = {velmora::make_pocket(0, 5), velmora::make_pocket(30, 51),
+                                    velmora::make_pocket(50, 49)};
+  const std::vector<Pocket> villain = {velmora::make_pocket(0, 51), velmora::make_pocket(28, 29)};
+  const std::vector<double> hero_weights = {0.5, 0.25, 1}, villain_weights = {1, 0.125};
+  velmora::Board board{.flop = {8, 17, 47}};
+  for (const CardCode turn : {CardCode{50}, kNoCard}) {
+    board.turn = turn;
+    std::mt19937 random(99);
+    double score = 0;
+    int total = 0;
+    for (int sample = 0; sample < 500; ++sample) {
+      const auto draw = [&](const std::vector<Pocket>& pockets,
+                            const std::vector<double>& weights) {
+        double left = std::generate_canonical<double, 53>(random);
+        double sum = 0;
+        for (const double weight : weights) sum += weight;
+        left *= sum;
+        std::size_t place = 0;
+        for (double reached = weights[0]; reached < left; reached += weights[++place]) {
+        }
+        return pockets[place];
+      };
+      velmora::CardMask used = mask_of(8) | mask_of(17) | mask_of(47) | mask_of(turn);
+      const Pocket own = draw(hero, hero_weights);
+      if (used & mask_of_pocket(own)) continue;
+      used |= mask_of_pocket(own);
+      std::optional<Pocket> other;
+      for (int i = 0; i < 32 && !other; ++i) {
+        const Pocket candidate = draw(villain, villain_weights);
+        if (!(used & mask_of_pocket(candidate))) other = candidate;
+      }
+      if (!other) continue;
+      used |= mask_of_pocket(*other);
+      std::vector<CardCode> full = {8, 17, 47};
+      if (turn != kNoCard) full.push_back(turn);
+      while (full.size() < 5) {
+        std::vector<CardCode> deck;
+        for (CardCode card = 0; card < 52; ++card) {
+          if (!(used & mask_of(card))) deck.push_back(card);
+        }
+        const auto last = static_cast<std::uint32_t>(deck.size() - 1);
+        full.push_back(deck[std::uniform_int_distribution<std::uint32_t>(0, last)(random)]);
+        used |= mask_of(full.back());
+      }
+      const auto mine = velmora::evaluate_hand(own, full);
+      const auto theirs = velmora::evaluate_hand(*other, full);
+      score += mine > theirs ? 1.0 : mine == theirs ? 0.5 : 0.0;
+      ++total;
+    }
+    std::mt19937 generator(99);
+    EXPECT_EQ(velmora_app::sampled_equity(generator, board, {hero, hero_weights},
+                                          {villain, villain_weights}, 500),
+              score / total);
+    EXPECT_EQ(generator, random);
+  }
+  std::mt19937 generator(1);
+  const std::vector<double> nothing = {0, -1, NAN};
+  EXPECT_TRUE(std::isnan(velmora_app::sampled_equity(generator, board, {hero, nothing},
+                                                     {villain, villain_weights}, 10)));
+  EXPECT_TRUE(std::isnan(velmora_app::sampled_equity(generator, board, {hero, hero_weights},
+                                                     {villain, villain_weights}, 0)));
+}
+
+TEST(Showdown, ComparesTwoHandsOnAFullBoard) {
+  const struct {
+    const char* board;
+    const char* oop;
+    const char* ip;
+    const char* winner;
+  } cases[] = {
+      {"KsQd7h2c3s", "KdKh", "AcAd", "OOP"},     {"KsQd7h2c3s", "AhJs", "AcAd", "IP"},
+      {"AsKsQsJsTs", "2d2c", "3d3c", "TIE"},     {" Ks Qd\t7h2c 3s ", "Kd Kh", "AcAd", "OOP"},
+      {"KsQd7h2c3s9x", "KdKhzz", "AcAd", "OOP"},  // What stands behind is not read.
+      {"KsQd7h2c", "KdKh", "AcAd", "UNKNOWN"},   {"KsQd7h2c3s", "Kd", "AcAd", "UNKNOWN"},
+      {"KsQd7h2c3x", "KdKh", "AcAd", "UNKNOWN"}, {"KsQd7h2c3s", "KdKh", "AcZd", "UNKNOWN"},
+  };
+  for (const auto& c : cases) {
+    const auto result = velmora_app::showdown_winner(c.board, c.oop, c.ip);
+    EXPECT_EQ(result.winner, c.winner) << c.board;
+    EXPECT_EQ(result.oop_strength == 0, result.winner == "UNKNOWN");
+    if (result.winner == "OOP") {
+      EXPECT_GT(result.oop_strength, result.ip_strength);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace session_test
