@@ -43,6 +43,7 @@ AppController::AppController(MemoryMonitor::Sources memorySources, QObject* pare
   connect(&memory_, &MemoryMonitor::systemMemoryChanged, this, &AppController::systemMemoryChanged);
   connect(&memory_, &MemoryMonitor::solveRequiredMemoryChanged, this,
           &AppController::solveRequiredMemoryChanged);
+  connect(&preparer_, &NodePreparer::ready, this, &AppController::nodeAnswersReady);
   setStatus(tr("Ready"));
 }
 
@@ -72,6 +73,7 @@ void AppController::dropResult() {
   outcome_ = {};
   tree_.clear();
   results_.caches().clear();
+  preparer_.giveUp();
 }
 
 void AppController::startSolve() {
@@ -283,4 +285,8 @@ QVariantList AppController::nodeSeatHandCombos(int nodeIndex, const QString& pla
 
 QVariantList AppController::nodeHandBuckets(int nodeIndex) {
   return results_.nodeHandBuckets(nodeIndex);
+}
+
+void AppController::prepareNodeAnswers(int nodeIndex) {
+  preparer_.prepare(session_.solved_spot(), nodeIndex, results_.actionValues());
 }

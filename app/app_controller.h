@@ -11,6 +11,7 @@
 
 #include "memory_monitor.h"
 #include "node_lock_table.h"
+#include "node_preparer.h"
 #include "report_inbox.h"
 #include "result_queries.h"
 #include "solve_outcome.h"
@@ -127,6 +128,9 @@ class AppController : public QObject {
   Q_INVOKABLE QVariantList nodeSeatHandCombos(int nodeIndex, const QString& player);
   /// "name", "displayName", "combos" (range weight) and "actionProbs" of each hand category.
   Q_INVOKABLE QVariantList nodeHandBuckets(int nodeIndex);
+  /// Computes what the calls above need for a node away from the window's thread, and answers by
+  /// `nodeAnswersReady`; then they are quick. The node asked for last is the only one that counts.
+  Q_INVOKABLE void prepareNodeAnswers(int nodeIndex);
 
  signals:
   void runningChanged();
@@ -137,6 +141,7 @@ class AppController : public QObject {
   void playVsSolutionStatsChanged();
   void systemMemoryChanged();
   void solveRequiredMemoryChanged();
+  void nodeAnswersReady(int nodeIndex);
 
  private:
   void setRunning(bool running);
@@ -157,6 +162,7 @@ class AppController : public QObject {
   NodeLockTable nodeLockTable_;
   QVariantMap lastUiCfg_;  ///< Of the latest start, refused or not.
   ResultQueries results_{session_, tree_};
+  NodePreparer preparer_;
   const bool developerMode_;
   const int systemThreadCount_;
   MemoryMonitor memory_;

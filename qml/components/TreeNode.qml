@@ -227,7 +227,7 @@ Item {
 
             RowLayout {
                 spacing: 6
-                visible: potLabel.visible || frequencyLabel.visible || evLabel.visible
+                visible: root.pot > 0 || root.frequency >= 0 || root.ev !== 0
 
                 Label {
                     id: potLabel

@@ -1,82 +1,87 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import QtQuick.Layouts
+import QtQuick.Controls
 import Velmora
 
-/// What the latest solve came to.
-ScrollPage {
+/// Browses a solved game: the walked tree at the left, how the node on view is played at the right.
+FocusScope {
     id: root
 
+    property Theme theme: Fallback.theme
+    property Typography type: Fallback.type
     required property var controller
     required property string boardText
     required property real rakePercent
     required property int rakeCap
 
-    SectionHeader {
-        Layout.fillWidth: true
-        theme: root.theme
-        title: qsTr("Results")
-        subtitle: root.controller.resultsSummary
+    readonly property alias walk: walk_
+    readonly property alias view: view_
+    readonly property alias locks: locks_
+
+    function _showNewResults() {
+        walk_.resetTreeToRoot()
+        view_.look()
     }
 
-    Card {
-        Layout.fillWidth: true
+    Component.onCompleted: _showNewResults()
+
+    Connections {
+        function onResultsChanged() {
+            root._showNewResults()
+        }
+
+        target: root.controller
+    }
+
+    TreeWalk {
+        id: walk_
+
+        controller: root.controller
+        boardText: root.boardText
+    }
+
+    NodeLocks {
+        id: locks_
+
+        controller: root.controller
+        onChanged: view_.refreshHandMatrix()
+    }
+
+    NodeView {
+        id: view_
+
+        controller: root.controller
         theme: root.theme
+        walk: walk_
+        locks: locks_
+    }
 
-        ColumnLayout {
-            anchors.fill: parent
-            spacing: root.theme.spaceLg
+    SplitView {
+        anchors.fill: parent
+        anchors.margins: root.theme.spaceLg
 
-            BoardDisplay {
-                theme: root.theme
-                type: root.type
-                boardText: root.boardText
-                compact: true
-                cardScale: 1.35
-            }
+        handle: SplitHandle {
+            theme: root.theme
+        }
 
-            Flow {
-                Layout.fillWidth: true
-                spacing: root.theme.spaceMd
+        GameTreePanel {
+            SplitView.preferredWidth: 320
+            SplitView.minimumWidth: 280
+            theme: root.theme
+            type: root.type
+            walk: walk_
+        }
 
-                StatCard {
-                    theme: root.theme
-                    label: qsTr("EV (OOP)")
-                    value: root.controller.resultEvOop.toFixed(3)
-                    accentColor: root.theme.actionBet
-                }
-
-                StatCard {
-                    theme: root.theme
-                    label: qsTr("EV (IP)")
-                    value: root.controller.resultEvIp.toFixed(3)
-                    accentColor: root.theme.info
-                }
-
-                StatCard {
-                    theme: root.theme
-                    label: qsTr("Exploitability")
-                    value: root.controller.resultExploitability.toFixed(4)
-                    accentColor: root.theme.gold
-                }
-
-                StatCard {
-                    theme: root.theme
-                    label: qsTr("Iterations")
-                    value: root.controller.resultIterations.toLocaleString(Qt.locale(), "f", 0)
-                }
-            }
-
-            CardTitle {
-                theme: root.theme
-                type: root.type
-                text: qsTr("First decision (OOP)")
-            }
-
-            ActionBar {
-                Layout.fillWidth: true
-                theme: root.theme
-                actions: root.controller.rootActions
-            }
+        StrategyPanel {
+            SplitView.fillWidth: true
+            SplitView.minimumWidth: 500
+            theme: root.theme
+            type: root.type
+            controller: root.controller
+            walk: walk_
+            view: view_
+            locks: locks_
         }
     }
 }

@@ -1,0 +1,36 @@
+// Walks the tree for a node's queries away from the window.
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+
+#include <QObject>
+#include <QThreadPool>
+
+#include "action_values.h"
+#include "solve_session.h"
+
+/// Computes what the queries of a node need on a thread of its own, one node at a time. Only the
+/// node that was asked for last counts: an older one is given up.
+class NodePreparer : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit NodePreparer(QObject* parent = nullptr);
+  /// Gives up what is under way and waits for its thread.
+  ~NodePreparer() override;
+
+  /// Answers by `ready`, soon also where there is nothing to compute.
+  void prepare(const velmora_app::SolvedSpot& spot, int node,
+               const std::shared_ptr<velmora_app::ActionValues>& values);
+  /// Gives up what is under way; no `ready` comes of it.
+  void giveUp() { ++newest_; }
+
+ signals:
+  void ready(int node);
+
+ private:
+  std::atomic<std::uint64_t> newest_ = 0;  ///< Number of the latest request.
+  QThreadPool pool_;
+};

@@ -1,0 +1,72 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Velmora
+
+/// The hand categories of the node. A click filters the grid and the combos by one.
+Card {
+    id: root
+
+    property Typography type: Fallback.type
+    required property NodeView view
+
+    padding: theme.spaceMd
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: root.theme.spaceSm
+
+        RowLayout {
+            Layout.fillWidth: true
+
+            CardTitle {
+                Layout.fillWidth: true
+                theme: root.theme
+                type: root.type
+                text: qsTr("Buckets")
+            }
+
+            Label {
+                text: qsTr("%1 shown").arg(root.view.buckets.length)
+                color: root.theme.textMuted
+                font.pixelSize: root.type.labelSm
+            }
+        }
+
+        ListView {
+            id: list
+
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            clip: true
+            spacing: root.theme.spaceXs
+            boundsBehavior: Flickable.StopAtBounds
+            activeFocusOnTab: true
+            currentIndex: -1
+            model: root.view.buckets.length
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Buckets")
+            Keys.onSpacePressed: root.view.toggleBucketFilter(root.view.buckets[currentIndex]?.name ?? "")
+            Keys.onReturnPressed: root.view.toggleBucketFilter(root.view.buckets[currentIndex]?.name ?? "")
+
+            ScrollBar.vertical: AppScrollBar {
+                theme: root.theme
+            }
+
+            delegate: BucketRow {
+                required property int index
+
+                width: list.width
+                theme: root.theme
+                type: root.type
+                bucket: root.view.buckets[index]
+                actions: root.view.currentActions
+                selected: root.view.selectedBucket !== "" && root.view.selectedBucket === bucket.name
+                focused: list.activeFocus && list.currentIndex === index
+                onChosen: root.view.toggleBucketFilter(bucket.name)
+            }
+        }
+    }
+}

@@ -1,0 +1,105 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Velmora
+
+/// The single combos of the node with their EVs, filtered by hand, category and search.
+Card {
+    id: root
+
+    property Typography type: Fallback.type
+    required property NodeView view
+
+    readonly property string _note: view._handCombosLoading || view.loading ? qsTr("Loading hand combos…")
+        : view._loadedHandCombos.length === 0 ? qsTr("No hand combos to display for this node.")
+        : view.visibleHandCombos.length === 0 ? qsTr("No combos match the current filters.") : ""
+
+    padding: theme.spaceMd
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: root.theme.spaceSm
+
+        CardTitle {
+            theme: root.theme
+            type: root.type
+            text: qsTr("Hand Details")
+        }
+
+        InputField {
+            id: search
+
+            Layout.fillWidth: true
+            theme: root.theme
+            type: root.type
+            label: qsTr("Search")
+            placeholderText: qsTr("Search (JJ, 56s, JcJd, ...)")
+            onTextEdited: root.view.handSearchText = text
+
+            Binding {
+                target: search
+                property: "text"
+                value: root.view.handSearchText
+            }
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            visible: root.view.selectedHandClass !== ""
+
+            Label {
+                Layout.fillWidth: true
+                text: qsTr("Filter: %1").arg(root.view.selectedHandClass)
+                color: root.theme.text
+                font.pixelSize: root.type.labelMd
+            }
+
+            SmallButton {
+                theme: root.theme
+                type: root.type
+                text: qsTr("Clear")
+                onClicked: root.view.selectedHandClass = ""
+            }
+        }
+
+        Label {
+            Layout.fillWidth: true
+            visible: root._note !== ""
+            text: root._note
+            color: root.theme.textMuted
+            font.pixelSize: root.type.labelMd
+            wrapMode: Text.Wrap
+        }
+
+        ListView {
+            id: list
+
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            clip: true
+            spacing: root.theme.spaceXs
+            boundsBehavior: Flickable.StopAtBounds
+            activeFocusOnTab: true
+            reuseItems: true
+            model: root.view.loading ? 0 : root.view.visibleHandCombos.length
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Hand Details")
+
+            ScrollBar.vertical: AppScrollBar {
+                theme: root.theme
+            }
+
+            delegate: ComboRow {
+                required property int index
+
+                width: list.width
+                theme: root.theme
+                type: root.type
+                combo: root.view.visibleHandCombos[index]
+                actions: root.view.currentActions
+            }
+        }
+    }
+}

@@ -1,0 +1,31 @@
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// Switches between looking at the grid and locking hands on it.
+ColumnLayout {
+    id: root
+
+    property Theme theme: Fallback.theme
+    property Typography type: Fallback.type
+    required property NodeLocks locks
+    required property int node
+
+    spacing: theme.spaceXs
+
+    SmallButton {
+        Layout.fillWidth: true
+        theme: root.theme
+        type: root.type
+        text: (root.locks.nodeLockMode ? "" : "✓ ") + qsTr("Standard mode")
+        onClicked: root.locks.leaveLockMode(root.node)
+    }
+
+    SmallButton {
+        Layout.fillWidth: true
+        theme: root.theme
+        type: root.type
+        text: (root.locks.nodeLockMode ? "✓ " : "") + qsTr("Node-lock mode")
+        onClicked: root.locks.enterLockMode()
+    }
+}

@@ -1,0 +1,125 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Velmora
+
+/// Chooses what a clicked hand is locked to, and solves again.
+Rectangle {
+    id: root
+
+    property Theme theme: Fallback.theme
+    property Typography type: Fallback.type
+    required property var controller
+    required property NodeLocks locks
+    required property int node
+    required property bool lockable
+    required property var actions
+
+    implicitHeight: column.implicitHeight + 2 * theme.spaceMd
+    radius: theme.radiusSm
+    color: theme.surface2
+    border.color: theme.stroke
+
+    ColumnLayout {
+        id: column
+
+        anchors.fill: parent
+        anchors.margins: root.theme.spaceMd
+        spacing: root.theme.spaceSm
+
+        CardTitle {
+            theme: root.theme
+            type: root.type
+            text: qsTr("Node-Locking")
+        }
+
+        Label {
+            Layout.fillWidth: true
+            visible: !root.lockable
+            text: qsTr("Node-locking is only available on decision nodes.")
+            color: root.theme.textMuted
+            font.pixelSize: root.type.labelMd
+            wrapMode: Text.Wrap
+        }
+
+        Flow {
+            Layout.fillWidth: true
+            visible: root.lockable
+            spacing: root.theme.spaceXs
+
+            Repeater {
+                model: root.lockable ? root.actions.length : 0
+
+                SmallButton {
+                    required property int index
+
+                    theme: root.theme
+                    type: root.type
+                    text: (root.locks.nodeLockSelectedActionIndex === index ? "✓ " : "") + root.actions[index].name
+                    onClicked: root.locks.nodeLockSelectedActionIndex = index
+                }
+            }
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            visible: root.lockable
+            spacing: root.theme.spaceSm
+
+            Label {
+                text: qsTr("Weight")
+                color: root.theme.textMuted
+                font.pixelSize: root.type.labelMd
+            }
+
+            InputField {
+                id: weight
+
+                Layout.preferredWidth: 70
+                theme: root.theme
+                type: root.type
+                label: qsTr("Weight")
+                placeholderText: qsTr("0..1")
+                onTextEdited: root.locks.nodeLockWeightText = text
+
+                Binding {
+                    target: weight
+                    property: "text"
+                    value: root.locks.nodeLockWeightText
+                }
+            }
+
+            Item {
+                Layout.fillWidth: true
+            }
+
+            SmallButton {
+                theme: root.theme
+                type: root.type
+                text: qsTr("Reset weights")
+                onClicked: root.locks.resetNodeLockEdits(root.node)
+            }
+
+            PrimaryButton {
+                Layout.preferredHeight: 32
+                theme: root.theme
+                type: root.type
+                text: qsTr("Re-solve")
+                loading: root.controller.running
+                enabled: root.lockable && !root.controller.running
+                onClicked: root.controller.reSolveWithNodeLocks()
+            }
+        }
+
+        Label {
+            Layout.fillWidth: true
+            visible: root.lockable
+            text: qsTr("Tip: select an action above, then click a hand cell in the matrix to lock it.")
+            color: root.theme.textMuted
+            font.pixelSize: root.type.labelSm
+            wrapMode: Text.Wrap
+        }
+    }
+}

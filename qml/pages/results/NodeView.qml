@@ -1,0 +1,141 @@
+import QtQuick
+import Velmora
+import "../../logic/board_text.js" as BoardText
+import "../../logic/hand_views.js" as HandViews
+
+/// What the views show of the node on view: figures by action, the grid, the categories, the combos,
+/// the filters and the locks. The figures are the controller's; they are computed away from the
+/// window's thread, and `loading` is true until they are there.
+QtObject {
+    id: root
+
+    required property var controller
+    required property Theme theme
+    required property TreeWalk walk
+    required property NodeLocks locks
+
+    readonly property int node: walk.currentNodeIndex
+    readonly property bool isChance: walk.currentMeta.nodeType === "chance"
+    property bool loading: false
+
+    // Filters
+    property string selectedHandClass: ""
+    property string handSearchText: ""
+    property string selectedBucket: ""
+
+    // Actions
+    property var currentActions: []
+    readonly property var actionFrequenciesActions: HandViews.normalizeActionEvsAroundFold(currentActions)
+
+    // Grid
+    property var handWeights: ({})
+    property var handColors: ({})
+    property var handActionTypeList: []
+    property var handActionProbs: ({})
+
+    // Categories and combos
+    property var buckets: []
+    property bool _handCombosLoading: false
+    property var _loadedHandCombos: []
+    readonly property var visibleHandCombos: HandViews.visibleHandCombos(_loadedHandCombos, {
+        boardCards: BoardText.usedCards(walk.treeBoardText).length,
+        handClass: selectedHandClass,
+        bucket: selectedBucket,
+        search: handSearchText
+    })
+
+    readonly property Timer _combosTimer: Timer {
+        interval: 60
+        onTriggered: {
+            root._loadedHandCombos = root.controller.nodeHandCombos(root.node)
+            root._handCombosLoading = false
+        }
+    }
+
+    readonly property Connections _answers: Connections {
+        function onNodeAnswersReady(node) {
+            if (node === root.node)
+                root._showAnswers()
+        }
+
+        target: root.controller
+    }
+
+    function toggleHandFilter(hand: string) {
+        selectedHandClass = selectedHandClass === hand ? "" : hand
+    }
+
+    function toggleBucketFilter(bucket: string) {
+        selectedBucket = selectedBucket === bucket ? "" : bucket
+    }
+
+    /// Starts to look at the node on view: what is known at once shows, the rest when it is ready.
+    function look() {
+        selectedHandClass = ""
+        selectedBucket = ""
+        handSearchText = ""
+        _combosTimer.stop()
+        _handCombosLoading = true
+        _loadedHandCombos = []
+        currentActions = isChance ? [_chanceAction()] : controller.nodeActions(node)
+        if (controller.treeNodeCount() === 0) {
+            _showAnswers()
+            return
+        }
+        loading = true
+        controller.prepareNodeAnswers(node)
+    }
+
+    /// Runs again at a change of the node, the category filter, the locks and at new results.
+    function refreshHandMatrix() {
+        if (loading)
+            return
+        const strategy = controller.nodeHandStrategy(node)
+        // The actions are asked for here: a binding may still hold those of the node before.
+        const definitions = _definitions()
+        const reach = controller.nodeHandStrategyReach169(node, selectedBucket)
+        const count = HandViews.actionCount(definitions, reach.actionProbs ?? strategy.actionProbs, strategy.actionTypeList)
+        const probabilities = HandViews.withLocks(reach.actionProbs ?? strategy.actionProbs ?? {}, locks.ofNode(node), count)
+        const weights = reach.weights ?? strategy.weights ?? {}
+        const colors = {}
+        for (const hand in weights) {
+            const action = definitions[HandViews.dominantAction(probabilities[hand])]
+            const dominant = strategy.dominantActionTypes?.[hand]
+            colors[hand] = action ? theme.actionColor(action.actionType || action.name)
+                                  : dominant ? theme.actionColor(dominant) : theme.textMuted
+        }
+        handWeights = weights
+        handColors = colors
+        handActionTypeList = HandViews.actionTypeList(definitions, strategy.actionTypeList, count)
+        handActionProbs = probabilities
+    }
+
+    function _definitions(): var {
+        const stats = controller.nodeActionStats(node)
+        return stats.length > 0 ? stats : controller.nodeActions(node)
+    }
+
+    function _chanceAction(): var {
+        return {
+            name: walk.currentMeta.chanceDeal === "river" ? qsTr("Random river card") : qsTr("Random turn card"),
+            actionType: "chance",
+            frequency: 1
+        }
+    }
+
+    function _showAnswers() {
+        loading = false
+        currentActions = isChance ? [_chanceAction()] : _definitions()
+        refreshHandMatrix()
+        buckets = controller.nodeHandBuckets(node)
+        _scheduleHandCombosLoad()
+    }
+
+    function _scheduleHandCombosLoad() {
+        _handCombosLoading = true
+        _combosTimer.restart()
+    }
+
+    onNodeChanged: look()
+    onSelectedBucketChanged: refreshHandMatrix()
+}

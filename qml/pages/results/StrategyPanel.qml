@@ -1,0 +1,81 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Velmora
+
+/// How the node on view is played: figures by action, the grid, the categories and the combos.
+Card {
+    id: root
+
+    property Typography type: Fallback.type
+    required property var controller
+    required property TreeWalk walk
+    required property NodeView view
+    required property NodeLocks locks
+
+    padding: theme.spaceMd
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: root.theme.spaceMd
+
+        ResultsHeader {
+            Layout.fillWidth: true
+            theme: root.theme
+            type: root.type
+            controller: root.controller
+            walk: root.walk
+        }
+
+        Label {
+            text: qsTr("Action Frequencies")
+            color: root.theme.text
+            font.pixelSize: root.type.bodyMd
+            font.weight: root.type.weightBold
+            Accessible.role: Accessible.Heading
+        }
+
+        ActionBar {
+            Layout.fillWidth: true
+            Layout.preferredHeight: Math.max(60, contentHeight)
+            theme: root.theme
+            type: root.type
+            actions: root.view.actionFrequenciesActions
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            spacing: 20
+
+            StrategyColumn {
+                Layout.alignment: Qt.AlignTop
+                Layout.fillHeight: true
+                theme: root.theme
+                type: root.type
+                controller: root.controller
+                walk: root.walk
+                view: root.view
+                locks: root.locks
+            }
+
+            BucketsCard {
+                Layout.preferredWidth: 300
+                Layout.minimumWidth: 260
+                Layout.fillHeight: true
+                theme: root.theme
+                type: root.type
+                view: root.view
+            }
+
+            HandDetailsCard {
+                Layout.fillWidth: true
+                Layout.minimumWidth: 250
+                Layout.fillHeight: true
+                theme: root.theme
+                type: root.type
+                view: root.view
+            }
+        }
+    }
+}

@@ -1,0 +1,185 @@
+import QtQuick
+import QtTest
+import "find.js" as Find
+
+/// The Results page on a solved turn spot, whose river may map diamonds and clubs to each other.
+MainWindowCase {
+    id: root
+
+    name: "Results"
+
+    readonly property var results: Find.all(window?.contentItem, item => item.walk !== undefined && item.locks !== undefined
+                                                                        && item.rakeCap !== undefined)[0]
+    readonly property var walk: results?.walk
+    readonly property var view: results?.view
+    readonly property var locks: results?.locks
+
+    function solveTurnSpot() {
+        setRiverSpot()
+        shell.applyProjectState({
+            boardText: "QsJh2h3s", startingStreet: "turn", maxIterations: 50, targetExploitability: 0.01,
+            oopRangeText: "AA,KK,AKs,KTs,QJs,T9s,98s", ipRangeText: "AK,QQ,JJ,A5s,T9s,87s"
+        })
+        tryVerify(() => shell.canSolve, 10000)
+        keyClick(Qt.Key_F5)
+        tryVerify(() => !controller.running && controller.resultIterations > 0, 60000)
+        keyClick(Qt.Key_4, Qt.ControlModifier)
+        compare(shell.navIndex, 3)
+        settle()
+    }
+
+    /// Waits for the figures of the node on view.
+    function settle() {
+        tryVerify(() => !view.loading && !view._handCombosLoading, 20000)
+        waitForRendering(window.contentItem, 500)
+    }
+
+    function tile(action: string): Item {
+        const tiles = Find.all(results, item => item.toggleExpand !== undefined && item.action === action)
+        verify(tiles.length > 0, "no tile says " + action)
+        return tiles[tiles.length - 1]
+    }
+
+    function take(action: string) {
+        mouseClick(tile(action))
+        settle()
+    }
+
+    function combos(): var {
+        return view.visibleHandCombos.map(combo => combo.c1 + combo.c2)
+    }
+
+    function test_a_walk_down_and_back() {
+        solveTurnSpot()
+        compare(walk.currentNodeIndex, 0)
+        verify(Find.text(results, "OOP to act"))
+        compare(view.currentActions.length, controller.nodeActions(0).length)
+        verify(view.buckets.length > 0)
+        verify(view.visibleHandCombos.length > 0)
+
+        take("Check")
+        verify(Find.text(results, "IP to act"))
+        compare(walk.treeLevels.count, 2)
+        take("Check")
+        compare(walk.currentMeta.nodeType, "chance")
+        compare(view.currentActions[0].name, "Random river card")
+
+        // A club is not in the tree where the diamond stands for it, and shows all the same.
+        mouseClick(Find.all(results, item => item.toggleExpand !== undefined && item.nodeType === "chance")[0])
+        tryVerify(() => Find.text(window.contentItem.parent, "Choose River Card"))
+        wait(200)
+        const names = controller.nodeActions(walk.currentNodeIndex).map(action => action.name)
+        const listed = ["9d", "9c"].filter(card => names.includes(card))
+        compare(listed.length, 1)
+        const wanted = listed[0] === "9d" ? "c" : "d"
+        const card = Find.all(window.contentItem.parent, item => item.actionIndex !== undefined && item.rank === "9" && item.suit === wanted)[0]
+        compare(names[card.actionIndex], listed[0])
+        mouseClick(card)
+        settle()
+        compare(walk.treeBoardText, "QsJh2h3s9" + wanted)
+        compare(walk.nodePath.slice(1), ["Check", "Check", "9" + wanted])
+        compare(walk.currentMeta.nodeType, "decision")
+        verify(view.visibleHandCombos.length > 0)
+
+        // Back to the first choice, and another way.
+        mouseClick(Find.all(results, item => item.toggleExpand !== undefined && item.action === "Check")[0])
+        settle()
+        compare(walk.treeLevels.count, 1)
+        compare(walk.currentNodeIndex, 0)
+        compare(walk.treeBoardText, "QsJh2h3s")
+        take(controller.nodeActions(0)[1].name)
+        take("Fold")
+        compare(walk.treeLevels.count, 2)
+        compare(walk.nodePath.length, 3)
+        take("Fold")
+        compare(walk.treeLevels.get(1).selectedActionIndex, -1)
+    }
+
+    function test_figures_agree_with_the_controller() {
+        solveTurnSpot()
+        take("Check")
+        const node = walk.currentNodeIndex
+        const stats = controller.nodeActionStats(node)
+        const bar = Find.withProperties(results, "selectedAction", "interactive")
+        compare(bar.actions.length, stats.length)
+        for (let i = 0; i < stats.length; ++i)
+            fuzzyCompare(bar.actions[i].frequency, stats[i].frequency, 1e-9)
+        const reach = controller.nodeHandStrategyReach169(node, "")
+        compare(view.handWeights, reach.weights)
+        compare(view.handActionTypeList.length, stats.length)
+        compare(view._loadedHandCombos.length, controller.nodeHandCombos(node).length)
+    }
+
+    function test_filters_and_search() {
+        solveTurnSpot()
+        const all = view.visibleHandCombos.length
+        const field = root.field("Search")
+        click(field)
+        for (const character of "KA")
+            keyClick(character)
+        verify(combos().length > 0)
+        verify(combos().every(text => "AK".includes(text[0]) && "AK".includes(text[2]) && text[0] !== text[2]))
+        keyClick(Qt.Key_A, Qt.ControlModifier)
+        for (const character of "AK+")
+            keyClick(character)
+        verify(Find.text(results, "No combos match the current filters."))
+        keyClick(Qt.Key_A, Qt.ControlModifier)
+        keyClick(Qt.Key_Delete)
+        compare(view.visibleHandCombos.length, all)
+
+        const grid = Find.withProperties(results, "weights", "cellSize")
+        mouseClick(grid, 15 + 30 * 1, 15)
+        compare(view.selectedHandClass, "AKs")
+        verify(Find.text(results, "Filter: AKs"))
+        const filtered = combos()
+        verify(filtered.length > 0 && filtered.length < all)
+        const row = Find.all(results, item => item.bucket !== undefined && item.chosen !== undefined)[0]
+        mouseClick(row)
+        compare(view.selectedBucket, row.bucket.name)
+        verify(combos().length <= filtered.length)
+        for (const combo of view.visibleHandCombos)
+            verify(combo.buckets.includes(view.selectedBucket))
+        mouseClick(row)
+        mouseClick(grid, 15 + 30 * 1, 15)
+        compare(view.visibleHandCombos.length, all)
+        // A step clears the filters.
+        mouseClick(grid, 15, 15)
+        compare(view.selectedHandClass, "AA")
+        take("Check")
+        compare(view.selectedHandClass, "")
+    }
+
+    function test_locks_preview_and_resolve() {
+        solveTurnSpot()
+        const grid = Find.withProperties(results, "weights", "cellSize")
+        clickButton("Node-lock mode")
+        mouseClick(grid, 15, 15)
+        compare(controller.nodeLocks(0).length, 0)
+        const actions = controller.nodeActions(0)
+        clickButton(actions[1].name)
+        const weight = Find.all(results, item => item.label === "Weight" && item.placeholderText === "0..1")[0]
+        typeInto(weight, "0.7")
+        mouseClick(grid, 15, 15)
+        const locked = controller.nodeLocks(0)
+        compare(locked.length, 1)
+        compare(locked[0].hand, "AA")
+        fuzzyCompare(locked[0].actionProb, 0.7, 1e-12)
+        fuzzyCompare(view.handActionProbs.AA[1], 0.7, 1e-12)
+        fuzzyCompare(view.handActionProbs.AA[0], 0.3 / (actions.length - 1), 1e-12)
+
+        clickButton("Re-solve")
+        tryVerify(() => controller.running)
+        compare(shell.navIndex, 3)
+        tryVerify(() => !controller.running, 60000)
+        settle()
+        compare(walk.currentNodeIndex, 0)
+        const strategy = controller.nodeHandStrategy(0)
+        fuzzyCompare(strategy.actionProbs.AA[1], 0.7, 1e-5)
+
+        clickButton("Reset weights")
+        compare(controller.nodeLocks(0).length, 0)
+        clickButton("✓ Node-lock mode")
+        clickButton("Standard mode")
+        verify(!locks.nodeLockMode)
+    }
+}
