@@ -6,6 +6,8 @@
 
 #include <QHash>
 
+#include "strategy_grid.h"
+
 namespace {
 
 struct LabelSums {
@@ -19,6 +21,11 @@ bool isIn(const QVariantMap& combo, const QString& category) {
   return std::any_of(names.begin(), names.end(), [&](const QVariant& name) {
     return name.toString().trimmed().toLower() == category;
   });
+}
+
+QString labelOf(const QString& c1, const QString& c2) {
+  return QString::fromStdString(velmora_app::hand_class_label_from_cards(
+      c1.toLatin1().toStdString(), c2.toLatin1().toStdString()));
 }
 
 /// The sums over their weight, brought to a sum of 1.
@@ -37,18 +44,6 @@ QVariantList meansOf(const LabelSums& sums) {
 
 }  // namespace
 
-QString handClassLabelFromCards(const QString& c1, const QString& c2) {
-  static const QString kRanks = QStringLiteral("AKQJT98765432");
-  if (c1.size() < 2 || c2.size() < 2) return {};
-  qsizetype high = kRanks.indexOf(c1[0].toUpper());
-  qsizetype low = kRanks.indexOf(c2[0].toUpper());
-  if (high < 0 || low < 0) return {};
-  if (high > low) std::swap(high, low);
-  const QString ranks = QString(kRanks[high]) + kRanks[low];
-  if (high == low) return ranks;
-  return ranks + (c1[1].toLower() == c2[1].toLower() ? 's' : 'o');
-}
-
 QVariantMap reachGrid(QVariantMap base, const QVariantList& combos, const QString& category) {
   // Step 1. Sums over the hands of each label.
   qsizetype actions = base.value("actionTypeList").toList().size();
@@ -56,8 +51,7 @@ QVariantMap reachGrid(QVariantMap base, const QVariantList& combos, const QStrin
   for (const QVariant& entry : combos) {
     const QVariantMap combo = entry.toMap();
     if (!category.isEmpty() && !isIn(combo, category)) continue;
-    const QString label =
-        handClassLabelFromCards(combo.value("c1").toString(), combo.value("c2").toString());
+    const QString label = labelOf(combo.value("c1").toString(), combo.value("c2").toString());
     const double reach = combo.value("weight").toDouble();
     if (label.isEmpty() || !std::isfinite(reach) || !(reach > 0)) continue;
     const double weight = std::min(reach, 1.0);

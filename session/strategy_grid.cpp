@@ -1,9 +1,10 @@
 #include "strategy_grid.h"
 
-#include <string_view>
+#include <algorithm>
 
 #include "action_text.h"
 #include "result_node.h"
+#include "text.h"
 
 namespace velmora_app {
 namespace {
@@ -34,6 +35,22 @@ const std::array<std::string, kNumHandClasses>& hand_class_labels() {
     return labels;
   }();
   return kLabels;
+}
+
+std::string hand_class_label_from_cards(std::string_view c1, std::string_view c2) {
+  constexpr std::string_view kRankChars = "AKQJT98765432";
+  if (c1.size() < 2 || c2.size() < 2) return {};
+  const auto rank_of = [&](char c) {
+    return static_cast<std::size_t>(
+        std::find_if(kRankChars.begin(), kRankChars.end(),
+                     [c](char rank) { return velmora::to_lower(rank) == velmora::to_lower(c); }) -
+        kRankChars.begin());
+  };
+  const auto [high, low] = std::minmax({rank_of(c1[0]), rank_of(c2[0])});
+  if (low == kRankChars.size()) return {};
+  std::string label{kRankChars[high], kRankChars[low]};
+  if (high != low) label += velmora::to_lower(c1[1]) == velmora::to_lower(c2[1]) ? 's' : 'o';
+  return label;
 }
 
 NodeHandStrategy query_hand_strategy(const SolvedSpot& spot, std::uint64_t node) {

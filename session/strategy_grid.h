@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "solve_session.h"
@@ -15,6 +16,10 @@ inline constexpr std::size_t kNumHandClasses = 169;
 /// The labels in grid order: row by row over the ranks "AKQJT98765432", pairs on the diagonal,
 /// suited hands above it, offsuit hands below it.
 const std::array<std::string, kNumHandClasses>& hand_class_labels();
+
+/// Label of two card texts in either order and any case; empty if a rank is none or a text is
+/// shorter than a card.
+std::string hand_class_label_from_cards(std::string_view c1, std::string_view c2);
 
 /// By label, in grid order.
 struct NodeHandStrategy {

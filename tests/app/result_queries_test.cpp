@@ -195,8 +195,4 @@ TEST(ReachGrid, WeighsTheHandsOfALabelByTheirReach) {
   EXPECT_EQ(reachGrid(base, combos, "air")["weights"], QVariantMap());
   EXPECT_EQ(reachGrid(base, {}, ""), base);
   EXPECT_EQ(reachGrid({}, combos, "")["weights"], all["weights"]);
-
-  EXPECT_EQ(handClassLabelFromCards("2d", "aH"), "A2o");
-  EXPECT_EQ(handClassLabelFromCards("2h", "AH"), "A2s");
-  EXPECT_EQ(handClassLabelFromCards("1h", "Ah"), "");
 }

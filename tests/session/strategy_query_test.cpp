@@ -28,65 +28,54 @@ double weight_of(const SolvedSpot& spot, Seat seat, std::size_t hand) {
   return static_cast<double>(spot.game->cards().hand_weights(seat)[hand]);
 }
 
-TEST(StrategyQueries, GridSumsTheHandsOfEachClass) {
+TEST(StrategyQueries, GridAndBucketsSumTheRange) {
   const auto& labels = velmora_app::hand_class_labels();
-  EXPECT_EQ(labels[0], "AA");
-  EXPECT_EQ(labels[1], "AKs");
-  EXPECT_EQ(labels[13], "AKo");
-  EXPECT_EQ(labels[168], "22");
+  EXPECT_EQ(labels[0] + labels[1] + labels[13] + labels[168], "AAAKsAKo22");
+  const auto from_cards = velmora_app::hand_class_label_from_cards;
+  EXPECT_EQ(from_cards("2d", "aH") + from_cards("2h", "AH") + from_cards("tc", "Td"), "A2oA2sTT");
+  EXPECT_EQ(from_cards("1h", "Ah") + from_cards("A", "Kh"), "");
   for (const QueryCase& c : query_cases()) {
     const SolvedSpot spot = solved(c.spot, velmora::SuitFolding::kOn);
     for (const Path& path : c.paths) {
       const std::size_t node = follow(spot, path);
       const PlanNode& at = spot.game->nodes()[node];
+      const auto& pockets = spot.game->cards().pockets(at.seat);
       const std::size_t actions = at.actions.size();
       const std::vector<float> strategy = spot.solver->average_strategy(node);
       const auto grid = query_hand_strategy(spot, node);
       const auto buckets = query_hand_buckets(spot, node);
       ASSERT_TRUE(grid.ok && buckets.ok);
 
-      // By class, and by category, the weights and the weighted play of the hands.
-      std::map<std::string, std::vector<double>> by_class, by_name;
-      for (std::size_t h = 0; h < spot.game->num_hands(at.seat); ++h) {
-        const Pocket pocket = spot.game->cards().pockets(at.seat)[h];
-        const auto add = [&](std::vector<double>& sums) {
-          sums.resize(actions + 1);
-          sums[actions] += weight_of(spot, at.seat, h);
-          for (std::size_t a = 0; a < actions; ++a) {
-            sums[a] += weight_of(spot, at.seat, h) *
-                       static_cast<double>(strategy[a * spot.game->num_hands(at.seat) + h]);
-          }
-        };
-        add(by_class[velmora::hand_class_label(pocket)]);
-        for (std::string_view name : velmora::hand_categories(*spot.game, at, pocket)) {
-          add(by_name[std::string(name == "pair" ? "air" : name)]);
+      // Weight, and weight that takes the last action, of each class and category.
+      std::map<std::string, std::pair<double, double>> sums;
+      for (std::size_t h = 0; h < pockets.size(); ++h) {
+        std::vector<std::string> keys = {velmora::hand_class_label(pockets[h])};
+        for (std::string_view name : velmora::hand_categories(*spot.game, at, pockets[h])) {
+          keys.emplace_back(name == "pair" ? "air" : name);
+        }
+        for (const std::string& key : keys) {
+          const double weight = weight_of(spot, at.seat, h);
+          sums[key].first += weight;
+          sums[key].second +=
+              weight * static_cast<double>(strategy[(actions - 1) * pockets.size() + h]);
         }
       }
-      ASSERT_EQ(grid.labels.size(), 169U);
-      for (std::size_t i = 0; i < 169; ++i) {
-        const auto sums = by_class.find(grid.labels[i]);
-        if (sums == by_class.end()) {
-          EXPECT_EQ(grid.weights[i], 0);
-          EXPECT_EQ(grid.dominant_action_types[i], "");
-          EXPECT_EQ(grid.action_probabilities[i * actions], 0);
-          continue;
-        }
-        EXPECT_NEAR(grid.weights[i], sums->second[actions], 1e-6) << grid.labels[i];
-        EXPECT_NE(grid.dominant_action_types[i], "");
-        for (std::size_t a = 0; a < actions; ++a) {
-          EXPECT_NEAR(grid.action_probabilities[i * actions + a],
-                      sums->second[a] / sums->second[actions], 1e-6);
-        }
+      const auto expect_sums = [&](const std::string& key, double weight, double probability) {
+        EXPECT_NEAR(weight, sums[key].first, 1e-6) << key;
+        EXPECT_NEAR(probability * weight, sums[key].second, 1e-6) << key;
+        sums.erase(key);
+      };
+      for (std::size_t i = 0; i < labels.size(); ++i) {
+        EXPECT_EQ(grid.dominant_action_types[i].empty(), grid.weights[i] == 0);
+        expect_sums(labels[i], grid.weights[i], grid.action_probabilities[(i + 1) * actions - 1]);
       }
-      EXPECT_EQ(buckets.buckets.size(), by_name.size());
       const auto* row = velmora::kHandCategoryNames.begin();
       for (const auto& bucket : buckets.buckets) {
         row = std::find(row, velmora::kHandCategoryNames.end(), bucket.name);  // In their order.
         ASSERT_NE(row, velmora::kHandCategoryNames.end()) << bucket.name;
-        const auto& sums = by_name.at(bucket.name);
-        EXPECT_NEAR(bucket.combos, sums[actions], 1e-6);
-        EXPECT_NEAR(bucket.action_probabilities[0], sums[0] / sums[actions], 1e-6);
+        expect_sums(bucket.name, bucket.combos, bucket.action_probabilities.back());
       }
+      EXPECT_TRUE(sums.empty());
     }
   }
 }
