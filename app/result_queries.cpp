@@ -8,8 +8,6 @@
 #include "reach_grid.h"
 #include "result_variants.h"
 
-using velmora_app::SolvedSpot;
-
 namespace {
 
 /// The stored answer of a node, else what `compute` gives, which is stored unless it is nothing.
@@ -41,8 +39,9 @@ QString cardKey(const QString& card) {
 QVariantMap ResultQueries::nodeHandStrategy(int nodeIndex) {
   return answerOf(caches_.handStrategyCache, nodeIndex, [&](std::uint64_t node) {
     auto map = answerIn(velmora_app::query_hand_strategy(session_.solved_spot(), node));
-    if (map)
-      (*map)["actionTypeList"] = actionTypes(nodeIndex, (*map)["actionNames"].toList().size());
+    if (!map) return map;
+    const qsizetype actions = map->value("actionNames").toList().size();
+    map->insert("actionTypeList", actionTypes(nodeIndex, actions));
     return map;
   });
 }

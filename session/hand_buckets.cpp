@@ -2,17 +2,12 @@
 
 #include <array>
 #include <bit>
-#include <cmath>
 
 #include "hand_categories.h"
 #include "result_node.h"
 
 namespace velmora_app {
 namespace {
-
-bool counts(float weight) {
-  return std::isfinite(weight) && weight > 0.0F;
-}
 
 struct Sums {
   double combos = 0;

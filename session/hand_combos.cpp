@@ -1,7 +1,6 @@
 #include "hand_combos.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 #include <stdexcept>
 
@@ -15,10 +14,6 @@ using velmora::PlanNode;
 using velmora::Pocket;
 
 namespace {
-
-bool counts(float weight) {
-  return std::isfinite(weight) && weight > 0.0F;
-}
 
 /// The values of a node's actions against those who play towards it, in chips.
 class PricedActions {

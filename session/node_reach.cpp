@@ -3,19 +3,14 @@
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
+#include <utility>
+
+#include "result_node.h"
 
 namespace velmora_app {
 
 using velmora::NodeKind;
 using velmora::PlanNode;
-
-namespace {
-
-bool counts(float share) {
-  return std::isfinite(share) && share > 0.0F;
-}
-
-}  // namespace
 
 std::vector<PathStep> path_to(const velmora::Game& game, std::size_t node) {
   if (node >= game.nodes().size()) throw std::out_of_range("Node index is out of range");

@@ -1,13 +1,20 @@
 // What every query asks first: whether there is a result, and a node in it to answer for.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
+#include <vector>
 
 #include "discounted_cfr.h"
 #include "game.h"
 #include "solve_session.h"
 
 namespace velmora_app {
+
+/// Weights and frequencies that are not finite or not above 0 count for nothing.
+inline bool counts(float weight) {
+  return std::isfinite(weight) && weight > 0.0F;
+}
 
 /// A node of the game, or null.
 inline const velmora::PlanNode* node_at(const SolvedSpot& spot, std::uint64_t node) {

@@ -177,7 +177,7 @@ TEST(HandCombosQuery, MeetsNobodyExactly) {
                                              .ip_range = "AcAd,AcAh,AdAh,AhAs",
                                              .sizes = {}});
   const auto& pockets = game->cards().pockets(velmora::kIp);
-  std::vector<float> reach = {0.3F, 1e-17F, 0.7F, 0};
+  const std::vector<float> reach = {0.3F, 1e-13F, 1e-15F, 0};
   const velmora_app::OpponentMass blocked(game->cards(), velmora::kOop, reach);
   const auto& own = game->cards().pockets(velmora::kOop);
   ASSERT_EQ(pockets.size(), reach.size());

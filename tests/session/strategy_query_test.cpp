@@ -2,7 +2,6 @@
 #include <cmath>
 #include <functional>
 #include <map>
-#include <optional>
 #include <random>
 #include <string>
 
@@ -184,69 +183,43 @@ TEST(StrategyQueries, ActionStatisticsAgreeWithSumsOverPairs) {
   }
 }
 
-/// The samples, draw by draw, by the distributions of the standard library.
-TEST(StrategyQueries, SamplesAreDrawnAsTold) {
-  const std::vector<Pocket> hero = {velmora::make_pocket(0, 5), velmora::make_pocket(30, 51),
-                                    velmora::make_pocket(50, 49)};
-  const std::vector<Pocket> villain = {velmora::make_pocket(0, 51), velmora::make_pocket(28, 29)};
-  const std::vector<double> hero_weights = {0.5, 0.25, 1}, villain_weights = {1, 0.125};
-  velmora::Board board{.flop = {8, 17, 47}};
-  for (const CardCode turn : {CardCode{50}, kNoCard}) {
-    board.turn = turn;
-    std::mt19937 random(99);
-    double score = 0;
-    int total = 0;
-    for (int sample = 0; sample < 500; ++sample) {
-      const auto draw = [&](const std::vector<Pocket>& pockets,
-                            const std::vector<double>& weights) {
-        double left = std::generate_canonical<double, 53>(random);
-        double sum = 0;
-        for (const double weight : weights) sum += weight;
-        left *= sum;
-        std::size_t place = 0;
-        for (double reached = weights[0]; reached < left; reached += weights[++place]) {
-        }
-        return pockets[place];
-      };
-      velmora::CardMask used = mask_of(8) | mask_of(17) | mask_of(47) | mask_of(turn);
-      const Pocket own = draw(hero, hero_weights);
-      if (used & mask_of_pocket(own)) continue;
-      used |= mask_of_pocket(own);
-      std::optional<Pocket> other;
-      for (int i = 0; i < 32 && !other; ++i) {
-        const Pocket candidate = draw(villain, villain_weights);
-        if (!(used & mask_of_pocket(candidate))) other = candidate;
-      }
-      if (!other) continue;
-      used |= mask_of_pocket(*other);
-      std::vector<CardCode> full = {8, 17, 47};
-      if (turn != kNoCard) full.push_back(turn);
-      while (full.size() < 5) {
-        std::vector<CardCode> deck;
-        for (CardCode card = 0; card < 52; ++card) {
-          if (!(used & mask_of(card))) deck.push_back(card);
-        }
-        const auto last = static_cast<std::uint32_t>(deck.size() - 1);
-        full.push_back(deck[std::uniform_int_distribution<std::uint32_t>(0, last)(random)]);
-        used |= mask_of(full.back());
-      }
-      const auto mine = velmora::evaluate_hand(own, full);
-      const auto theirs = velmora::evaluate_hand(*other, full);
-      score += mine > theirs ? 1.0 : mine == theirs ? 0.5 : 0.0;
-      ++total;
+/// The generator is used as the distributions of the standard library use it.
+TEST(StrategyQueries, SamplesFollowFromTheGenerator) {
+  const Pocket own = velmora::make_pocket(30, 51);
+  const Pocket other = velmora::make_pocket(28, 29);
+  const std::vector<Pocket> pockets = {own, velmora::make_pocket(0, 8), other};
+  const std::vector<double> first = {0.25, 0.5, 0}, last = {0, 0, 3};
+  const velmora::Board board{.flop = {8, 17, 47}, .turn = 50};
+  std::mt19937 random(99);
+  double score = 0;
+  int total = 0;
+  for (int sample = 0; sample < 500; ++sample) {
+    // The hand that holds a board card is drawn, and its sample dropped.
+    if (std::generate_canonical<double, 53>(random) * 0.75 > 0.25) continue;
+    random.discard(2);
+    std::vector<CardCode> deck;
+    for (CardCode card = 0; card < 52; ++card) {
+      const auto used = mask_of_pocket(own) | mask_of_pocket(other) | mask_of(board.turn) |
+                        mask_of(board.flop[0]) | mask_of(board.flop[1]) | mask_of(board.flop[2]);
+      if (!(used & mask_of(card))) deck.push_back(card);
     }
-    std::mt19937 generator(99);
-    EXPECT_EQ(velmora_app::sampled_equity(generator, board, {hero, hero_weights},
-                                          {villain, villain_weights}, 500),
-              score / total);
-    EXPECT_EQ(generator, random);
+    const CardCode full[] = {8, 17, 47, 50,
+                             deck[std::uniform_int_distribution<std::uint32_t>(0, 43)(random)]};
+    const auto mine = velmora::evaluate_hand(own, full);
+    const auto theirs = velmora::evaluate_hand(other, full);
+    score += mine > theirs ? 1.0 : mine == theirs ? 0.5 : 0.0;
+    ++total;
   }
-  std::mt19937 generator(1);
-  const std::vector<double> nothing = {0, -1, NAN};
-  EXPECT_TRUE(std::isnan(velmora_app::sampled_equity(generator, board, {hero, nothing},
-                                                     {villain, villain_weights}, 10)));
-  EXPECT_TRUE(std::isnan(velmora_app::sampled_equity(generator, board, {hero, hero_weights},
-                                                     {villain, villain_weights}, 0)));
+  std::mt19937 generator(99);
+  const auto equity = [&](const std::vector<double>& hero, std::size_t samples) {
+    return velmora_app::sampled_equity(generator, board, {pockets, hero}, {pockets, last}, samples);
+  };
+  EXPECT_EQ(equity(first, 500), score / total);
+  EXPECT_EQ(generator, random);
+  EXPECT_TRUE(std::isnan(equity({0, -1, NAN}, 10)));
+  EXPECT_TRUE(std::isnan(equity(first, 0)));
+  EXPECT_TRUE(std::isnan(equity({1, 1}, 10)));
+  EXPECT_TRUE(std::isnan(equity(last, 10)));  // The same hand on both sides can't meet itself.
 }
 
 TEST(Showdown, ComparesTwoHandsOnAFullBoard) {
