@@ -161,18 +161,22 @@ CategorySet category_set(std::span<const CardCode> board, Pocket pocket) {
 
 std::uint32_t made_category(std::span<const CardCode> cards) {
   if (cards.size() < 5 || cards.size() > 7) return kHighCard;
+  // A hand that a card of its node blocks is classed too. It then holds a card of the board once
+  // more, and each of the two counts.
   std::array<int, kNumRanks> counts{};
   std::array<RankMask, kNumSuits> suits{};
+  std::array<int, kNumSuits> suit_counts{};
   for (const CardCode card : cards) {
     check_card_code(card);
     ++counts[rank_of(card)];
+    ++suit_counts[suit_of(card)];
     suits[suit_of(card)] |= RankMask{1} << rank_of(card);
   }
   // A flush leaves no room for four of a kind or a full house among seven cards.
-  for (const RankMask suit : suits) {
-    if (std::popcount(suit) >= 5) return holds_straight(suit) ? kStraightFlush : kFlush;
+  for (std::size_t suit = 0; suit < suits.size(); ++suit) {
+    if (suit_counts[suit] >= 5) return holds_straight(suits[suit]) ? kStraightFlush : kFlush;
   }
-  const auto fours = std::count(counts.begin(), counts.end(), 4);
+  const auto fours = std::count_if(counts.begin(), counts.end(), [](int n) { return n >= 4; });
   const auto threes = std::count(counts.begin(), counts.end(), 3);
   const auto pairs = std::count(counts.begin(), counts.end(), 2);
   if (fours > 0) return kFourOfAKind;
