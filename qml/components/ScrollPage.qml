@@ -12,9 +12,14 @@ FocusScope {
     property Typography type: Fallback.type
     property real minimumContentWidth: 0
     property real margins: theme.spaceXl
+    /// Whether the rows share the height of the page where they need less.
+    property bool fillsHeight: false
     /// What of a row shows without scrolling sideways.
     readonly property real viewWidth: width - 2 * margins
+    property alias spacing: column.spacing
     default property alias rows: column.data
+
+    spacing: theme.spaceXl
 
     /// Moves the view by pixels, as far as there is content.
     function scrollBy(dx: real, dy: real) {
@@ -64,7 +69,7 @@ FocusScope {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         contentWidth: Math.max(width, root.minimumContentWidth)
-        contentHeight: column.implicitHeight + 2 * root.margins
+        contentHeight: column.height + 2 * root.margins
         // Dragging paints ranges; the wheel and the bars scroll.
         interactive: false
 
@@ -74,7 +79,7 @@ FocusScope {
             x: root.margins
             y: root.margins
             width: flickable.contentWidth - 2 * root.margins
-            spacing: root.theme.spaceXl
+            height: root.fillsHeight ? Math.max(implicitHeight, flickable.height - 2 * root.margins) : implicitHeight
         }
 
         ScrollBar.vertical: AppScrollBar {

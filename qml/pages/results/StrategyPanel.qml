@@ -15,9 +15,14 @@ Card {
 
     padding: theme.spaceMd
 
-    ColumnLayout {
+    ScrollPage {
         anchors.fill: parent
+        theme: root.theme
+        type: root.type
+        margins: 0
+        fillsHeight: true
         spacing: root.theme.spaceMd
+        minimumContentWidth: strategy.implicitWidth + 260 + 250 + 2 * 20
 
         ResultsHeader {
             Layout.fillWidth: true
@@ -49,6 +54,8 @@ Card {
             spacing: 20
 
             StrategyColumn {
+                id: strategy
+
                 Layout.alignment: Qt.AlignTop
                 Layout.fillHeight: true
                 theme: root.theme
