@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -36,7 +37,6 @@ class TreeSnapshot {
     std::int32_t pot;
     std::int32_t invested_oop;
     std::int32_t invested_ip;
-    std::uint32_t first_action;
     TextId type;  ///< Node type, deal and player in one text.
   };
   struct Action {
@@ -49,15 +49,22 @@ class TreeSnapshot {
  public:
   void reserve(std::size_t nodes, std::size_t actions);
   void append(const NodeMeta& node);
+  /// The two halves of `append`, for a source that has the one before the other. Until both have
+  /// the same length, a node without facts has empty ones.
+  void append_facts(const NodeMeta& node);
+  void append_actions(std::span<const ActionMeta> actions);
+  void clear_facts() { nodes_.clear(); }
+  void clear_actions();
+  void shrink_to_fit();
 
-  std::size_t size() const { return nodes_.size(); }
+  std::size_t size() const { return first_actions_.size(); }
   bool has_children(std::size_t node) const;
   /// The record of a node. Throws `std::out_of_range`.
   NodeMeta node(std::size_t index) const;
   std::size_t memory_bytes() const;
   /// Bytes of a list of so many nodes, each of which is the child of one action but for the root.
   static std::uint64_t bytes_for(std::uint64_t nodes) {
-    return nodes * (sizeof(Node) + sizeof(Action));
+    return nodes * (sizeof(Node) + sizeof(std::uint32_t) + sizeof(Action));
   }
 
  private:
@@ -66,6 +73,7 @@ class TreeSnapshot {
   std::size_t num_actions(std::size_t node) const;
 
   std::vector<Node> nodes_;
+  std::vector<std::uint32_t> first_actions_;  ///< By node.
   std::vector<Action> actions_;
   std::vector<std::string> texts_;
   std::unordered_map<std::string, TextId> text_ids_;
