@@ -10,6 +10,7 @@
 
 #include "developer_mode.h"
 #include "processor_count.h"
+#include "project_writer.h"
 #include "result_variants.h"
 #include "showdown.h"
 #include "solve_config_map.h"
@@ -30,6 +31,19 @@ void openBesideExecutable(const QString& path) {
       QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + QLatin1Char('/') + path));
 }
 
+/// The path of a project to be saved; a refusal is logged.
+LocalPath pathToSave(const QUrl& fileUrl) {
+  LocalPath file = localPathOf(fileUrl);
+  if (!fileUrl.isValid() || !fileUrl.isLocalFile()) {
+    qWarning() << "saveProject: invalid/non-local URL:" << fileUrl;
+  }
+  return file;
+}
+
+QVariantMap refusedLoad(const QString& error) {
+  return {{"ok", false}, {"error", error}, {"project", QVariantMap()}, {"hasResults", false}};
+}
+
 }  // namespace
 
 AppController::AppController(QObject* parent)
@@ -44,6 +58,7 @@ AppController::AppController(MemoryMonitor::Sources memorySources, QObject* pare
   connect(&memory_, &MemoryMonitor::solveRequiredMemoryChanged, this,
           &AppController::solveRequiredMemoryChanged);
   connect(&preparer_, &NodePreparer::ready, this, &AppController::nodeAnswersReady);
+  connect(&fileWorker_, &FileWorker::progressChanged, this, &AppController::fileProgressChanged);
   setStatus(tr("Ready"));
 }
 
@@ -216,6 +231,87 @@ void AppController::openThirdPartyNotices() {
 
 QString AppController::readTextResource(const QString& path) {
   return ::readTextResource(path);
+}
+
+Project AppController::projectWith(const QVariantMap& state) {
+  const int nodes = tree_.nodeCount();
+  const bool hasResults = outcome_.iterations > 0 || nodes > 0 || !outcome_.rootActions.isEmpty();
+  if (nodes > 0) {
+    results_.nodeHandStrategy(0);
+    results_.nodeHandCombos(0);
+    results_.nodeHandBuckets(0);
+    results_.nodeActionStats(0);
+  }
+  return {state, hasResults, outcome_, tree_, results_.caches(), nodeLockTable_, lastUiCfg_};
+}
+
+bool AppController::saveProject(const QUrl& fileUrl, const QVariantMap& projectState) {
+  const LocalPath file = pathToSave(fileUrl);
+  return file.error.isEmpty() && writeProject(projectWith(projectState), file.path).isEmpty();
+}
+
+void AppController::saveProjectInBackground(const QUrl& fileUrl, const QVariantMap& projectState) {
+  if (fileWorker_.busy()) {
+    emit projectSaved(false, tr("Another file is still being saved or opened"));
+    return;
+  }
+  const LocalPath file = pathToSave(fileUrl);
+  if (!file.error.isEmpty()) {
+    emit projectSaved(false, file.error);
+    return;
+  }
+  const auto error = std::make_shared<QString>();
+  fileWorker_.run(
+      [project = projectWith(projectState), path = file.path, error](
+          const FileWorker::Progress& progress) { *error = writeProject(project, path, progress); },
+      [this, error] { emit projectSaved(error->isEmpty(), *error); });
+}
+
+QVariantMap AppController::loadProject(const QUrl& fileUrl) {
+  const LocalPath file = localPathOf(fileUrl);
+  if (!file.error.isEmpty()) return refusedLoad(file.error);
+  return adopt(readProject(file.path), file.path);
+}
+
+void AppController::loadProjectInBackground(const QUrl& fileUrl) {
+  if (fileWorker_.busy()) {
+    emit projectLoaded(refusedLoad(tr("Another file is still being saved or opened")));
+    return;
+  }
+  const LocalPath file = localPathOf(fileUrl);
+  if (!file.error.isEmpty()) {
+    emit projectLoaded(refusedLoad(file.error));
+    return;
+  }
+  const auto reading = std::make_shared<ProjectReading>();
+  fileWorker_.run(
+      [reading, path = file.path](const FileWorker::Progress& progress) {
+        *reading = readProject(path, progress);
+      },
+      [this, reading, path = file.path] { emit projectLoaded(adopt(*reading, path)); });
+}
+
+QVariantMap AppController::adopt(const ProjectReading& reading, const QString& path) {
+  if (!reading.error.isEmpty()) return refusedLoad(reading.error);
+  const Project& project = reading.project;
+  session_.clear();
+  dropResult();
+  outcome_ = project.outcome;
+  tree_ = project.tree;
+  results_.caches() = project.caches;
+  nodeLockTable_ = project.nodeLocks;
+  lastUiCfg_ = project.lastUiCfg;
+  setRunning(false);
+  setProgress(0);
+  setStatus(tr("Loaded project (%1 strategy nodes, %2 combo nodes)")
+                .arg(project.caches.handStrategyCache.size())
+                .arg(project.caches.handCombosCache.size()));
+  emit resultsChanged();
+  qInfo() << "Loaded project:" << path << "hasResults=" << project.hasResults;
+  return {{"ok", true},
+          {"error", QString()},
+          {"project", project.state},
+          {"hasResults", project.hasResults}};
 }
 
 QVariantMap AppController::saveTextFile(const QUrl& fileUrl, const QString& text) {

@@ -9,9 +9,11 @@
 #include <QVariantList>
 #include <QVariantMap>
 
+#include "file_worker.h"
 #include "memory_monitor.h"
 #include "node_lock_table.h"
 #include "node_preparer.h"
+#include "project_reader.h"
 #include "report_inbox.h"
 #include "result_queries.h"
 #include "solve_outcome.h"
@@ -53,6 +55,7 @@ class AppController : public QObject {
   Q_PROPERTY(qulonglong resultsReclaimableMemoryBytes READ resultsReclaimableMemoryBytes NOTIFY
                  resultsChanged)
   Q_PROPERTY(bool developerMode READ developerMode CONSTANT)
+  Q_PROPERTY(double fileProgress READ fileProgress NOTIFY fileProgressChanged)
 
  public:
   explicit AppController(QObject* parent = nullptr);
@@ -82,6 +85,8 @@ class AppController : public QObject {
   QVariantList rootActions() const { return outcome_.rootActions; }
   qulonglong resultsReclaimableMemoryBytes() const { return memory_.reclaimableBytes(); }
   bool developerMode() const { return developerMode_; }
+  /// 0..1 while a file is worked on in the background, else -1.
+  double fileProgress() const { return fileWorker_.progress(); }
 
   /// A solve of nothing, which is refused for its board.
   Q_INVOKABLE void startSolve();
@@ -97,6 +102,16 @@ class AppController : public QObject {
   Q_INVOKABLE void openLicensesFolder();
   Q_INVOKABLE void openThirdPartyNotices();
   Q_INVOKABLE QString readTextResource(const QString& path);
+  /// Writes the spot, its result and the answers that were given about it to a project file. True
+  /// when the file stands on disk.
+  Q_INVOKABLE bool saveProject(const QUrl& fileUrl, const QVariantMap& projectState);
+  /// Takes result, answers, locks and settings from a project file, or leaves everything as it was.
+  /// "ok", "error", "project" (what `saveProject` was given) and "hasResults".
+  Q_INVOKABLE QVariantMap loadProject(const QUrl& fileUrl);
+  /// The same without keeping the window waiting for the file. They answer by `projectSaved` and
+  /// `projectLoaded`. One file is worked on at a time; a second is refused.
+  Q_INVOKABLE void saveProjectInBackground(const QUrl& fileUrl, const QVariantMap& projectState);
+  Q_INVOKABLE void loadProjectInBackground(const QUrl& fileUrl);
   Q_INVOKABLE QVariantMap saveTextFile(const QUrl& fileUrl, const QString& text);
   Q_INVOKABLE QVariantMap readTextFile(const QUrl& fileUrl);
   Q_INVOKABLE void setNodeLock(int nodeIndex, const QString& handLabel169, int actionIndex,
@@ -142,12 +157,21 @@ class AppController : public QObject {
   void systemMemoryChanged();
   void solveRequiredMemoryChanged();
   void nodeAnswersReady(int nodeIndex);
+  void fileProgressChanged();
+  /// `error` tells why it is not `ok`.
+  void projectSaved(bool ok, const QString& error);
+  /// `answer` is that of `loadProject`.
+  void projectLoaded(const QVariantMap& answer);
 
  private:
   void setRunning(bool running);
   void setProgress(double progress);
   void setStatus(const QString& text);
 
+  /// What a project file gets, with the answers about the root.
+  Project projectWith(const QVariantMap& state);
+  /// Replaces everything by a project that was read.
+  QVariantMap adopt(const ProjectReading& reading, const QString& path);
   /// Drops what the pages show of a result.
   void dropResult();
   void startSession(const velmora_app::SolveConfig& config);
@@ -166,6 +190,7 @@ class AppController : public QObject {
   const bool developerMode_;
   const int systemThreadCount_;
   MemoryMonitor memory_;
+  FileWorker fileWorker_;
   std::shared_ptr<ReportInbox> inbox_;  ///< Of the latest run.
   /// Last, so that it goes first: it waits for its run, whose reports are still posted here.
   velmora_app::SolveSession session_;

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include <QList>
 #include <QMap>
 #include <QString>
 #include <QVariantList>
@@ -19,6 +20,8 @@ class NodeLockTable {
   /// Removes all locks of a node.
   void clear(int node) { locks_.remove(node); }
   void clear() { locks_.clear(); }
+  /// Nodes with locks, in ascending order.
+  QList<int> nodes() const { return locks_.keys(); }
   /// Maps of "hand", "actionIndex" and "actionProb".
   QVariantList locksAt(int node) const;
   /// The locks as a solve takes them. Locks with a negative action are left out.

@@ -15,15 +15,20 @@ QString translated(const char* text) {
 
 }  // namespace
 
+LocalPath localPathOf(const QUrl& fileUrl) {
+  if (!fileUrl.isValid() || !fileUrl.isLocalFile()) {
+    return {{}, translated("Invalid/non-local file URL")};
+  }
+  const QString path = fileUrl.toLocalFile();
+  return {path, path.isEmpty() ? translated("Empty file path") : QString()};
+}
+
 QVariantMap saveTextFile(const QUrl& fileUrl, const QString& text) {
   const auto failed = [](const QString& error) {
     return QVariantMap{{"ok", false}, {"error", error}};
   };
-  if (!fileUrl.isValid() || !fileUrl.isLocalFile()) {
-    return failed(translated("Invalid/non-local file URL"));
-  }
-  const QString path = fileUrl.toLocalFile();
-  if (path.isEmpty()) return failed(translated("Empty file path"));
+  const auto [path, error] = localPathOf(fileUrl);
+  if (!error.isEmpty()) return failed(error);
 
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {

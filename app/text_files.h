@@ -8,6 +8,12 @@
 /// Largest text file that is read, in bytes.
 inline constexpr qint64 kMaxTextFileBytes = 2'097'152;
 
+struct LocalPath {
+  QString path;   ///< Empty if the address is none of a local file.
+  QString error;  ///< Why it is empty, translated.
+};
+
+LocalPath localPathOf(const QUrl& fileUrl);
 /// Writes a whole file as UTF-8, or leaves what was there. Answers with "ok" and "error".
 QVariantMap saveTextFile(const QUrl& fileUrl, const QString& text);
 /// Reads a whole UTF-8 file. Answers with "ok", "error" and "text".

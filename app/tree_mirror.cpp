@@ -1,6 +1,7 @@
 #include "tree_mirror.h"
 
 #include <cstddef>
+#include <stdexcept>
 #include <utility>
 
 #include <QString>
@@ -21,9 +22,14 @@ int TreeMirror::nodeCount() const {
   return nodes_ ? static_cast<int>(nodes_->size()) : 0;
 }
 
+NodeMeta TreeMirror::record(int node) const {
+  if (!contains(node)) throw std::out_of_range("No such node");
+  return nodes_->node(static_cast<std::size_t>(node));
+}
+
 QVariantMap TreeMirror::meta(int node) const {
   if (!contains(node)) return {};
-  const NodeMeta record = nodes_->node(static_cast<std::size_t>(node));
+  const NodeMeta record = this->record(node);
   return {{"nodeType", QString::fromStdString(record.node_type)},
           {"chanceDeal", QString::fromStdString(record.chance_deal)},
           {"player", QString::fromStdString(record.player)},
@@ -37,7 +43,7 @@ QVariantMap TreeMirror::meta(int node) const {
 QVariantList TreeMirror::actions(int node) const {
   if (!contains(node)) return {};
   QVariantList list;
-  for (const ActionMeta& action : nodes_->node(static_cast<std::size_t>(node)).actions) {
+  for (const ActionMeta& action : record(node).actions) {
     list.append(QVariantMap{{"name", QString::fromStdString(action.name)},
                             {"actionType", QString::fromStdString(action.action_type)},
                             {"frequency", static_cast<double>(action.frequency)},

@@ -16,6 +16,9 @@ class TreeMirror {
   void clear();
 
   int nodeCount() const;
+  int effectiveStack() const { return effectiveStack_; }
+  /// The compact record of a node. Throws `std::out_of_range`.
+  velmora_app::NodeMeta record(int node) const;
   /// "nodeType", "chanceDeal", "player", "pot", "effectiveStack", "investedOop", "investedIp" and
   /// "hasChildren" of a node; empty if the index is out of range.
   QVariantMap meta(int node) const;

@@ -1,5 +1,6 @@
 #include "app_test_support.h"
 
+#include <csignal>
 #include <mutex>
 
 #include <QFile>
@@ -45,6 +46,18 @@ bool waitUntil(const std::function<bool()>& condition) {
 QByteArray bytesOf(const QString& path) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+FullDisk::FullDisk(rlim_t bytes) {
+  getrlimit(RLIMIT_FSIZE, &before_);
+  std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit small = {bytes, before_.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &small);
+}
+
+FullDisk::~FullDisk() {
+  setrlimit(RLIMIT_FSIZE, &before_);
+  std::signal(SIGXFSZ, SIG_DFL);
 }
 
 LogCapture::LogCapture() {

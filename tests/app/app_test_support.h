@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <sys/resource.h>
 
 #include <QByteArray>
 #include <QString>
@@ -18,6 +19,18 @@ bool waitUntil(const std::function<bool()>& condition);
 
 /// The bytes of a file; none if it can't be read.
 QByteArray bytesOf(const QString& path);
+
+/// While it lives no file of this process grows beyond so many bytes: a disk that is full.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes);
+  ~FullDisk();
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+  rlimit before_ = {};
+};
 
 /// Keeps the log messages of its lifetime, "warning: " in front of warnings, off the screen.
 class LogCapture {

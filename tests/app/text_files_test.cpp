@@ -1,8 +1,5 @@
 #include "text_files.h"
 
-#include <csignal>
-#include <sys/resource.h>
-
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -81,15 +78,10 @@ TEST_F(TextFiles, TwoMebibytesAreTheLimit) {
 
 TEST_F(TextFiles, AFailedSaveLeavesTheOldContent) {
   writeBytes(path("kept.txt"), "old");
-  // A disk that is full after 4 KiB.
-  rlimit before = {};
-  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-  const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit small = {4096, before.rlim_max};
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-  const QVariantMap answer = saveTextFile(urlOf(path("kept.txt")), QString(1'000'000, 'n'));
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
-  std::signal(SIGXFSZ, oldHandler);
+  const QVariantMap answer = [this] {
+    const FullDisk disk(4096);
+    return saveTextFile(urlOf(path("kept.txt")), QString(1'000'000, 'n'));
+  }();
 
   EXPECT_EQ(answer.value("ok"), false);
   EXPECT_TRUE(answer.value("error").toString().startsWith("Failed to save file: "));
