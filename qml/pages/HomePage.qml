@@ -14,12 +14,27 @@ ScrollPage {
     signal importRange
     signal projectLoaded(var projectState, bool hasResults)
 
+    ProjectFiles {
+        id: files
+
+        visible: false
+        theme: root.theme
+        type: root.type
+        controller: root.controller
+        onStateWanted: file => save(file, root.projectStateProvider())
+        onProjectLoaded: (projectState, hasResults) => root.projectLoaded(projectState, hasResults)
+    }
+
     HeroBand {
         Layout.fillWidth: true
         Layout.preferredHeight: 180
         theme: root.theme
         type: root.type
+        busy: files.busy
+        progress: root.controller.fileProgress
         onNewProject: root.newProject()
+        onSaveRequested: files.chooseFileToSave()
+        onOpenRequested: files.chooseFileToOpen()
     }
 
     GridLayout {

@@ -7,6 +7,7 @@
 #include <QQmlEngine>
 #include <QQuickStyle>
 #include <QTemporaryDir>
+#include <QUrl>
 #include <QtQuickTest>
 
 #include "app_controller.h"
@@ -14,6 +15,10 @@
 /// Readies each engine as the entry of the program does.
 class Setup : public QObject {
   Q_OBJECT
+
+ public:
+  /// `folder` is where tests may write.
+  explicit Setup(const QString& folder) : folder_(folder) {}
 
  public slots:
   void applicationAvailable() {
@@ -25,11 +30,13 @@ class Setup : public QObject {
     engine->addImportPath("qrc:/");
     controller_ = std::make_unique<AppController>();
     engine->rootContext()->setContextProperty("appController", controller_.get());
+    engine->rootContext()->setContextProperty("testFolder", QUrl::fromLocalFile(folder_));
   }
 
   void cleanupTestCase() { controller_.reset(); }
 
  private:
+  const QString folder_;
   std::unique_ptr<AppController> controller_;
 };
 
@@ -44,7 +51,7 @@ int main(int argc, char* argv[]) {
   qputenv("XDG_CACHE_HOME", home.path().toUtf8());
   qputenv("TMPDIR", home.path().toUtf8());
   QQuickStyle::setStyle("Basic");
-  Setup setup;
+  Setup setup(home.path());
   return quick_test_main_with_setup(argc, argv, "velmora_ui_tests", QUICK_TEST_SOURCE_DIR, &setup);
 }
 

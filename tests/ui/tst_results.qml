@@ -8,8 +8,7 @@ MainWindowCase {
 
     name: "Results"
 
-    readonly property var results: Find.all(window?.contentItem, item => item.walk !== undefined && item.locks !== undefined
-                                                                        && item.rakeCap !== undefined)[0]
+    property var results
     readonly property var walk: results?.walk
     readonly property var view: results?.view
     readonly property var locks: results?.locks
@@ -25,6 +24,7 @@ MainWindowCase {
         tryVerify(() => !controller.running && controller.resultIterations > 0, 60000)
         keyClick(Qt.Key_4, Qt.ControlModifier)
         compare(shell.navIndex, 3)
+        results = Find.withProperties(window.contentItem, "walk", "locks", "rakeCap")
         settle()
     }
 
@@ -147,6 +147,70 @@ MainWindowCase {
         compare(view.selectedHandClass, "AA")
         take("Check")
         compare(view.selectedHandClass, "")
+    }
+
+    SignalSpy {
+        id: saved
+
+        target: root.controller ?? null
+        signalName: "projectSaved"
+    }
+
+    SignalSpy {
+        id: opened
+
+        target: root.controller ?? null
+        signalName: "projectLoaded"
+    }
+
+    /// What the views show of the node on view.
+    function seen(): var {
+        return JSON.stringify([view.currentActions, view.handWeights, view.handActionProbs, view.buckets,
+                               view.visibleHandCombos, walk.currentMeta, walk.treeBoardText])
+    }
+
+    function test_a_saved_project_shows_what_it_showed() {
+        solveTurnSpot()
+        const bet = controller.nodeActions(0)[1].name
+        const before = [seen()]
+        take("Check")
+        before.push(seen())
+        take(bet)
+        before.push(seen())
+        controller.setNodeLock(0, "AA", 1, 0.25)
+        const file = testFolder + "/turn.velmoraproj"
+        saved.clear()
+        controller.saveProjectInBackground(file, shell.exportProjectState())
+        tryCompare(saved, "count", 1, 20000)
+        verify(saved.signalArguments[0][0], saved.signalArguments[0][1])
+
+        shell.resetToStartupBlank()
+        shell.requestPage(0)
+        compare(controller.treeNodeCount(), 0)
+        opened.clear()
+        controller.loadProjectInBackground(file)
+        tryCompare(opened, "count", 1, 20000)
+        tryCompare(shell, "navIndex", 3)
+        compare(project.boardText, "QsJh2h3s")
+        compare(controller.nodeLocks(0).length, 1)
+        settle()
+        const after = [seen()]
+        take("Check")
+        after.push(seen())
+        take(bet)
+        after.push(seen())
+        for (let step = 0; step < before.length; ++step)
+            compare(after[step], before[step], "step " + step)
+    }
+
+    function test_a_file_that_is_no_project_tells_why() {
+        ignoreWarning(/^Load failed:/)
+        controller.loadProjectInBackground(testFolder + "/nowhere.velmoraproj")
+        tryVerify(() => Find.text(window.contentItem.parent, "Failed to open file"), 5000)
+        wait(150)
+        mouseClick(Find.button(window.contentItem.parent, "OK"))
+        compare(shell.navIndex, 0)
+        verify(!shell.hasProject)
     }
 
     function test_locks_preview_and_resolve() {

@@ -10,7 +10,12 @@ Rectangle {
     property Theme theme: Fallback.theme
     property Typography type: Fallback.type
 
+    property bool busy: false
+    property real progress: 0  ///< 0..1, of the file that is worked on while busy.
+
     signal newProject
+    signal saveRequested
+    signal openRequested
 
     implicitHeight: 180
     radius: theme.radiusLg
@@ -69,14 +74,22 @@ Rectangle {
                     theme: root.theme
                     text: qsTr("Save")
                     iconName: "save"
-                    enabled: false
+                    enabled: !root.busy
+                    onClicked: root.saveRequested()
                 }
 
                 SecondaryButton {
                     theme: root.theme
                     text: qsTr("Open File")
                     iconName: "folder-open"
-                    enabled: false
+                    enabled: !root.busy
+                    onClicked: root.openRequested()
+                }
+
+                FileProgress {
+                    theme: root.theme
+                    running: root.busy
+                    value: root.progress
                 }
             }
         }
