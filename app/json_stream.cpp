@@ -7,9 +7,7 @@
 #include <limits>
 #include <system_error>
 
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QLocale>
 
 namespace {
@@ -32,7 +30,10 @@ bool isDigit(int byte) {
 /// What the parser of Qt makes of a part of the text.
 QJsonValue parsed(QByteArrayView json) {
   QJsonParseError error;
-  const QJsonDocument document = QJsonDocument::fromJson('[' + json.toByteArray() + ']', &error);
+  QByteArray list;
+  list.reserve(json.size() + 2);
+  list.append('[').append(json).append(']');
+  const QJsonDocument document = QJsonDocument::fromJson(list, &error);
   if (error.error != QJsonParseError::NoError) fail("Broken value");
   return document.array().at(0);
 }
@@ -194,10 +195,13 @@ int JsonReader::peek() {
 }
 
 int JsonReader::peekToken() {
+  // Most of an indented text.
+  const auto isSpace = [](int byte) {
+    return byte == ' ' || byte == '\n' || byte == '\r' || byte == '\t';
+  };
   for (;;) {
-    const int byte = peek();
-    if (byte != ' ' && byte != '\n' && byte != '\r' && byte != '\t') return byte;
-    ++at_;
+    while (at_ != end_ && isSpace(*at_)) ++at_;
+    if (at_ != end_ || !refill()) return peek();
   }
 }
 
@@ -234,14 +238,40 @@ bool JsonReader::next(char bracket, bool first) {
 
 std::string JsonReader::memberName() {
   if (peekToken() != '"') fail("No name");
-  const QByteArrayView name = take();
-  if (!name.isValidUtf8()) fail("A name is no UTF-8");
-  std::string text = name.contains('\\')
-                         ? parsed(name).toString().toStdString()
-                         : std::string(name.data() + 1, static_cast<std::size_t>(name.size()) - 2);
+  std::string name = text();
   peekToken();
   expect(":");
-  return text;
+  return name;
+}
+
+QJsonObject JsonReader::object() {
+  if (peekToken() == '{') return value().toObject();
+  skip();
+  return {};
+}
+
+QJsonArray JsonReader::array() {
+  if (peekToken() == '[') return value().toArray();
+  skip();
+  return {};
+}
+
+QJsonValue JsonReader::scalar() {
+  if (const int start = peekToken(); start != '{' && start != '[') return value();
+  skip();
+  return {};
+}
+
+std::string JsonReader::text() {
+  if (peekToken() != '"') {
+    skip();
+    return {};
+  }
+  pending_ = false;
+  const QByteArrayView json = take();
+  if (json.contains('\\')) return parsed(json).toString().toStdString();
+  if (!json.isValidUtf8()) fail("A text is no UTF-8");
+  return {json.data() + 1, static_cast<std::size_t>(json.size()) - 2};
 }
 
 void JsonReader::skip() {

@@ -8,6 +8,8 @@
 
 #include <QByteArray>
 #include <QIODevice>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QJsonValue>
 
 /// Writes one indented JSON text as `QJsonDocument` would, if the caller gives the keys of an
@@ -88,6 +90,12 @@ class JsonReader {
   }
   /// The value whole.
   QJsonValue value();
+  /// The same for what must be of one kind; a value of another kind is skipped, however long it is,
+  /// and reads as empty.
+  QJsonObject object();
+  QJsonArray array();
+  QJsonValue scalar();
+  std::string text();
   /// Nothing but white space may follow the outermost value.
   void finish();
   /// Bytes that were taken from the device.

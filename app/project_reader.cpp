@@ -9,8 +9,6 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonObject>
 
 #include "fault_scope.h"
 #include "json_stream.h"
@@ -21,21 +19,17 @@ using velmora_app::TreeSnapshot;
 
 namespace {
 
-std::string textIn(JsonReader& in) {
-  return in.value().toString().toStdString();
+QVariantMap mapIn(JsonReader& in) {
+  return in.object().toVariantMap();
 }
 
-QVariantMap mapIn(const QJsonValue& value) {
-  return value.toObject().toVariantMap();
-}
-
-QVariantList listIn(const QJsonValue& value) {
-  return value.toArray().toVariantList();
+QVariantList listIn(JsonReader& in) {
+  return in.array().toVariantList();
 }
 
 /// An equity that can't be told is not a number for the pages, for which a file has no word.
-QVariantList statsIn(const QJsonValue& value) {
-  QVariantList list = listIn(value);
+QVariantList statsIn(JsonReader& in) {
+  QVariantList list = listIn(in);
   for (QVariant& entry : list) {
     QVariantMap stats = entry.toMap();
     if (!stats.contains("equity") || !stats.value("equity").isNull()) continue;
@@ -55,11 +49,11 @@ class DocumentReader {
 
   void read() {
     in_.members([this](const std::string& name) {
-      if (name == "format") format_ = in_.value().toString();
-      if (name == "version") version_ = in_.value().toInt();
-      if (name == "hasResults") project_.hasResults = in_.value().toBool();
-      if (name == "project") project_.state = mapIn(in_.value());
-      if (name == "lastUiCfg") project_.lastUiCfg = mapIn(in_.value());
+      if (name == "format") format_ = in_.scalar().toString();
+      if (name == "version") version_ = in_.scalar().toInt();
+      if (name == "hasResults") project_.hasResults = in_.scalar().toBool();
+      if (name == "project") project_.state = mapIn(in_);
+      if (name == "lastUiCfg") project_.lastUiCfg = mapIn(in_);
       if (name == "nodeLocks") readLocks();
       if (name == "nodeCaches") readCaches();
       if (name == "results") readResults();
@@ -90,21 +84,41 @@ class DocumentReader {
   void readLocks() {
     project_.nodeLocks.clear();
     entries([this] {
-      const QJsonObject lock = in_.value().toObject();
-      const int action = lock["actionIndex"].toInt(-1);
-      if (action < 0) return;
-      project_.nodeLocks.set(lock["nodeIndex"].toInt(-1), lock["hand"].toString(), action,
-                             lock["actionProb"].toDouble(lock.contains("actionProb") ? 0 : 1));
+      int node = -1;
+      QString hand;
+      int action = -1;
+      double probability = 1;
+      in_.members([&](const std::string& name) {
+        if (name == "nodeIndex") node = in_.scalar().toInt(-1);
+        if (name == "hand") hand = in_.scalar().toString();
+        if (name == "actionIndex") action = in_.scalar().toInt(-1);
+        if (name == "actionProb") probability = in_.scalar().toDouble();
+      });
+      if (action >= 0) project_.nodeLocks.set(node, hand, action, probability);
     });
   }
 
-  template <typename Answer>
-  void readCache(QMap<int, Answer>& cache, Answer (*answerIn)(const QJsonValue&)) {
-    cache.clear();
+  /// Calls `store` with the node, the seat and the answer of each entry.
+  template <typename Read, typename Store>
+  void readAnswers(const Read& read, const Store& store) {
     entries([&] {
-      const QJsonObject entry = in_.value().toObject();
-      const int node = entry["nodeIndex"].toInt(-1);
-      if (node >= 0) cache.insert(node, answerIn(entry["data"]));
+      int node = -1;
+      QString seat;
+      decltype(read(in_)) data;
+      in_.members([&](const std::string& name) {
+        if (name == "nodeIndex") node = in_.scalar().toInt(-1);
+        if (name == "seat") seat = in_.scalar().toString().trimmed().toUpper();
+        if (name == "data") data = read(in_);
+      });
+      if (node >= 0) store(node, seat, data);
+    });
+  }
+
+  template <typename Answer, typename Read>
+  void readCache(QMap<int, Answer>& cache, const Read& read) {
+    cache.clear();
+    readAnswers(read, [&](int node, const QString& /*seat*/, const Answer& answer) {
+      cache.insert(node, answer);
     });
   }
 
@@ -112,13 +126,9 @@ class DocumentReader {
     ResultCaches& caches = project_.caches;
     caches.seatHandCombosOopCache.clear();
     caches.seatHandCombosIpCache.clear();
-    entries([&] {
-      const QJsonObject entry = in_.value().toObject();
-      const int node = entry["nodeIndex"].toInt(-1);
-      const QString seat = entry["seat"].toString().trimmed().toUpper();
-      if (node < 0 || (seat != "OOP" && seat != "IP")) return;
-      auto& cache = seat == "OOP" ? caches.seatHandCombosOopCache : caches.seatHandCombosIpCache;
-      cache.insert(node, listIn(entry["data"]));
+    readAnswers(listIn, [&](int node, const QString& seat, const QVariantList& answer) {
+      if (seat == "OOP") caches.seatHandCombosOopCache.insert(node, answer);
+      if (seat == "IP") caches.seatHandCombosIpCache.insert(node, answer);
     });
   }
 
@@ -126,10 +136,10 @@ class DocumentReader {
     ResultCaches& caches = project_.caches;
     caches.clear();
     in_.members([&](const std::string& name) {
-      if (name == "handStrategyByNode") readCache(caches.handStrategyCache, &mapIn);
-      if (name == "actionStatsByNode") readCache(caches.actionStatsCache, &statsIn);
-      if (name == "handCombosByNode") readCache(caches.handCombosCache, &listIn);
-      if (name == "handBucketsByNode") readCache(caches.handBucketsCache, &listIn);
+      if (name == "handStrategyByNode") readCache(caches.handStrategyCache, mapIn);
+      if (name == "actionStatsByNode") readCache(caches.actionStatsCache, statsIn);
+      if (name == "handCombosByNode") readCache(caches.handCombosCache, listIn);
+      if (name == "handBucketsByNode") readCache(caches.handBucketsCache, listIn);
       if (name == "seatHandCombosByNode") readSeatCaches();
     });
   }
@@ -141,12 +151,12 @@ class DocumentReader {
     const auto tree = std::make_shared<TreeSnapshot>();
     int effectiveStack = 0;
     in_.members([&](const std::string& name) {
-      if (name == "resultsSummary") outcome.summary = in_.value().toString();
-      if (name == "resultStartingPot") outcome.startingPot = in_.value().toInt();
-      if (name == "resultIterations") outcome.iterations = in_.value().toInt();
-      if (name == "resultExploitability") outcome.exploitability = in_.value().toDouble();
-      if (name == "resultEvOop") outcome.evOop = in_.value().toDouble();
-      if (name == "resultEvIp") outcome.evIp = in_.value().toDouble();
+      if (name == "resultsSummary") outcome.summary = in_.scalar().toString();
+      if (name == "resultStartingPot") outcome.startingPot = in_.scalar().toInt();
+      if (name == "resultIterations") outcome.iterations = in_.scalar().toInt();
+      if (name == "resultExploitability") outcome.exploitability = in_.scalar().toDouble();
+      if (name == "resultEvOop") outcome.evOop = in_.scalar().toDouble();
+      if (name == "resultEvIp") outcome.evIp = in_.scalar().toDouble();
       if (name == "rootActions") readRootActions();
       if (name == "treeNodeMeta") readTreeMeta(*tree, effectiveStack);
       if (name == "treeNodeActions") readTreeActions(*tree);
@@ -158,7 +168,7 @@ class DocumentReader {
   void readRootActions() {
     QVariantList& actions = project_.outcome.rootActions;
     actions.clear();
-    entries([&] { actions.append(mapIn(in_.value())); });
+    entries([&] { actions.append(mapIn(in_)); });
   }
 
   void readTreeMeta(TreeSnapshot& tree, int& effectiveStack) {
@@ -168,13 +178,13 @@ class DocumentReader {
       NodeMeta node;
       int stack = 0;
       in_.members([&](const std::string& name) {
-        if (name == "nodeType") node.node_type = textIn(in_);
-        if (name == "chanceDeal") node.chance_deal = textIn(in_);
-        if (name == "player") node.player = textIn(in_);
-        if (name == "pot") node.pot = in_.value().toInt();
-        if (name == "effectiveStack") stack = in_.value().toInt();
-        if (name == "investedOop") node.invested_oop = in_.value().toInt();
-        if (name == "investedIp") node.invested_ip = in_.value().toInt();
+        if (name == "nodeType") node.node_type = in_.text();
+        if (name == "chanceDeal") node.chance_deal = in_.text();
+        if (name == "player") node.player = in_.text();
+        if (name == "pot") node.pot = in_.scalar().toInt();
+        if (name == "effectiveStack") stack = in_.scalar().toInt();
+        if (name == "investedOop") node.invested_oop = in_.scalar().toInt();
+        if (name == "investedIp") node.invested_ip = in_.scalar().toInt();
       });
       if (std::exchange(first, false)) effectiveStack = stack;  // The same at all nodes.
       tree.append_facts(node);
@@ -189,11 +199,11 @@ class DocumentReader {
       in_.elements([&] {
         ActionMeta& action = actions.emplace_back();
         in_.members([&](const std::string& name) {
-          if (name == "name") action.name = textIn(in_);
-          if (name == "actionType") action.action_type = textIn(in_);
-          if (name == "frequency") action.frequency = static_cast<float>(in_.value().toDouble());
+          if (name == "name") action.name = in_.text();
+          if (name == "actionType") action.action_type = in_.text();
+          if (name == "frequency") action.frequency = static_cast<float>(in_.scalar().toDouble());
           if (name == "childIndex")
-            action.child_index = static_cast<std::uint32_t>(in_.value().toInt());
+            action.child_index = static_cast<std::uint32_t>(in_.scalar().toInt());
         });
       });
       tree.append_actions(actions);
