@@ -13,16 +13,16 @@ Card {
     required property NodeView view
     required property NodeLocks locks
 
-    padding: theme.spaceMd
+    padding: theme.spaceXs
 
     ScrollPage {
         anchors.fill: parent
         theme: root.theme
         type: root.type
-        margins: 0
+        margins: root.theme.spaceSm
         fillsHeight: true
         spacing: root.theme.spaceMd
-        minimumContentWidth: strategy.implicitWidth + 260 + 250 + 2 * 20
+        minimumContentWidth: strategy.implicitWidth + 260 + 250 + 2 * 20 + 2 * margins
 
         ResultsHeader {
             Layout.fillWidth: true
@@ -57,6 +57,7 @@ Card {
                 id: strategy
 
                 Layout.alignment: Qt.AlignTop
+                Layout.fillWidth: false
                 Layout.fillHeight: true
                 theme: root.theme
                 type: root.type
