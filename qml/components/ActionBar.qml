@@ -149,7 +149,7 @@ Item {
                 spacing: root.theme.spaceSm
 
                 Rectangle {
-                    anchors.verticalCenter: parent.verticalCenter
+                    anchors.verticalCenter: line.verticalCenter
                     width: 10
                     height: 10
                     radius: 2
@@ -157,7 +157,7 @@ Item {
                 }
 
                 Label {
-                    anchors.verticalCenter: parent.verticalCenter
+                    anchors.verticalCenter: line.verticalCenter
                     text: root._name(line.index)
                     color: root.theme.text
                     font.pixelSize: root.type.labelMd
@@ -165,7 +165,7 @@ Item {
                 }
 
                 Label {
-                    anchors.verticalCenter: parent.verticalCenter
+                    anchors.verticalCenter: line.verticalCenter
                     text: qsTr("%1%").arg(Frequencies.percentText(root._shares[line.index]))
                     color: root.theme.text
                     font.pixelSize: root.type.labelMd
@@ -182,7 +182,7 @@ Item {
                     Label {
                         required property string modelData
 
-                        anchors.verticalCenter: parent.verticalCenter
+                        anchors.verticalCenter: line.verticalCenter
                         text: modelData
                         color: root.theme.textMuted
                         font.pixelSize: root.type.labelSm
