@@ -3,6 +3,7 @@ import QtQuick.Layouts
 import QtQuick.Dialogs
 import Velmora
 import "../logic/board_text.js" as BoardText
+import "../logic/file_url.js" as FileUrl
 import "../logic/range_text.js" as RangeText
 
 /// Where a spot is described: board, game settings, bet sizes and both ranges.
@@ -161,7 +162,7 @@ ScrollPage {
 
         title: qsTr("Import Range")
         nameFilters: [qsTr("Range text (*.txt)"), qsTr("All Files (*)")]
-        onAccepted: root._importRange(selectedFile, seat)
+        onAccepted: root._importRange(FileUrl.ofLocalFile(selectedFile), seat)
     }
 
     MessageBox {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import "../../qml/logic/file_url.js" as FileUrl
 import "../../qml/logic/number_text.js" as NumberText
 import "../../qml/logic/project_keys.js" as ProjectKeys
 import "../../qml/logic/presets.js" as Presets
@@ -209,6 +210,18 @@ TestCase {
     function test_numbers_shown() {
         compare([0.5, 5, 0.1 + 0.2, 0.000001, 33.3333].map(number => NumberText.plain(number, 3)),
                 ["0.5", "5", "0.3", "0", "33.333"])
+    }
+
+    function test_file_urls_data() {
+        return [
+            { tag: "bare path", answer: "/home/u/my #1 spot.velmoraproj", url: "file:///home/u/my%20%231%20spot.velmoraproj" },
+            { tag: "a URL already", answer: "file:///home/u/a%20b.velmoraproj", url: "file:///home/u/a%20b.velmoraproj" },
+            { tag: "elsewhere", answer: "http://host/a", url: "http://host/a" }
+        ]
+    }
+
+    function test_file_urls(data) {
+        compare(FileUrl.ofLocalFile(data.answer), data.url)
     }
 
     function test_range_size() {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Dialogs
 import Velmora
+import "../../logic/file_url.js" as FileUrl
 
 /// Saves the project to a file and opens one, each by a file dialog. A failure is told in a message.
 Item {
@@ -56,9 +57,10 @@ Item {
 
         title: qsTr("Save Project")
         fileMode: FileDialog.SaveFile
+        acceptLabel: qsTr("Save")
         defaultSuffix: "velmoraproj"
         nameFilters: root._filters
-        onAccepted: root.stateWanted(selectedFile)
+        onAccepted: root.stateWanted(FileUrl.ofLocalFile(selectedFile))
     }
 
     FileDialog {
@@ -66,7 +68,7 @@ Item {
 
         title: qsTr("Open Project")
         nameFilters: root._filters
-        onAccepted: root.controller.loadProjectInBackground(selectedFile)
+        onAccepted: root.controller.loadProjectInBackground(FileUrl.ofLocalFile(selectedFile))
     }
 
     MessageBox {

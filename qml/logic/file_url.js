@@ -1,0 +1,8 @@
+.pragma library
+
+/// A file dialog's answer as a URL of a local file. The dialog that Qt draws itself, where the system
+/// has none, gives a typed name as a bare path.
+function ofLocalFile(answer) {
+    const text = String(answer)
+    return text.startsWith("/") ? "file://" + text.split("/").map(encodeURIComponent).join("/") : text
+}
