@@ -4,6 +4,7 @@
 #include <bit>
 
 #include "game.h"
+#include "hand_eval.h"
 
 namespace velmora {
 namespace {
@@ -24,18 +25,6 @@ constexpr std::string_view kPair = "pair";
 /// The bit behind those of the table.
 constexpr CategorySet kPairBit = bit_of(kPair);
 static_assert(kPairBit == CategorySet{1} << kHandCategoryNames.size());
-
-enum MadeCategory : std::uint32_t {
-  kHighCard,
-  kOnePair,
-  kTwoPair,
-  kThreeOfAKind,
-  kStraight,
-  kFlush,
-  kFullHouse,
-  kFourOfAKind,
-  kStraightFlush,
-};
 
 constexpr bool holds_straight(RankMask mask) {
   constexpr RankMask kWheel = 0x100F;

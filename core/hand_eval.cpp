@@ -14,19 +14,7 @@ using RankMask = std::uint32_t;
 constexpr RankMask kWheel = 0x100F;
 constexpr RankMask kFive = RankMask{1} << 3;
 
-enum Category : std::uint32_t {
-  kHighCard,
-  kOnePair,
-  kTwoPair,
-  kThreeOfAKind,
-  kStraight,
-  kFlush,
-  kFullHouse,
-  kFourOfAKind,
-  kStraightFlush,
-};
-
-constexpr HandStrength strength(Category category, RankMask primary, RankMask secondary = 0) {
+constexpr HandStrength strength(MadeHand category, RankMask primary, RankMask secondary = 0) {
   return (HandStrength{category} << 26) | (primary << 13) | secondary;
 }
 

@@ -9,7 +9,20 @@
 
 namespace velmora {
 
-/// Category in bits 26 and up (0 high card .. 8 straight flush), primary rank mask in bits 13 to
+/// What the best five of seven cards make, in order of rank.
+enum MadeHand : std::uint32_t {
+  kHighCard,
+  kOnePair,
+  kTwoPair,
+  kThreeOfAKind,
+  kStraight,
+  kFlush,
+  kFullHouse,
+  kFourOfAKind,
+  kStraightFlush,
+};
+
+/// `MadeHand` in bits 26 and up, primary rank mask in bits 13 to
 /// 25, secondary rank mask in bits 0 to 12. A higher value wins, equal values tie.
 using HandStrength = std::uint32_t;
 
