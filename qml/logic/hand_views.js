@@ -1,10 +1,9 @@
 .pragma library
+.import "card_names.js" as CardNames
+.import "hand_grid.js" as HandGrid
 
 // What the views of a node make of the controller's answers. Lists may be the controller's own, so
 // they are addressed by index and length only.
-
-const _ranks = "AKQJT98765432"
-const _suits = "shdc"
 
 function _list(list) {
     const copy = []
@@ -90,7 +89,7 @@ function actionsForProbs(actions, probabilities) {
 
 /// The grid label of two cards.
 function handClassFromCards(card1, card2) {
-    const [high, low] = [card1, card2].sort((a, b) => _ranks.indexOf(a.charAt(0)) - _ranks.indexOf(b.charAt(0)))
+    const [high, low] = [card1, card2].sort((a, b) => HandGrid.RANKS.indexOf(a.charAt(0)) - HandGrid.RANKS.indexOf(b.charAt(0)))
     if (high.charAt(0) === low.charAt(0))
         return high.charAt(0) + low.charAt(0)
     return high.charAt(0) + low.charAt(0) + (high.charAt(1) === low.charAt(1) ? "s" : "o")
@@ -105,10 +104,10 @@ function parseHandSearchTokens(text) {
 function matchSearchTokenToCombo(token, card1, card2) {
     const rank = index => token.charAt(index).toUpperCase()
     const suit = index => token.charAt(index).toLowerCase()
-    const known = index => token.charAt(index) !== "" && _ranks.includes(rank(index))
+    const known = index => token.charAt(index) !== "" && HandGrid.RANKS.includes(rank(index))
     const ranks = [card1.charAt(0), card2.charAt(0)].sort().join("")
     if (token.length === 4) {
-        if (!known(0) || !known(2) || !_suits.includes(suit(1)) || !_suits.includes(suit(3)))
+        if (!known(0) || !known(2) || !CardNames.SUITS.includes(suit(1)) || !CardNames.SUITS.includes(suit(3)))
             return false
         const [first, second] = [rank(0) + suit(1), rank(2) + suit(3)]
         return (first === card1 && second === card2) || (first === card2 && second === card1)

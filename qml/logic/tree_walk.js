@@ -1,10 +1,8 @@
 .pragma library
 .import "board_text.js" as BoardText
+.import "card_names.js" as CardNames
 
 // The public cards along a walk through a solved tree.
-
-const ranks = ["A", "K", "Q", "J", "T", "9", "8", "7", "6", "5", "4", "3", "2"]
-const suits = ["s", "h", "d", "c"]
 
 /// True for an action that is a dealt card.
 function isCardName(name) {
@@ -33,7 +31,7 @@ function chanceCardIndexForSelection(card, indexByCard, boardText) {
     if (indexByCard[card] !== undefined)
         return indexByCard[card]
     const present = BoardText.usedCards(boardText).map(used => used.charAt(1))
-    const absent = suits.filter(suit => !present.includes(suit))
+    const absent = CardNames.SUITS.filter(suit => !present.includes(suit))
     if (absent.length < 2 || !absent.includes(card.charAt(1)))
         return -1
     for (const suit of absent) {

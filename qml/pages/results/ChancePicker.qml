@@ -3,6 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
 import Velmora
+import "../../logic/card_names.js" as CardNames
+import "../../logic/hand_grid.js" as HandGrid
 import "../../logic/tree_walk.js" as Walk
 
 /// Chooses the card of a chance node. Where the tree keeps one of several suits that are alike, the
@@ -67,7 +69,7 @@ AppDialog {
             spacing: 6
 
             Repeater {
-                model: Walk.suits
+                model: CardNames.SUITS
 
                 Row {
                     id: suitRow
@@ -87,7 +89,7 @@ AppDialog {
                         spacing: 3
 
                         Repeater {
-                            model: Walk.ranks
+                            model: HandGrid.RANKS
 
                             PlayingCard {
                                 required property string modelData
