@@ -40,6 +40,20 @@ LocalPath pathToSave(const QUrl& fileUrl) {
   return file;
 }
 
+/// A project with the answers about the root among its others: they are in every file.
+Project withRootAnswers(Project project, const velmora_app::SolvedSpot& spot,
+                        const std::shared_ptr<velmora_app::ActionValues>& values) {
+  ResultQueries queries([&spot] { return spot; }, project.tree, values);
+  queries.caches() = project.caches;
+  try {
+    queries.askAll(0);
+  } catch (const std::exception& fault) {
+    qWarning() << "saveProject: the root gives no answers:" << fault.what();
+  }
+  project.caches = queries.caches();
+  return project;
+}
+
 QVariantMap refusedLoad(const QString& error) {
   return {{"ok", false}, {"error", error}, {"project", QVariantMap()}, {"hasResults", false}};
 }
@@ -57,7 +71,10 @@ AppController::AppController(MemoryMonitor::Sources memorySources, QObject* pare
   connect(&memory_, &MemoryMonitor::systemMemoryChanged, this, &AppController::systemMemoryChanged);
   connect(&memory_, &MemoryMonitor::solveRequiredMemoryChanged, this,
           &AppController::solveRequiredMemoryChanged);
-  connect(&preparer_, &NodePreparer::ready, this, &AppController::nodeAnswersReady);
+  connect(&preparer_, &NodePreparer::ready, this, [this](int node, const ResultCaches& answers) {
+    results_.caches().take(answers);
+    emit nodeAnswersReady(node);
+  });
   connect(&fileWorker_, &FileWorker::progressChanged, this, &AppController::fileProgressChanged);
   setStatus(tr("Ready"));
 }
@@ -234,20 +251,18 @@ QString AppController::readTextResource(const QString& path) {
 }
 
 Project AppController::projectWith(const QVariantMap& state) {
-  const int nodes = tree_.nodeCount();
-  const bool hasResults = outcome_.iterations > 0 || nodes > 0 || !outcome_.rootActions.isEmpty();
-  if (nodes > 0) {
-    results_.nodeHandStrategy(0);
-    results_.nodeHandCombos(0);
-    results_.nodeHandBuckets(0);
-    results_.nodeActionStats(0);
-  }
+  const bool hasResults =
+      outcome_.iterations > 0 || tree_.nodeCount() > 0 || !outcome_.rootActions.isEmpty();
   return {state, hasResults, outcome_, tree_, results_.caches(), nodeLockTable_, lastUiCfg_};
 }
 
 bool AppController::saveProject(const QUrl& fileUrl, const QVariantMap& projectState) {
   const LocalPath file = pathToSave(fileUrl);
-  return file.error.isEmpty() && writeProject(projectWith(projectState), file.path).isEmpty();
+  if (!file.error.isEmpty()) return false;
+  const Project project = withRootAnswers(projectWith(projectState), session_.solved_spot(),
+                                          results_.actionValues());
+  results_.caches() = project.caches;
+  return writeProject(project, file.path).isEmpty();
 }
 
 void AppController::saveProjectInBackground(const QUrl& fileUrl, const QVariantMap& projectState) {
@@ -262,8 +277,10 @@ void AppController::saveProjectInBackground(const QUrl& fileUrl, const QVariantM
   }
   const auto error = std::make_shared<QString>();
   fileWorker_.run(
-      [project = projectWith(projectState), path = file.path, error](
-          const FileWorker::Progress& progress) { *error = writeProject(project, path, progress); },
+      [project = projectWith(projectState), path = file.path, spot = session_.solved_spot(),
+       values = results_.actionValues(), error](const FileWorker::Progress& progress) {
+        *error = writeProject(withRootAnswers(project, spot, values), path, progress);
+      },
       [this, error] { emit projectSaved(error->isEmpty(), *error); });
 }
 
@@ -384,5 +401,6 @@ QVariantList AppController::nodeHandBuckets(int nodeIndex) {
 }
 
 void AppController::prepareNodeAnswers(int nodeIndex) {
-  preparer_.prepare(session_.solved_spot(), nodeIndex, results_.actionValues());
+  preparer_.prepare(nodeIndex, session_.solved_spot(), tree_, results_.actionValues(),
+                    results_.caches());
 }

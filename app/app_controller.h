@@ -168,7 +168,7 @@ class AppController : public QObject {
   void setProgress(double progress);
   void setStatus(const QString& text);
 
-  /// What a project file gets, with the answers about the root.
+  /// What a project file gets, with the answers that were given so far.
   Project projectWith(const QVariantMap& state);
   /// Replaces everything by a project that was read.
   QVariantMap adopt(const ProjectReading& reading, const QString& path);
@@ -185,7 +185,7 @@ class AppController : public QObject {
   TreeMirror tree_;
   NodeLockTable nodeLockTable_;
   QVariantMap lastUiCfg_;  ///< Of the latest start, refused or not.
-  ResultQueries results_{session_, tree_};
+  ResultQueries results_{[this] { return session_.solved_spot(); }, tree_};
   NodePreparer preparer_;
   const bool developerMode_;
   const int systemThreadCount_;

@@ -1,4 +1,4 @@
-// Walks the tree for a node's queries away from the window.
+// Answers a node's queries away from the window.
 #pragma once
 
 #include <atomic>
@@ -8,11 +8,10 @@
 #include <QObject>
 #include <QThreadPool>
 
-#include "action_values.h"
-#include "solve_session.h"
+#include "result_queries.h"
 
-/// Computes what the queries of a node need on a thread of its own, one node at a time. Only the
-/// node that was asked for last counts: an older one is given up.
+/// Answers what the pages ask of a node on a thread of its own, one node at a time. Only the node
+/// that was asked for last counts: an older one is given up.
 class NodePreparer : public QObject {
   Q_OBJECT
 
@@ -21,14 +20,15 @@ class NodePreparer : public QObject {
   /// Gives up what is under way and waits for its thread.
   ~NodePreparer() override;
 
-  /// Answers by `ready`, soon also where there is nothing to compute.
-  void prepare(const velmora_app::SolvedSpot& spot, int node,
-               const std::shared_ptr<velmora_app::ActionValues>& values);
+  /// Answers by `ready`, soon also where there is nothing to compute. `known` are the answers that
+  /// need no computing.
+  void prepare(int node, const velmora_app::SolvedSpot& spot, const TreeMirror& tree,
+               const std::shared_ptr<velmora_app::ActionValues>& values, const ResultCaches& known);
   /// Gives up what is under way; no `ready` comes of it.
   void giveUp() { ++newest_; }
 
  signals:
-  void ready(int node);
+  void ready(int node, const ResultCaches& answers);
 
  private:
   std::atomic<std::uint64_t> newest_ = 0;  ///< Number of the latest request.

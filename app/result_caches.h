@@ -18,4 +18,6 @@ struct ResultCaches {
   QMap<int, QVariantList> seatHandCombosIpCache;
 
   void clear() { *this = {}; }
+  /// Adds the answers of `other` that are not here.
+  void take(const ResultCaches& other);
 };

@@ -36,9 +36,17 @@ QString cardKey(const QString& card) {
 
 }  // namespace
 
+void ResultQueries::askAll(int nodeIndex) {
+  nodeActionStats(nodeIndex);
+  nodeHandStrategyReach169(nodeIndex, QString());
+  nodeHandStrategy(nodeIndex);
+  nodeHandCombos(nodeIndex);
+  nodeHandBuckets(nodeIndex);
+}
+
 QVariantMap ResultQueries::nodeHandStrategy(int nodeIndex) {
   return answerOf(caches_.handStrategyCache, nodeIndex, [&](std::uint64_t node) {
-    auto map = answerIn(velmora_app::query_hand_strategy(session_.solved_spot(), node));
+    auto map = answerIn(velmora_app::query_hand_strategy(spot_(), node));
     if (!map) return map;
     const qsizetype actions = map->value("actionNames").toList().size();
     map->insert("actionTypeList", actionTypes(nodeIndex, actions));
@@ -70,13 +78,13 @@ QVariantMap ResultQueries::nodeHandStrategyReach169(int nodeIndex, const QString
 
 QVariantList ResultQueries::nodeActionStats(int nodeIndex) {
   return answerOf(caches_.actionStatsCache, nodeIndex, [this](std::uint64_t node) {
-    return answerIn(velmora_app::query_action_stats(session_.solved_spot(), node, *values_));
+    return answerIn(velmora_app::query_action_stats(spot_(), node, *values_));
   });
 }
 
 QVariantList ResultQueries::nodeHandCombos(int nodeIndex) {
   return answerOf(caches_.handCombosCache, nodeIndex, [this](std::uint64_t node) {
-    return answerIn(velmora_app::query_hand_combos(session_.solved_spot(), node, *values_));
+    return answerIn(velmora_app::query_hand_combos(spot_(), node, *values_));
   });
 }
 
@@ -85,13 +93,13 @@ QVariantList ResultQueries::nodeSeatHandCombos(int nodeIndex, const QString& pla
   auto& cache =
       seat == velmora::kOop ? caches_.seatHandCombosOopCache : caches_.seatHandCombosIpCache;
   return answerOf(cache, nodeIndex, [&](std::uint64_t node) {
-    return answerIn(velmora_app::query_seat_hand_combos(session_.solved_spot(), node, seat));
+    return answerIn(velmora_app::query_seat_hand_combos(spot_(), node, seat));
   });
 }
 
 QVariantList ResultQueries::nodeHandBuckets(int nodeIndex) {
   QVariantList list = answerOf(caches_.handBucketsCache, nodeIndex, [this](std::uint64_t node) {
-    return answerIn(velmora_app::query_hand_buckets(session_.solved_spot(), node));
+    return answerIn(velmora_app::query_hand_buckets(spot_(), node));
   });
   // The names for display follow the language and are not kept.
   for (QVariant& entry : list) {
@@ -107,7 +115,7 @@ QVariantList ResultQueries::nodePocketActionEvs(int nodeIndex, const QString& pl
                                                 const QString& c1, const QString& c2) {
   if (nodeIndex < 0) return {};
   const velmora_app::PocketActionEvs record = velmora_app::query_pocket_action_evs(
-      session_.solved_spot(), static_cast<std::uint64_t>(nodeIndex), seatOf(player),
+      spot_(), static_cast<std::uint64_t>(nodeIndex), seatOf(player),
       c1.toStdString(), c2.toStdString(), *values_);
   if (record.ok) return variantOf(record);
   for (const QVariant& entry : caches_.handCombosCache.value(nodeIndex)) {

@@ -1,7 +1,9 @@
 // What the pages ask of a result, node by node.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include <QString>
 #include <QVariantList>
@@ -17,9 +19,12 @@
 /// an empty map or list and stores nothing. The answers are documented at `AppController`.
 class ResultQueries {
  public:
-  /// Both arguments must outlive the queries.
-  ResultQueries(const velmora_app::SolveSession& session, const TreeMirror& tree)
-      : session_(session), tree_(tree) {}
+  /// `spot` is asked for each answer that is not in the caches yet; `tree` must outlive the queries.
+  /// Queries that share `values` share the walks of the tree, on whichever threads they are.
+  ResultQueries(std::function<velmora_app::SolvedSpot()> spot, const TreeMirror& tree,
+                std::shared_ptr<velmora_app::ActionValues> values =
+                    std::make_shared<velmora_app::ActionValues>())
+      : spot_(std::move(spot)), tree_(tree), values_(std::move(values)) {}
 
   QVariantMap nodeHandStrategy(int nodeIndex);
   QVariantMap nodeHandStrategyReach169(int nodeIndex, const QString& bucketName);
@@ -30,18 +35,18 @@ class ResultQueries {
   QVariantList nodePocketActionEvs(int nodeIndex, const QString& player, const QString& c1,
                                    const QString& c2);
 
+  /// Asks everything that the pages show of a node, so that the caches know it.
+  void askAll(int nodeIndex);
+
   ResultCaches& caches() { return caches_; }
-  /// What `velmora_app::prepare_node` fills, on whichever thread, so that the queries of a node
-  /// walk no tree any more.
   const std::shared_ptr<velmora_app::ActionValues>& actionValues() const { return values_; }
 
  private:
   /// The keys of the actions of a node; "none" for each of `count` if the tree has another number.
   QVariantList actionTypes(int nodeIndex, qsizetype count) const;
 
-  const velmora_app::SolveSession& session_;
+  const std::function<velmora_app::SolvedSpot()> spot_;
   const TreeMirror& tree_;
   ResultCaches caches_;
-  std::shared_ptr<velmora_app::ActionValues> values_ =
-      std::make_shared<velmora_app::ActionValues>();
+  const std::shared_ptr<velmora_app::ActionValues> values_;
 };

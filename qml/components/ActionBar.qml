@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls
 import Velmora
 import "../logic/action_frequencies.js" as Frequencies
 
@@ -21,6 +20,8 @@ Item {
     readonly property real contentHeight: showLabels ? legend.y + legend.height : strip.height
 
     readonly property list<real> _shares: Frequencies.shares(actions)
+    /// The most actions so far: their lines of figures are kept.
+    property int _lineCount: 0
 
     signal actionClicked(index: int, name: string)
     signal actionHovered(index: int, name: string, frequency: real)
@@ -57,6 +58,7 @@ Item {
             actionClicked(index, _name(index))
     }
 
+    on_SharesChanged: _lineCount = Math.max(_lineCount, _shares.length)
     implicitWidth: 300
     implicitHeight: showLabels ? 40 : 24
     activeFocusOnTab: interactive
@@ -67,48 +69,16 @@ Item {
     Keys.onLeftPressed: _step(-1)
     Keys.onRightPressed: _step(1)
 
-    Canvas {
+    ActionStrip {
         id: strip
-
-        readonly property list<color> colors: Array.from(root._shares, (share, i) => root._color(i))
-        readonly property color trackColor: root.theme.surface2
-        readonly property int selectedAction: root.selectedAction
-        readonly property real cornerRadius: root.theme.radiusSm
-
-        function paintSegment(context: var, segment: var) {
-            Frequencies.trace(context, segment, height)
-            context.fillStyle = colors[segment.index]
-            context.fill()
-            if (segment.index === selectedAction) {
-                context.fillStyle = Qt.rgba(1, 1, 1, 0.92)
-                context.fillRect(segment.x + segment.leftRadius, height - 4,
-                                 segment.width - segment.leftRadius - segment.rightRadius, 2)
-            }
-            const percent = Frequencies.percentText(root._shares[segment.index])
-            const label = percent + "%"
-            if (segment.width > 35 && percent !== "0" && context.measureText(label).width + 8 <= segment.width) {
-                context.fillStyle = Qt.rgba(1, 1, 1, 0.92)
-                context.fillText(label, segment.x + segment.width / 2, height / 2)
-            }
-        }
 
         width: parent.width
         height: root.showLabels ? 20 : parent.height
-        onColorsChanged: requestPaint()
-        onTrackColorChanged: requestPaint()
-        onSelectedActionChanged: requestPaint()
-        onPaint: {
-            const context = getContext("2d")
-            context.reset()
-            context.font = "bold 10px sans-serif"
-            context.textAlign = "center"
-            context.textBaseline = "middle"
-            context.fillStyle = trackColor
-            context.roundedRect(0, 0, width, height, cornerRadius, cornerRadius)
-            context.fill()
-            for (const segment of Frequencies.segments(root._shares, width, height, cornerRadius))
-                paintSegment(context, segment)
-        }
+        theme: root.theme
+        type: root.type
+        shares: root._shares
+        colors: Array.from(root._shares, (share, i) => root._color(i))
+        marked: root.selectedAction
 
         FocusRing {
             theme: root.theme
@@ -136,58 +106,19 @@ Item {
         visible: root.showLabels
 
         Repeater {
-            model: root.showLabels ? root._shares.length : 0
+            model: root.showLabels ? root._lineCount : 0
 
-            Row {
-                id: line
-
+            ActionFigures {
                 required property int index
-                readonly property var action: root.actions[index] ?? ({})
 
-                height: 18
-                rightPadding: root.theme.space2Xl
-                spacing: root.theme.spaceSm
-
-                Rectangle {
-                    anchors.verticalCenter: line.verticalCenter
-                    width: 10
-                    height: 10
-                    radius: 2
-                    color: root._color(line.index)
-                }
-
-                Label {
-                    anchors.verticalCenter: line.verticalCenter
-                    text: root._name(line.index)
-                    color: root.theme.text
-                    font.pixelSize: root.type.labelMd
-                    font.weight: line.index === root.selectedAction ? root.type.weightBold : root.type.weightMedium
-                }
-
-                Label {
-                    anchors.verticalCenter: line.verticalCenter
-                    text: qsTr("%1%").arg(Frequencies.percentText(root._shares[line.index]))
-                    color: root.theme.text
-                    font.pixelSize: root.type.labelMd
-                    font.weight: root.type.weightBold
-                }
-
-                Repeater {
-                    model: [
-                        qsTr("%1 combos").arg(Frequencies.combosText(line.action.combos)),
-                        qsTr("%1% equity").arg(Frequencies.equityText(line.action.equity)),
-                        qsTr("%1 EV").arg(Frequencies.evText(line.action.ev))
-                    ]
-
-                    Label {
-                        required property string modelData
-
-                        anchors.verticalCenter: line.verticalCenter
-                        text: modelData
-                        color: root.theme.textMuted
-                        font.pixelSize: root.type.labelSm
-                    }
-                }
+                visible: index < root._shares.length
+                theme: root.theme
+                type: root.type
+                action: root.actions[index] ?? ({})
+                name: visible ? root._name(index) : ""
+                ink: visible ? root._color(index) : "transparent"
+                share: root._shares[index] ?? 0
+                selected: index === root.selectedAction
             }
         }
     }

@@ -63,25 +63,6 @@ function neighbour(shareList, from, step) {
     return from
 }
 
-/// Adds a segment to the path of a canvas context.
-function trace(context, segment, height) {
-    const left = segment.x
-    const right = segment.x + segment.width
-    const rl = segment.leftRadius
-    const rr = segment.rightRadius
-    context.beginPath()
-    context.moveTo(left + rl, 0)
-    context.lineTo(right - rr, 0)
-    context.arcTo(right, 0, right, rr, rr)
-    context.lineTo(right, height - rr)
-    context.arcTo(right, height, right - rr, height, rr)
-    context.lineTo(left + rl, height)
-    context.arcTo(left, height, left, height - rl, rl)
-    context.lineTo(left, rl)
-    context.arcTo(left, 0, left + rl, 0, rl)
-    context.closePath()
-}
-
 function percentText(share) {
     return String(Math.round(share * 100))
 }

@@ -146,7 +146,7 @@ TEST_F(ResultQueriesTest, DisplayNamesFollowTheLanguageAndAreNotKept) {
 TEST_F(ResultQueriesTest, AnswersFromTheCachesWithoutASolver) {
   const velmora_app::SolveSession session;
   const TreeMirror tree;
-  ResultQueries queries(session, tree);
+  ResultQueries queries([&session] { return session.solved_spot(); }, tree);
   const QVariantList combos{combo("Ac", "Kc", 0.5, {0.25, 0.75}, {"top pair", "flush draw"}),
                             combo("Ad", "Kd", 0, {1.0, 0.0}, {"top pair"})};
   const QVariantMap grid{{"actionTypeList", QVariantList{"check", "bet 50%"}}};

@@ -35,25 +35,17 @@ Card {
             }
         }
 
-        ListView {
+        RowListView {
             id: list
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            clip: true
-            spacing: root.theme.spaceXs
-            boundsBehavior: Flickable.StopAtBounds
-            activeFocusOnTab: true
+            theme: root.theme
             currentIndex: -1
-            model: root.view.buckets.length
-            Accessible.role: Accessible.List
+            rowCount: root.view.buckets.length
             Accessible.name: qsTr("Buckets")
             Keys.onSpacePressed: root.view.toggleBucketFilter(root.view.buckets[currentIndex]?.name ?? "")
             Keys.onReturnPressed: root.view.toggleBucketFilter(root.view.buckets[currentIndex]?.name ?? "")
-
-            ScrollBar.vertical: AppScrollBar {
-                theme: root.theme
-            }
 
             delegate: BucketRow {
                 required property int index

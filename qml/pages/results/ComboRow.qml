@@ -16,9 +16,12 @@ Rectangle {
     required property var actions
 
     readonly property var _evs: combo ? HandViews.comboEvTexts(combo, actions) : []
+    /// The most lines so far: they are kept.
+    property int _evCount: 0
     readonly property string _card1: combo?.c1 ?? ""
     readonly property string _card2: combo?.c2 ?? ""
 
+    on_EvsChanged: _evCount = Math.max(_evCount, _evs.length)
     implicitHeight: Math.max(52, evs.implicitHeight + 2 * theme.spaceXs)
     radius: theme.radiusXs
     color: theme.surface2
@@ -62,11 +65,12 @@ Rectangle {
             id: evs
 
             Repeater {
-                model: root._evs.length
+                model: root._evCount
 
                 Label {
                     required property int index
 
+                    visible: index < root._evs.length
                     text: root._evs[index]?.text ?? ""
                     color: root._evs[index]?.actionType ? root.theme.actionColor(root._evs[index].actionType) : root.theme.text
                     font.family: root.theme.monoFamily

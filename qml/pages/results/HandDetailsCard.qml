@@ -73,23 +73,14 @@ Card {
             wrapMode: Text.Wrap
         }
 
-        ListView {
+        RowListView {
             id: list
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            clip: true
-            spacing: root.theme.spaceXs
-            boundsBehavior: Flickable.StopAtBounds
-            activeFocusOnTab: true
-            reuseItems: true
-            model: root.view.loading ? 0 : root.view.visibleHandCombos.length
-            Accessible.role: Accessible.List
+            theme: root.theme
+            rowCount: root.view.loading ? 0 : root.view.visibleHandCombos.length
             Accessible.name: qsTr("Hand Details")
-
-            ScrollBar.vertical: AppScrollBar {
-                theme: root.theme
-            }
 
             delegate: ComboRow {
                 required property int index

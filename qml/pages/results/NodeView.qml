@@ -17,6 +17,8 @@ QtObject {
     readonly property int node: walk.currentNodeIndex
     readonly property bool isChance: walk.currentMeta.nodeType === "chance"
     property bool loading: false
+    /// Whether it has taken so long that the window should say so. Most nodes are there before.
+    property bool waiting: false
 
     // Filters
     property string selectedHandClass: ""
@@ -52,6 +54,14 @@ QtObject {
         }
     }
 
+    readonly property Timer _waitTimer: Timer {
+        interval: 120
+        onTriggered: {
+            root.currentActions = root.isChance ? [root._chanceAction()] : root.controller.nodeActions(root.node)
+            root.waiting = true
+        }
+    }
+
     readonly property Connections _answers: Connections {
         function onNodeAnswersReady(node) {
             if (node === root.node)
@@ -69,7 +79,8 @@ QtObject {
         selectedBucket = selectedBucket === bucket ? "" : bucket
     }
 
-    /// Starts to look at the node on view: what is known at once shows, the rest when it is ready.
+    /// Starts to look at the node on view. The views change when its figures are ready; what is known
+    /// at once shows if that takes a while.
     function look() {
         selectedHandClass = ""
         selectedBucket = ""
@@ -77,12 +88,12 @@ QtObject {
         _combosTimer.stop()
         _handCombosLoading = true
         _loadedHandCombos = []
-        currentActions = isChance ? [_chanceAction()] : controller.nodeActions(node)
         if (controller.treeNodeCount() === 0) {
             _showAnswers()
             return
         }
         loading = true
+        _waitTimer.restart()
         controller.prepareNodeAnswers(node)
     }
 
@@ -110,7 +121,10 @@ QtObject {
         handActionProbs = probabilities
     }
 
+    /// The actions that a hand chooses from; a dealt card is nobody's choice.
     function _definitions(): var {
+        if (isChance)
+            return []
         const stats = controller.nodeActionStats(node)
         return stats.length > 0 ? stats : controller.nodeActions(node)
     }
@@ -125,6 +139,8 @@ QtObject {
 
     function _showAnswers() {
         loading = false
+        _waitTimer.stop()
+        waiting = false
         currentActions = isChance ? [_chanceAction()] : _definitions()
         refreshHandMatrix()
         buckets = controller.nodeHandBuckets(node)

@@ -34,7 +34,7 @@ ColumnLayout {
         cellSize: 28
         weightDisplayMode: "verticalFill"
         selectable: true
-        opacity: root.view.loading ? 0.5 : 1
+        opacity: root.view.waiting ? 0.5 : 1
         weights: root.view.handWeights
         colors: root.view.handColors
         actionTypes: root.view.handActionTypeList
@@ -48,7 +48,7 @@ ColumnLayout {
 
         BusyLabel {
             anchors.centerIn: parent
-            visible: root.view.loading
+            visible: root.view.waiting
             theme: root.theme
             type: root.type
         }

@@ -1,0 +1,38 @@
+import QtQuick
+import QtQuick.Controls
+import Velmora
+
+/// A list of `rowCount` rows, whose delegates take their data by `index`. Rows come and go at the
+/// end, so that a delegate lives on when the data under it changes, and those that are not needed
+/// wait for the next longer list.
+ListView {
+    id: root
+
+    property Theme theme: Fallback.theme
+    property int rowCount: 0
+
+    function _fitRows() {
+        if (rows.count > rowCount)
+            rows.remove(rowCount, rows.count - rowCount)
+        else if (rows.count < rowCount)
+            rows.append(Array.from({ length: rowCount - rows.count }, () => ({ row: 0 })))
+    }
+
+    clip: true
+    boundsBehavior: Flickable.StopAtBounds
+    activeFocusOnTab: true
+    reuseItems: true
+    spacing: theme.spaceXs
+    Accessible.role: Accessible.List
+
+    model: ListModel {
+        id: rows
+    }
+
+    ScrollBar.vertical: AppScrollBar {
+        theme: root.theme
+    }
+
+    onRowCountChanged: _fitRows()
+    Component.onCompleted: _fitRows()
+}
