@@ -26,11 +26,15 @@ function chanceIndexByCard(actions) {
 }
 
 /// The action that a card leads to, or -1. Suits that the board does not hold may be alike, and the
-/// tree then keeps one of them: another such suit of the rank stands for the card.
+/// tree then keeps one of them: another such suit of the rank stands for the card. A card that the
+/// board shows, if only in place of another, can't be dealt again.
 function chanceCardIndexForSelection(card, indexByCard, boardText) {
+    const used = BoardText.usedCards(boardText)
+    if (used.includes(card))
+        return -1
     if (indexByCard[card] !== undefined)
         return indexByCard[card]
-    const present = BoardText.usedCards(boardText).map(used => used.charAt(1))
+    const present = used.map(shown => shown.charAt(1))
     const absent = CardNames.SUITS.filter(suit => !present.includes(suit))
     if (absent.length < 2 || !absent.includes(card.charAt(1)))
         return -1

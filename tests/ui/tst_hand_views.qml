@@ -88,6 +88,7 @@ TestCase {
             { tag: "the other absent suit", card: "Kc", board: "QsJh2h", index: 0 },
             { tag: "a suit of the board", card: "Ks", board: "QsJh2h", index: -1 },
             { tag: "one suit absent", card: "Kc", board: "QsJh2d", index: -1 },
+            { tag: "on the board in place of another", card: "Kd", board: "QsJh2hKd", index: -1 },
             { tag: "rank not listed", card: "3c", board: "QsJh2h", index: -1 }
         ]
     }
