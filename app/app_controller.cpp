@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QDebug>
 #include <QDesktopServices>
 #include <QTimer>
@@ -13,9 +14,11 @@
 #include "project_writer.h"
 #include "result_variants.h"
 #include "showdown.h"
+#include "solve_activity.h"
 #include "solve_config_map.h"
 #include "solve_request.h"
 #include "text_files.h"
+#include "trainer_stats.h"
 
 using velmora_app::SolveConfig;
 using velmora_app::SolveProgress;
@@ -191,6 +194,8 @@ void AppController::handleSolveProgress(const SolveProgress& report) {
   dropResult();
   outcome_ = outcomeOf(result);
   if (result.success) {
+    SolveActivity::record(QDate::currentDate(), outcome_.iterations, outcome_.exploitability);
+    emit solveStatsChanged();
     tree_.set(result.nodes, result.effective_stack);
     memory_.noteResultsHeld();
     emit systemMemoryChanged();
@@ -236,6 +241,28 @@ void AppController::clearResults() {
 
 void AppController::requestSolveMemoryEstimate(const QVariantMap& cfg) {
   memory_.requestEstimate(cfg);
+}
+
+QVariantList AppController::solveActivityGridLastYear() {
+  return SolveActivity::gridOfYear(QDate::currentDate());
+}
+
+int AppController::solvesToday() {
+  return SolveActivity::solvesOn(QDate::currentDate());
+}
+
+void AppController::recordPlayVsSolutionHand(bool isMistake, double evLoss) {
+  TrainerStats::record(QDate::currentDate(), isMistake, evLoss);
+  emit playVsSolutionStatsChanged();
+}
+
+QVariantMap AppController::playVsSolutionStats() {
+  return TrainerStats::figures(QDate::currentDate());
+}
+
+void AppController::clearPlayVsSolutionStats() {
+  TrainerStats::clear();
+  emit playVsSolutionStatsChanged();
 }
 
 void AppController::openLicensesFolder() {

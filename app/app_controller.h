@@ -99,6 +99,17 @@ class AppController : public QObject {
   Q_INVOKABLE void clearResults();
   /// Answers by `solveRequiredMemoryChanged`.
   Q_INVOKABLE void requestSolveMemoryEstimate(const QVariantMap& cfg);
+  /// The solves of the last 52 weeks as the cells of a calendar, a week after the other from Monday
+  /// to Sunday: "isPadding", "date" (ISO), "isFuture", "solves", "avgIterations" and
+  /// "avgExploitability" (chips).
+  Q_INVOKABLE QVariantList solveActivityGridLastYear();
+  Q_INVOKABLE int solvesToday();
+  /// Counts a trainer hand. `evLoss` is in chips, not a number for a hand without a mistake.
+  Q_INVOKABLE void recordPlayVsSolutionHand(bool isMistake, double evLoss);
+  /// "totalHands", "totalMistakes", "totalAccuracyPct" (0..100), "totalAvgEvLoss" (chips a hand),
+  /// and the same of this day under "today...".
+  Q_INVOKABLE QVariantMap playVsSolutionStats();
+  Q_INVOKABLE void clearPlayVsSolutionStats();
   Q_INVOKABLE void openLicensesFolder();
   Q_INVOKABLE void openThirdPartyNotices();
   Q_INVOKABLE QString readTextResource(const QString& path);
