@@ -8,11 +8,46 @@ ScrollPage {
 
     required property var controller
     property var projectStateProvider
+    property var solveActivityGrid: []
+    property var playVsSolutionStats: ({})
 
     signal newProject
     signal quickSolve
     signal importRange
     signal projectLoaded(var projectState, bool hasResults)
+
+    function reloadSolveActivity() {
+        solveActivityGrid = controller.solveActivityGridLastYear()
+    }
+
+    function reloadPlayVsSolutionStats() {
+        playVsSolutionStats = controller.playVsSolutionStats()
+    }
+
+    Component.onCompleted: {
+        reloadSolveActivity()
+        reloadPlayVsSolutionStats()
+    }
+
+    // Another day may have begun since the page showed last.
+    onVisibleChanged: {
+        if (visible) {
+            reloadSolveActivity()
+            reloadPlayVsSolutionStats()
+        }
+    }
+
+    Connections {
+        function onSolveStatsChanged() {
+            root.reloadSolveActivity()
+        }
+
+        function onPlayVsSolutionStatsChanged() {
+            root.reloadPlayVsSolutionStats()
+        }
+
+        target: root.controller
+    }
 
     ProjectFiles {
         id: files
@@ -54,14 +89,13 @@ ScrollPage {
             onImportRange: root.importRange()
         }
 
-        RoomCard {
+        TrainerStatsCard {
             Layout.fillWidth: true
             Layout.fillHeight: true
             theme: root.theme
             type: root.type
-            iconName: "gamepad"
-            title: qsTr("Play vs. Solution")
-            note: qsTr("No hands played yet.")
+            stats: root.playVsSolutionStats
+            onClearRequested: root.controller.clearPlayVsSolutionStats()
         }
 
         SystemCard {
@@ -72,14 +106,10 @@ ScrollPage {
         }
     }
 
-    RoomCard {
+    SolveActivityCard {
         Layout.fillWidth: true
         theme: root.theme
         type: root.type
-        iconName: "calendar"
-        title: qsTr("Solve Activity")
-        note: root.controller.resultIterations > 0
-              ? qsTr("Last solve: %1").arg(root.controller.resultsSummary)
-              : qsTr("No solve in this session yet.")
+        cells: root.solveActivityGrid
     }
 }
