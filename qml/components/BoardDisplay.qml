@@ -18,6 +18,8 @@ Item {
     property bool compact: false
     property real cardScale: 1
     property real horizontalPadding: compact ? 0 : 10
+    /// Whether a new card turns into view.
+    property bool animated: false
 
     readonly property list<string> cards: BoardText.shownCards(boardText)
     readonly property int cardCount: BoardText.usedCards(boardText).length
@@ -49,14 +51,17 @@ Item {
     Accessible.description: streetLabel()
 
     component Slot: PlayingCard {
+        id: slot
+
         required property int index
 
         readonly property bool clickable: root.editable
             && (!root.clickableIndices || root.clickableIndices.includes(index)) && !disabled
+        readonly property string card: root.cards[index]
 
         theme: root.theme
-        rank: root.cards[index][0] ?? ""
-        suit: root.cards[index][1] ?? ""
+        rank: card.charAt(0)
+        suit: card.charAt(1)
         mini: root.compact
         sizeScale: root.cardScale
         hoverable: clickable
@@ -65,6 +70,26 @@ Item {
         onClicked: {
             if (clickable)
                 root.cardClicked(index)
+        }
+        onCardChanged: {
+            if (root.animated && card !== "")
+                turning.restart()
+        }
+        transform: Scale {
+            id: turn
+
+            origin.x: slot.width / 2
+        }
+
+        NumberAnimation {
+            id: turning
+
+            target: turn
+            property: "xScale"
+            from: 0
+            to: 1
+            duration: root.theme.durationSlow
+            easing.type: Easing.OutCubic
         }
     }
 

@@ -14,13 +14,38 @@ function boardWithCards(boardText, cards) {
     return cards.reduce((board, card) => board + BoardText.normalizeCard(card), String(boardText).replace(/\s+/g, ""))
 }
 
-/// Action index by card text, for the actions of a chance node. `actions` is a list with `name`,
-/// addressed by index and length only.
-function chanceIndexByCard(actions) {
+/// Which suit stands for each suit of the tree on a shown board. `dealt` are the dealt cards so far,
+/// each as the tree names it and as it is `shown`: a suit that was picked for another one of its kind
+/// trades places with it from there on.
+function shownSuits(dealt) {
+    const suits = {}
+    CardNames.SUITS.forEach(suit => suits[suit] = suit)
+    for (const card of dealt) {
+        const before = suits[BoardText.normalizeCard(card.name).charAt(1)]
+        const now = BoardText.normalizeCard(card.shown).charAt(1)
+        for (const suit of CardNames.SUITS)
+            suits[suit] = suits[suit] === before ? now : suits[suit] === now ? before : suits[suit]
+    }
+    return suits
+}
+
+/// A card of the tree as it is shown where `suits` stand for each other.
+function shownCard(card, suits) {
+    return card === "" ? "" : card.charAt(0) + suits[card.charAt(1)]
+}
+
+/// A shown card as the tree names it.
+function treeCard(card, suits) {
+    return card === "" ? "" : card.charAt(0) + CardNames.SUITS.find(suit => suits[suit] === card.charAt(1))
+}
+
+/// Action index by shown card text, for the actions of a chance node. `actions` is a list with `name`,
+/// addressed by index and length only; `suits` is that of `shownSuits`.
+function chanceIndexByCard(actions, suits) {
     const indices = {}
     for (let i = 0; i < actions.length; ++i) {
         if (isCardName(actions[i].name))
-            indices[BoardText.normalizeCard(actions[i].name)] = i
+            indices[shownCard(BoardText.normalizeCard(actions[i].name), suits)] = i
     }
     return indices
 }

@@ -18,8 +18,10 @@ FocusScope {
     readonly property alias walk: walk_
     readonly property alias view: view_
     readonly property alias locks: locks_
+    readonly property alias play: play_
 
     function _showNewResults() {
+        play_.playMode = false
         walk_.resetTreeToRoot()
         view_.look()
     }
@@ -31,6 +33,11 @@ FocusScope {
             root._showNewResults()
         }
 
+        function onRunningChanged() {
+            if (root.controller.running)
+                play_.playMode = false
+        }
+
         target: root.controller
     }
 
@@ -39,6 +46,8 @@ FocusScope {
 
         controller: root.controller
         boardText: root.boardText
+        locked: play_.playMode
+        entersTerminals: play_.playMode
     }
 
     NodeLocks {
@@ -55,6 +64,31 @@ FocusScope {
         theme: root.theme
         walk: walk_
         locks: locks_
+        paused: play_.playMode
+    }
+
+    PlayScores {
+        id: scores_
+
+        controller: root.controller
+        walk: walk_
+    }
+
+    PlayLog {
+        id: playLog_
+
+        controller: root.controller
+        rakePercent: root.rakePercent
+        rakeCap: root.rakeCap
+    }
+
+    PlaySession {
+        id: play_
+
+        controller: root.controller
+        walk: walk_
+        scores: scores_
+        log: playLog_
     }
 
     SplitView {
@@ -82,6 +116,7 @@ FocusScope {
             walk: walk_
             view: view_
             locks: locks_
+            play: play_
         }
     }
 }

@@ -92,6 +92,22 @@ TestCase {
         shell.applyProjectState(spot)
     }
 
+    /// Solves the spot of a turn whose river may map diamonds and clubs to each other, and gives the
+    /// page that shows the result.
+    function solvedTurnPage(): Item {
+        setRiverSpot()
+        shell.applyProjectState({
+            boardText: "QsJh2h3s", startingStreet: "turn", maxIterations: 50, targetExploitability: 0.01,
+            oopRangeText: "AA,KK,AKs,KTs,QJs,T9s,98s", ipRangeText: "AK,QQ,JJ,A5s,T9s,87s"
+        })
+        tryVerify(() => shell.canSolve, 10000)
+        keyClick(Qt.Key_F5)
+        tryVerify(() => !controller.running && controller.resultIterations > 0, 60000)
+        keyClick(Qt.Key_4, Qt.ControlModifier)
+        compare(shell.navIndex, 3)
+        return Find.withProperties(window.contentItem, "walk", "locks", "rakeCap")
+    }
+
     function _isInside(item: Item, ancestor: Item): bool {
         for (let candidate = item; candidate; candidate = candidate.parent) {
             if (candidate === ancestor)

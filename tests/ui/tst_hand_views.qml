@@ -94,7 +94,7 @@ TestCase {
     }
 
     function test_chance_cards(data) {
-        const byCard = Walk.chanceIndexByCard([{ name: "Kd" }, { name: "Check" }, { name: "4h" }])
+        const byCard = Walk.chanceIndexByCard([{ name: "Kd" }, { name: "Check" }, { name: "4h" }], Walk.shownSuits([]))
         compare(byCard, { Kd: 0, "4h": 2 })
         compare(Walk.chanceCardIndexForSelection(data.card, byCard, data.board), data.index)
     }

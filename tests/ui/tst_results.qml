@@ -14,17 +14,7 @@ MainWindowCase {
     readonly property var locks: results?.locks
 
     function solveTurnSpot() {
-        setRiverSpot()
-        shell.applyProjectState({
-            boardText: "QsJh2h3s", startingStreet: "turn", maxIterations: 50, targetExploitability: 0.01,
-            oopRangeText: "AA,KK,AKs,KTs,QJs,T9s,98s", ipRangeText: "AK,QQ,JJ,A5s,T9s,87s"
-        })
-        tryVerify(() => shell.canSolve, 10000)
-        keyClick(Qt.Key_F5)
-        tryVerify(() => !controller.running && controller.resultIterations > 0, 60000)
-        keyClick(Qt.Key_4, Qt.ControlModifier)
-        compare(shell.navIndex, 3)
-        results = Find.withProperties(window.contentItem, "walk", "locks", "rakeCap")
+        results = solvedTurnPage()
         settle()
     }
 

@@ -20,16 +20,20 @@ AppDialog {
 
     readonly property real _rowWidth: 22 + 6 + 13 * 32 + 12 * 3
 
+    /// The walk has moved to a card.
+    signal cardDealt
+
     function openChancePicker(levelIndex: int, nodeIndex: int) {
         title = walk.nodeMeta(nodeIndex).chanceDeal === "river" ? qsTr("Choose River Card") : qsTr("Choose Turn Card")
         chancePickerLevelIndex = levelIndex
-        chancePickerIndexByCard = Walk.chanceIndexByCard(walk.nodeActions(nodeIndex))
+        chancePickerIndexByCard = Walk.chanceIndexByCard(walk.nodeActions(nodeIndex), walk.suitsAt(levelIndex))
         chancePickerBoardText = walk.boardAt(levelIndex)
         open()
     }
 
     function chooseChanceCard(actionIndex: int, displayCardText: string) {
         walk.chooseChanceCard(chancePickerLevelIndex, actionIndex, displayCardText)
+        cardDealt()
         close()
     }
 

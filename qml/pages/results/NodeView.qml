@@ -19,6 +19,8 @@ QtObject {
     property bool loading: false
     /// Whether it has taken so long that the window should say so. Most nodes are there before.
     property bool waiting: false
+    /// While it is true nobody looks: steps of the walk ask for nothing.
+    property bool paused: false
 
     // Filters
     property string selectedHandClass: ""
@@ -82,6 +84,8 @@ QtObject {
     /// Starts to look at the node on view. The views change when its figures are ready; what is known
     /// at once shows if that takes a while.
     function look() {
+        if (paused)
+            return
         selectedHandClass = ""
         selectedBucket = ""
         handSearchText = ""
@@ -153,5 +157,6 @@ QtObject {
     }
 
     onNodeChanged: look()
+    onPausedChanged: look()
     onSelectedBucketChanged: refreshHandMatrix()
 }

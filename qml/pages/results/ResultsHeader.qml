@@ -12,6 +12,7 @@ RowLayout {
     property Typography type: Fallback.type
     required property var controller
     required property TreeWalk walk
+    required property PlaySession play
 
     readonly property color _seatColor: walk.selectedPlayer === "IP" ? theme.info : theme.actionBet
     readonly property bool _decision: walk.currentMeta.nodeType === "decision"
@@ -29,7 +30,7 @@ RowLayout {
     BoardDisplay {
         theme: root.theme
         type: root.type
-        boardText: root.walk.treeBoardText
+        boardText: root.play.playMode && root.play.playBoardText ? root.play.playBoardText : root.walk.treeBoardText
         compact: true
     }
 
@@ -59,6 +60,16 @@ RowLayout {
 
     Item {
         Layout.fillWidth: true
+    }
+
+    SecondaryButton {
+        Layout.preferredWidth: 140
+        theme: root.theme
+        type: root.type
+        text: root.play.playMode ? qsTr("Range view") : qsTr("Play vs solution")
+        leftPadding: root.theme.spaceSm
+        rightPadding: root.theme.spaceSm
+        onClicked: root.play.playMode = !root.play.playMode
     }
 
     StatCard {

@@ -3,7 +3,8 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Velmora
 
-/// How the node on view is played: figures by action, the grid, the categories and the combos.
+/// How the node on view is played: figures by action, the grid, the categories and the combos. In play
+/// mode the table stands in their place.
 Card {
     id: root
 
@@ -12,6 +13,7 @@ Card {
     required property TreeWalk walk
     required property NodeView view
     required property NodeLocks locks
+    required property PlaySession play
 
     padding: theme.spaceXs
 
@@ -22,7 +24,8 @@ Card {
         margins: root.theme.spaceSm
         fillsHeight: true
         spacing: root.theme.spaceMd
-        minimumContentWidth: strategy.implicitWidth + 260 + 250 + 2 * 20 + 2 * margins
+        minimumContentWidth: 2 * margins + (root.play.playMode ? trainer.Layout.minimumWidth
+                                                               : strategy.implicitWidth + 260 + 250 + 2 * 20)
 
         ResultsHeader {
             Layout.fillWidth: true
@@ -30,9 +33,23 @@ Card {
             type: root.type
             controller: root.controller
             walk: root.walk
+            play: root.play
+        }
+
+        PlayPanel {
+            id: trainer
+
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            visible: root.play.playMode
+            theme: root.theme
+            type: root.type
+            walk: root.walk
+            play: root.play
         }
 
         Label {
+            visible: !root.play.playMode
             text: qsTr("Action Frequencies")
             color: root.theme.text
             font.pixelSize: root.type.bodyMd
@@ -43,6 +60,7 @@ Card {
         ActionBar {
             Layout.fillWidth: true
             Layout.preferredHeight: Math.max(60, contentHeight)
+            visible: !root.play.playMode
             theme: root.theme
             type: root.type
             actions: root.view.actionFrequenciesActions
@@ -51,6 +69,7 @@ Card {
         RowLayout {
             Layout.fillWidth: true
             Layout.fillHeight: true
+            visible: !root.play.playMode
             spacing: 20
 
             StrategyColumn {

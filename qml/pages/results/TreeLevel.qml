@@ -26,6 +26,8 @@ Column {
 
     /// Takes an action where one can be taken, and goes back to the choice elsewhere.
     function choose(actionIndex: int) {
+        if (walk.locked)
+            return
         if (last && !decided)
             walk.selectActionAtLevel(index, actionIndex)
         else
@@ -33,6 +35,8 @@ Column {
     }
 
     function chooseCard() {
+        if (walk.locked)
+            return
         if (last && !decided)
             cardWanted()
         else

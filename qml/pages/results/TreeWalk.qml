@@ -16,6 +16,10 @@ QtObject {
     property string treeBoardText: ""
     /// By node index: the card that the user picked, where the tree keeps another suit for it.
     property var chanceCardDisplayOverrideByNode: ({})
+    /// While it is true the column that shows the walk takes no choices.
+    property bool locked: false
+    /// Whether a step into a terminal node adds a level. It has no strategy to show.
+    property bool entersTerminals: false
 
     /// Goes up with each new tree: what the controller says of nodes comes by calls, which tell
     /// nobody that their answer changed.
@@ -49,8 +53,8 @@ QtObject {
             return
         treeLevels.setProperty(levelIndex, "selectedActionIndex", actionIndex)
         const child = actions[actionIndex].childIndex
-        // A terminal node has no strategy to show: the walk stops at the action.
-        if (child >= 0 && child < controller.treeNodeCount() && nodeMeta(child).nodeType !== "terminal")
+        if (child >= 0 && child < controller.treeNodeCount()
+                && (entersTerminals || nodeMeta(child).nodeType !== "terminal"))
             _enter(child)
         rebuildBreadcrumbs()
     }
@@ -66,26 +70,27 @@ QtObject {
         rebuildBreadcrumbs()
     }
 
-    /// Deals a card at the last level. The board shows the card that was picked, also where the tree
-    /// follows another suit.
+    /// Deals a card at a level, in place of what came there and after. The board shows the card that
+    /// was picked, also where the tree follows another suit.
     function chooseChanceCard(levelIndex: int, actionIndex: int, displayCardText: string) {
+        if (levelIndex !== treeLevels.count - 1 || treeLevels.get(levelIndex).selectedActionIndex >= 0)
+            navigateToBreadcrumb(levelIndex)
         const node = treeLevels.get(levelIndex).nodeIndex
         const actions = nodeActions(node)
         if (actionIndex < 0 || actionIndex >= actions.length)
             return
         const overrides = Object.assign({}, chanceCardDisplayOverrideByNode)
-        overrides[String(node)] = displayCardText.length === 2 ? displayCardText : actions[actionIndex].name
+        overrides[String(node)] = displayCardText.length === 2 ? displayCardText
+                                  : Walk.shownCard(actions[actionIndex].name, suitsAt(levelIndex))
         chanceCardDisplayOverrideByNode = overrides
         selectActionAtLevel(levelIndex, actionIndex)
     }
 
     /// The name of the action chosen at a level, the picked card at a chance node; "" while undecided.
     function chosenNameAt(levelIndex: int): string {
-        const level = treeLevels.get(levelIndex)
-        if (level.selectedActionIndex < 0)
-            return ""
-        const name = nodeActions(level.nodeIndex)[level.selectedActionIndex]?.name ?? ""
-        return Walk.isCardName(name) ? chanceCardDisplayOverrideByNode[String(level.nodeIndex)] ?? name : name
+        const name = _treeNameAt(levelIndex)
+        return Walk.isCardName(name)
+               ? chanceCardDisplayOverrideByNode[String(treeLevels.get(levelIndex).nodeIndex)] ?? name : name
     }
 
     /// The board before the choice at a level.
@@ -99,6 +104,17 @@ QtObject {
         return Walk.boardWithCards(boardText, cards)
     }
 
+    /// Which suit stands for each suit of the tree before the choice at a level.
+    function suitsAt(levelIndex: int): var {
+        const dealt = []
+        for (let level = 0; level < levelIndex; ++level) {
+            const shown = chosenNameAt(level)
+            if (Walk.isCardName(shown))
+                dealt.push({ name: _treeNameAt(level), shown: shown })
+        }
+        return Walk.shownSuits(dealt)
+    }
+
     function rebuildBreadcrumbs() {
         const path = [qsTr("Root")]
         for (let level = 0; level < treeLevels.count; ++level) {
@@ -107,6 +123,11 @@ QtObject {
         }
         nodePath = path
         treeBoardText = boardAt(treeLevels.count)
+    }
+
+    function _treeNameAt(levelIndex: int): string {
+        const level = treeLevels.get(levelIndex)
+        return nodeActions(level.nodeIndex)[level.selectedActionIndex]?.name ?? ""
     }
 
     function _enter(node: int) {
