@@ -18,6 +18,7 @@ Item {
     property bool compact: false
     property real cardScale: 1
     property real horizontalPadding: compact ? 0 : 10
+    property color labelColor: theme.textMuted
     /// Whether a new card turns into view.
     property bool animated: false
 
@@ -102,7 +103,7 @@ Item {
         Text {
             visible: !root.compact
             text: root.streetLabel()
-            color: root.theme.textMuted
+            color: root.labelColor
             font.family: root.theme.uiFamily
             font.pixelSize: root.type.labelSm
             font.weight: root.type.weightMedium

@@ -99,6 +99,10 @@ MainWindowCase {
             else
                 keyClick(Qt.Key_Return)
             verify(!play.playHandComplete)
+            // Return goes on from the end of a hand only.
+            untilItRests()
+            keyClick(Qt.Key_Return)
+            verify(play.playAwaitingUserAction)
         }
         const stats = controller.playVsSolutionStats()
         compare([stats.totalHands, stats.totalMistakes, stats.todayHands], [4, 0, 4])

@@ -17,6 +17,10 @@ RowLayout {
     readonly property color _seatColor: walk.selectedPlayer === "IP" ? theme.info : theme.actionBet
     readonly property bool _decision: walk.currentMeta.nodeType === "decision"
 
+    /// Whether the figures of the solve have room. The table of play mode does without them rather than
+    /// scroll sideways.
+    readonly property bool _roomy: !play.playMode || width >= 900
+
     spacing: theme.spaceMd
 
     Label {
@@ -69,10 +73,12 @@ RowLayout {
         text: root.play.playMode ? qsTr("Range view") : qsTr("Play vs solution")
         leftPadding: root.theme.spaceSm
         rightPadding: root.theme.spaceSm
+        font.pixelSize: root.type.bodySm
         onClicked: root.play.playMode = !root.play.playMode
     }
 
     StatCard {
+        visible: root._roomy
         theme: root.theme
         type: root.type
         compact: true
@@ -82,6 +88,7 @@ RowLayout {
     }
 
     StatCard {
+        visible: root._roomy
         theme: root.theme
         type: root.type
         compact: true
@@ -91,6 +98,7 @@ RowLayout {
     }
 
     StatCard {
+        visible: root._roomy
         theme: root.theme
         type: root.type
         compact: true

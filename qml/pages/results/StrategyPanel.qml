@@ -29,6 +29,7 @@ Card {
 
         ResultsHeader {
             Layout.fillWidth: true
+            Layout.minimumWidth: 0
             theme: root.theme
             type: root.type
             controller: root.controller

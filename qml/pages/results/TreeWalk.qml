@@ -127,6 +127,9 @@ QtObject {
 
     function _treeNameAt(levelIndex: int): string {
         const level = treeLevels.get(levelIndex)
+        // A row of the column may look once more while its level goes.
+        if (!level)
+            return ""
         return nodeActions(level.nodeIndex)[level.selectedActionIndex]?.name ?? ""
     }
 

@@ -13,37 +13,50 @@ Card {
     /// What `Hand.buildPlayHandDetails` makes.
     required property var details
 
-    readonly property int _columnWidth: Math.max(170, Math.floor((area.width - 4 * _gap) / 5))
-    readonly property int _gap: 2 * theme.spaceMd + 1
+    /// The width at which nothing has to scroll.
+    readonly property int fullWidth: 5 * _minimumColumnWidth
+    readonly property int _minimumColumnWidth: 170
+    readonly property int _columnWidth: Math.max(_minimumColumnWidth, Math.floor(area.width / 5))
 
     signal closeRequested
 
-    padding: theme.spaceMd
+    topPadding: theme.spaceMd
+    bottomPadding: theme.spaceMd
+    leftPadding: 0
+    rightPadding: 0
 
-    component Column5: ColumnLayout {
-        id: column
+    component Section: Item {
+        id: section
 
         property string title: ""
+        property bool divided: true
+        default property alias content: column.data
 
-        Layout.preferredWidth: root._columnWidth
-        Layout.maximumWidth: root._columnWidth
-        Layout.fillHeight: true
-        spacing: root.theme.spaceSm
+        width: root._columnWidth
+        height: area.height
 
-        Label {
-            text: column.title
-            color: root.theme.textMuted
-            font.pixelSize: root.type.labelMd
-            font.weight: root.type.weightSemibold
+        Rectangle {
+            width: 1
+            height: parent.height
+            visible: section.divided
+            color: root.theme.stroke
         }
-    }
 
-    component Divider: Rectangle {
-        Layout.preferredWidth: 1
-        Layout.fillHeight: true
-        Layout.leftMargin: root.theme.spaceMd
-        Layout.rightMargin: root.theme.spaceMd
-        color: root.theme.stroke
+        ColumnLayout {
+            id: column
+
+            anchors.fill: parent
+            anchors.leftMargin: root.theme.spaceMd
+            anchors.rightMargin: root.theme.spaceSm
+            spacing: root.theme.spaceSm
+
+            Label {
+                text: section.title
+                color: root.theme.textMuted
+                font.pixelSize: root.type.labelMd
+                font.weight: root.type.weightSemibold
+            }
+        }
     }
 
     component Cards: Row {
@@ -92,7 +105,7 @@ Card {
         }
     }
 
-    component Street: Column5 {
+    component Street: Section {
         id: street
 
         property list<string> cards
@@ -130,6 +143,8 @@ Card {
 
         RowLayout {
             Layout.fillWidth: true
+            Layout.leftMargin: root.theme.spaceMd
+            Layout.rightMargin: root.theme.spaceMd
 
             CardTitle {
                 Layout.fillWidth: true
@@ -153,29 +168,25 @@ Card {
             Layout.fillHeight: true
             implicitHeight: 0
             clip: true
-            contentWidth: Math.max(width, columns.implicitWidth)
+            contentWidth: Math.max(width, columns.width)
             contentHeight: height
             boundsBehavior: Flickable.StopAtBounds
 
             ScrollBar.horizontal: AppScrollBar {
                 theme: root.theme
-                policy: area.contentWidth > area.width + 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+                // The padding at the right end may go out of sight.
+                policy: area.contentWidth > area.width + root.theme.spaceSm ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
             }
 
-            RowLayout {
+            Row {
                 id: columns
-
-                width: area.contentWidth
-                height: area.height
-                spacing: 0
 
                 Street {
                     title: qsTr("Flop")
+                    divided: false
                     cards: root.details?.flop ?? []
                     actions: root.details?.actions[0] ?? []
                 }
-
-                Divider {}
 
                 Street {
                     title: qsTr("Turn")
@@ -183,17 +194,13 @@ Card {
                     actions: root.details?.actions[1] ?? []
                 }
 
-                Divider {}
-
                 Street {
                     title: qsTr("River")
                     cards: [root.details?.river ?? ""]
                     actions: root.details?.actions[2] ?? []
                 }
 
-                Divider {}
-
-                Column5 {
+                Section {
                     title: qsTr("Hands")
 
                     Holding {
@@ -211,9 +218,7 @@ Card {
                     }
                 }
 
-                Divider {}
-
-                Column5 {
+                Section {
                     title: qsTr("Summary")
 
                     HandSummary {

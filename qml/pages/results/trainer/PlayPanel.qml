@@ -12,7 +12,7 @@ FocusScope {
     required property TreeWalk walk
     required property PlaySession play
 
-    readonly property int _minimumTableWidth: 456
+    readonly property int _minimumTableWidth: 404
 
     Layout.minimumWidth: _minimumTableWidth + log.Layout.minimumWidth + content.spacing
     implicitHeight: column.implicitHeight
@@ -56,19 +56,22 @@ FocusScope {
             Layout.fillHeight: true
             spacing: root.theme.spaceSm
 
-            ColumnLayout {
+            Item {
+                id: left
+
+                readonly property real detailsHeight: details.visible ? details.height + root.theme.spaceSm : 0
+
                 Layout.fillWidth: true
                 Layout.fillHeight: true
                 Layout.minimumWidth: root._minimumTableWidth
-                spacing: root.theme.spaceSm
+                Layout.minimumHeight: root._minimumTableWidth * table.pictureRatio + detailsHeight
+                implicitHeight: Layout.minimumHeight
 
                 PlayTable {
                     id: table
 
-                    Layout.fillWidth: true
-                    Layout.fillHeight: true
-                    Layout.minimumHeight: root._minimumTableWidth * pictureRatio
-                    implicitWidth: root._minimumTableWidth
+                    width: left.width
+                    height: Math.min(width * pictureRatio, left.height - left.detailsHeight)
                     theme: root.theme
                     type: root.type
                     walk: root.walk
@@ -77,10 +80,11 @@ FocusScope {
                 }
 
                 HandDetails {
-                    Layout.fillWidth: true
-                    Layout.preferredHeight: 260
-                    Layout.minimumHeight: 260
-                    implicitWidth: 0
+                    id: details
+
+                    y: table.height + root.theme.spaceSm
+                    width: left.width
+                    height: 260
                     visible: root.play.log.playHandDetails !== null
                     theme: root.theme
                     type: root.type
@@ -92,10 +96,9 @@ FocusScope {
             HandLog {
                 id: log
 
-                Layout.preferredWidth: 340
+                // It gives way to the details, which need some width.
+                Layout.preferredWidth: Math.max(Layout.minimumWidth, Math.min(340, content.width - content.spacing - details.fullWidth))
                 Layout.minimumWidth: 300
-                Layout.maximumWidth: 340
-                Layout.fillWidth: true
                 Layout.fillHeight: true
                 implicitHeight: 0
                 theme: root.theme

@@ -101,12 +101,19 @@ Column {
         }
 
         PrimaryButton {
+            readonly property bool offered: visible && enabled
+
+            width: Math.min(implicitWidth, parent.width)
             theme: root.theme
             type: root.type
             text: qsTr("Another hand")
             implicitHeight: root.narrow ? 32 : 40
-            onVisibleChanged: {
-                if (visible)
+            leftPadding: root.narrow ? root.theme.spaceSm : root.theme.spaceLg
+            rightPadding: leftPadding
+            // A hidden button would keep the focus, and Return with it.
+            enabled: root.play.playHandComplete
+            onOfferedChanged: {
+                if (offered)
                     forceActiveFocus()
             }
             onClicked: root.play.restartHand()

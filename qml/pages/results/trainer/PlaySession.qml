@@ -96,7 +96,8 @@ QtObject {
 
     /// Another hand with the same role.
     function restartHand() {
-        _resetToRootAndRestartHand()
+        if (playHandComplete)
+            _resetToRootAndRestartHand()
     }
 
     /// The user's choice where the hand waits for one.

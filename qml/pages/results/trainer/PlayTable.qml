@@ -15,15 +15,18 @@ Item {
 
     readonly property real pictureRatio: 700 / 1200
     readonly property bool _small: picture.paintedHeight < 400
-    /// Of the full size of cards, where the table is a little low for it.
-    readonly property real _fit: Math.min(1, picture.paintedHeight / 460)
-    readonly property real _seatScale: _small ? 0.62 : 0.95 * _fit
+    /// Of the full size of cards, or of small ones, where the table is a little low for it.
+    readonly property real _fit: Math.min(1, picture.paintedHeight / (_small ? 280 : 460))
+    readonly property real _seatScale: (_small ? 0.62 : 0.95) * _fit
     readonly property string _actingSeat: play.playHandComplete ? _heroSeat : play.playMeta.player ?? ""
     /// Where the end of a hand is told: at the seat that went wrong, else at the user's own.
     readonly property string _heroSeat: play.lastHand?.mistakeActor || (play.playRole === "IP" ? "IP" : "OOP")
     readonly property var _meta: play.playMeta
+    /// For text on the table, which is dark in both modes.
+    readonly property color _feltInk: theme.withOpacity(theme.cardFace, 0.85)
     /// From the middle of the table to where the dealer button leaves room, in pixels.
-    readonly property int _besideDealer: 86 + 13 + theme.spaceMd
+    readonly property int _besideDealer: _dealerX + 13 + (_small ? theme.spaceSm : theme.spaceMd)
+    readonly property int _dealerX: _small ? 56 : 86
 
     /// A turn or river on the table is to be another one.
     signal cardChangeWanted(levelIndex: int, nodeIndex: int)
@@ -107,7 +110,7 @@ Item {
             }
 
             Rectangle {
-                x: ip.x + ip.width / 2 + 86 - width / 2
+                x: ip.x + ip.width / 2 + root._dealerX - width / 2
                 anchors.verticalCenter: ip.verticalCenter
                 width: 26
                 height: 26
@@ -135,22 +138,23 @@ Item {
                 type: root.type
                 boardText: root.play.playBoardText
                 compact: root._small
-                cardScale: root._small ? 1 : 1.05 * root._fit
+                cardScale: (root._small ? 1 : 1.05) * root._fit
                 editable: root.play.changeableSlots.length > 0
                 clickableIndices: root.play.changeableSlots
                 animated: true
+                labelColor: root._feltInk
                 onCardClicked: index => root._changeCard(index)
             }
 
             Row {
                 anchors.horizontalCenter: parent.horizontalCenter
                 anchors.top: board.bottom
-                anchors.topMargin: root.theme.spaceXs
+                anchors.topMargin: root._small ? 1 : root.theme.spaceXs
                 spacing: root.theme.spaceSm
 
                 Rectangle {
                     width: pot.implicitWidth + 2 * root.theme.spaceMd
-                    height: pot.implicitHeight + 6
+                    height: pot.implicitHeight + (root._small ? 2 : 6)
                     radius: height / 2
                     color: root.theme.withOpacity(root.theme.surface, 0.92)
                     border.color: root.theme.gold
@@ -161,7 +165,7 @@ Item {
                         anchors.centerIn: parent
                         text: qsTr("Pot: %1").arg(Hand.chipsText(root._meta.pot))
                         color: root.theme.text
-                        font.pixelSize: root.type.labelMd
+                        font.pixelSize: root._small ? root.type.labelSm : root.type.labelMd
                         font.weight: root.type.weightBold
                     }
                 }
@@ -170,8 +174,7 @@ Item {
                     anchors.verticalCenter: parent.verticalCenter
                     visible: board.editable
                     text: qsTr("Click Turn/River to change")
-                    color: root.theme.cardFace
-                    opacity: 0.85
+                    color: root._feltInk
                     font.pixelSize: root.type.labelSm
                 }
             }
@@ -192,7 +195,7 @@ Item {
                 anchors.verticalCenter: oop.verticalCenter
                 visible: root.play.playDrillMode && root.play.playDrillActor === "IP"
                 text: visible ? qsTr("OOP action: %1").arg(root.play.drillNoteText()) : ""
-                color: root.theme.cardFace
+                color: root._feltInk
                 font.pixelSize: root.type.labelMd
             }
 
@@ -203,7 +206,7 @@ Item {
 
                 x: seat === ip ? table.width / 2 + root._besideDealer : seat.x + seat.width + root.theme.spaceLg
                 y: Math.max(0, Math.min(table.height - height, seat.y + (seat.height - height) / 2))
-                width: Math.min(380, 0.45 * table.width, table.width - x)
+                width: Math.min(380, 0.45 * table.width, table.width - x - root.theme.spaceSm)
                 theme: root.theme
                 type: root.type
                 play: root.play

@@ -1,10 +1,11 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Layouts
 import Velmora
 
-/// The three ways to take a seat.
-Row {
+/// The three ways to take a seat, one under the other where there is little room.
+GridLayout {
     id: root
 
     property Theme theme: Fallback.theme
@@ -13,13 +14,15 @@ Row {
 
     signal roleChosen(role: string)
 
-    spacing: narrow ? theme.spaceSm : theme.spaceMd
+    columns: narrow ? 1 : 3
+    columnSpacing: theme.spaceMd
+    rowSpacing: theme.spaceSm
 
     component RoleButton: PrimaryButton {
         theme: root.theme
         type: root.type
-        leftPadding: root.narrow ? theme.spaceSm : theme.spaceLg
-        rightPadding: leftPadding
+        implicitHeight: root.narrow ? 32 : 40
+        Layout.fillWidth: true
     }
 
     RoleButton {
