@@ -27,7 +27,8 @@ T.ToolTip {
     contentItem: Label {
         text: root.text
         color: root.theme.text
-        wrapMode: Text.WordWrap
+        // Lines of their own are short; wrapped text would take the width of all of them in a row.
+        wrapMode: root.text.includes("\n") ? Text.NoWrap : Text.WordWrap
         font.pixelSize: root.type.labelMd
     }
 

@@ -49,6 +49,7 @@ Card {
 
             StatCard {
                 Layout.fillWidth: true
+                Layout.preferredWidth: 140
                 theme: root.theme
                 type: root.type
                 label: qsTr("Hands (Today / Total)")
@@ -58,6 +59,7 @@ Card {
 
             StatCard {
                 Layout.fillWidth: true
+                Layout.preferredWidth: 165
                 theme: root.theme
                 type: root.type
                 label: qsTr("Accuracy (Today / Total)")
@@ -68,6 +70,7 @@ Card {
 
             StatCard {
                 Layout.fillWidth: true
+                Layout.preferredWidth: 190
                 theme: root.theme
                 type: root.type
                 label: qsTr("Avg EV Loss (Today / Total)")

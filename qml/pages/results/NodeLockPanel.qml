@@ -57,7 +57,7 @@ Rectangle {
 
                     theme: root.theme
                     type: root.type
-                    text: (root.locks.nodeLockSelectedActionIndex === index ? "✓ " : "") + root.actions[index].name
+                    text: (root.locks.nodeLockSelectedActionIndex === index ? "✓ " : "") + (root.actions[index]?.name ?? "")
                     onClicked: root.locks.nodeLockSelectedActionIndex = index
                 }
             }

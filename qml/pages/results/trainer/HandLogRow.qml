@@ -43,6 +43,8 @@ Rectangle {
         spacing: 2
 
         Row {
+            id: cards
+
             spacing: 6
 
             BoardDisplay {
@@ -67,7 +69,7 @@ Rectangle {
                 PlayingCard {
                     required property string modelData
 
-                    anchors.verticalCenter: parent.verticalCenter
+                    anchors.verticalCenter: cards.verticalCenter
                     theme: root.theme
                     rank: modelData.charAt(0)
                     suit: modelData.charAt(1)

@@ -41,8 +41,8 @@ Column {
                 theme: root.theme
                 type: root.type
                 narrow: root.narrow
-                text: info.name
-                actionType: info.actionType
+                text: info?.name ?? ""
+                actionType: info?.actionType ?? ""
                 number: index + 1
                 onClicked: root.play.choosePlayAction(index)
             }
