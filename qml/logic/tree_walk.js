@@ -39,6 +39,16 @@ function treeCard(card, suits) {
     return card === "" ? "" : card.charAt(0) + CardNames.SUITS.find(suit => suits[suit] === card.charAt(1))
 }
 
+/// Combos (`c1`, `c2`) of the tree as they are shown. `combos` may be the controller's own list.
+function shownCombos(combos, suits) {
+    if (CardNames.SUITS.every(suit => suits[suit] === suit))
+        return combos
+    return Array.from({ length: combos.length }, (_, index) => {
+        const combo = combos[index]
+        return Object.assign({}, combo, { c1: shownCard(combo.c1, suits), c2: shownCard(combo.c2, suits) })
+    })
+}
+
 /// Action index by shown card text, for the actions of a chance node. `actions` is a list with `name`,
 /// addressed by index and length only; `suits` is that of `shownSuits`.
 function chanceIndexByCard(actions, suits) {

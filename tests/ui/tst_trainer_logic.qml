@@ -132,6 +132,9 @@ TestCase {
         const twice = Walk.shownSuits([{ name: "9d", shown: "9c" }, { name: "2h", shown: "2s" }])
         compare(["Ad", "Ac", "Ah", "As"].map(card => Walk.shownCard(card, twice)), ["Ac", "Ad", "As", "Ah"])
         compare(Walk.chanceIndexByCard([{ name: "8d" }, { name: "8h" }], twice), { "8c": 0, "8s": 1 })
+        compare(Walk.shownCombos([{ c1: "Ad", c2: "9h", weight: 1 }], twice), [{ c1: "Ac", c2: "9s", weight: 1 }])
+        const combos = [{ c1: "Ad", c2: "9h" }]
+        verify(Walk.shownCombos(combos, Walk.shownSuits([])) === combos)
     }
 
     function entry(fields: var): var {

@@ -2,6 +2,7 @@ import QtQuick
 import Velmora
 import "../../logic/board_text.js" as BoardText
 import "../../logic/hand_views.js" as HandViews
+import "../../logic/tree_walk.js" as Walk
 
 /// What the views show of the node on view: figures by action, the grid, the categories, the combos,
 /// the filters and the locks. The figures are the controller's; they are computed away from the
@@ -51,7 +52,9 @@ QtObject {
     readonly property Timer _combosTimer: Timer {
         interval: 60
         onTriggered: {
-            root._loadedHandCombos = root.controller.nodeHandCombos(root.node)
+            // A board that shows another suit than the tree holds shows the hands in that suit too.
+            const suits = root.walk.suitsAt(root.walk.treeLevels.count)
+            root._loadedHandCombos = Walk.shownCombos(root.controller.nodeHandCombos(root.node), suits)
             root._handCombosLoading = false
         }
     }
