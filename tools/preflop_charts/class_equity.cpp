@@ -122,8 +122,6 @@ ClassTable class_equities(unsigned threads) {
   for (std::size_t a = 0; a < kNumClasses; ++a) {
     for (std::size_t b = 0; b < kNumClasses; ++b) {
       const double pairs = matchups()[a][b];
-      // A pocket meets no hand of its own class only where the class is one suited pocket; no
-      // class is, so every two classes can meet.
       equities[a][b] =
           static_cast<double>(total[a * kNumClasses + b]) / (2 * pairs * kBoardsPerMatchup);
     }

@@ -11,7 +11,7 @@ using velmora::kNumRanks;
 
 namespace {
 
-/// The pockets of one class, by their cards as a set.
+/// The two cards of each pocket as a set.
 std::array<velmora::CardMask, kNumPockets> pocket_masks() {
   std::array<velmora::CardMask, kNumPockets> masks{};
   for (std::size_t i = 0; i < kNumPockets; ++i) {
