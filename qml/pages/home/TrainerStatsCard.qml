@@ -49,7 +49,7 @@ Card {
 
             StatCard {
                 Layout.fillWidth: true
-                Layout.preferredWidth: 140
+                Layout.preferredWidth: 152
                 theme: root.theme
                 type: root.type
                 label: qsTr("Hands (Today / Total)")
@@ -59,7 +59,7 @@ Card {
 
             StatCard {
                 Layout.fillWidth: true
-                Layout.preferredWidth: 165
+                Layout.preferredWidth: 163
                 theme: root.theme
                 type: root.type
                 label: qsTr("Accuracy (Today / Total)")
@@ -70,7 +70,7 @@ Card {
 
             StatCard {
                 Layout.fillWidth: true
-                Layout.preferredWidth: 190
+                Layout.preferredWidth: 180
                 theme: root.theme
                 type: root.type
                 label: qsTr("Avg EV Loss (Today / Total)")
