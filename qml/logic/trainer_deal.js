@@ -28,13 +28,13 @@ function pickWeightedIndex(weights, random) {
     return last
 }
 
-/// The combos (`c1`, `c2`, `weight`) that can be dealt while `usedCards` are out. `shown` makes a card
-/// as it is shown of a card of the tree; these come out.
-function eligibleCombosForDeal(combos, usedCards, shown) {
+/// The combos (`c1`, `c2`, `weight`) that can be dealt while `usedCards` are out. Their cards come
+/// normalised.
+function eligibleCombosForDeal(combos, usedCards) {
     const eligible = []
     for (let i = 0; i < (combos ? combos.length : 0); ++i) {
-        const c1 = shown(BoardText.normalizeCard(combos[i].c1))
-        const c2 = shown(BoardText.normalizeCard(combos[i].c2))
+        const c1 = BoardText.normalizeCard(combos[i].c1)
+        const c2 = BoardText.normalizeCard(combos[i].c2)
         const weight = _share(combos[i].weight)
         if (c1 !== "" && c2 !== "" && c1 !== c2 && weight > 0 && !usedCards.includes(c1) && !usedCards.includes(c2))
             eligible.push({ c1: c1, c2: c2, weight: weight })
@@ -48,11 +48,11 @@ function pickWeightedCombo(combos, random) {
 }
 
 /// The hands of a deal, {oop, ip}, each a list of two cards, or of none where no combo is left. OOP
-/// is dealt first and IP gets none of its cards. `shown` is that of `eligibleCombosForDeal`.
-function dealHands(oopCombos, ipCombos, boardText, random, shown) {
+/// is dealt first and IP gets none of its cards.
+function dealHands(oopCombos, ipCombos, boardText, random) {
     const used = BoardText.usedCards(boardText)
     const draw = combos => {
-        const combo = pickWeightedCombo(eligibleCombosForDeal(combos, used, shown), random)
+        const combo = pickWeightedCombo(eligibleCombosForDeal(combos, used), random)
         const cards = combo ? [combo.c1, combo.c2] : []
         used.push(...cards)
         return cards

@@ -11,10 +11,6 @@ import "random.js" as Random
 TestCase {
     name: "TrainerLogic"
 
-    function same(card: string): string {
-        return card
-    }
-
     function test_tolerance_data() {
         return [
             { tag: "a loss of half a percent", best: 100, chosen: 99.5, mistake: false },
@@ -78,7 +74,7 @@ TestCase {
         const board = "AsQd2hKc"
         const counts = {}
         for (let deal = 0; deal < 10000; ++deal) {
-            const hands = Deal.dealHands(oop, ip, board, random, same)
+            const hands = Deal.dealHands(oop, ip, board, random)
             const out = hands.oop.concat(hands.ip, ["As", "Qd", "2h", "Kc"])
             if (new Set(out).size !== 8)
                 fail("collision: " + out.join(" "))
@@ -86,7 +82,7 @@ TestCase {
             counts[key] = (counts[key] ?? 0) + 1
         }
         // OOP is dealt from its own weights, whatever IP holds.
-        const eligible = Deal.eligibleCombosForDeal(oop, ["As", "Qd", "2h", "Kc"], same)
+        const eligible = Deal.eligibleCombosForDeal(oop, ["As", "Qd", "2h", "Kc"])
         const total = eligible.reduce((sum, combo) => sum + combo.weight, 0)
         compare(Object.keys(counts).length, eligible.length)
         for (const combo of eligible) {
@@ -97,8 +93,8 @@ TestCase {
 
     function test_a_seat_without_a_hand_stays_empty() {
         const none = [{ c1: "Ah", c2: "Kh", weight: 0 }, { c1: "2c", c2: "3c", weight: 1 }]
-        compare(Deal.dealHands(none, none, "2cQd2h", Random.seeded(1), same), { oop: [], ip: [] })
-        compare(Deal.dealHands(undefined, none, "Qd2h9s", Random.seeded(1), same), { oop: [], ip: ["2c", "3c"] })
+        compare(Deal.dealHands(none, none, "2cQd2h", Random.seeded(1)), { oop: [], ip: [] })
+        compare(Deal.dealHands(undefined, none, "Qd2h9s", Random.seeded(1)), { oop: [], ip: ["2c", "3c"] })
     }
 
     function test_draws_data() {

@@ -252,8 +252,8 @@ QtObject {
 
     function _dealToSeats(node: int) {
         const suits = walk.suitsAt(walk.treeLevels.count)
-        _setHands(Deal.dealHands(controller.nodeSeatHandCombos(node, "OOP"), controller.nodeSeatHandCombos(node, "IP"),
-                                 playBoardText, random, card => Walk.shownCard(card, suits)))
+        const combos = seat => Walk.shownCombos(controller.nodeSeatHandCombos(node, seat), suits)
+        _setHands(Deal.dealHands(combos("OOP"), combos("IP"), playBoardText, random))
     }
 
     /// Takes over where the walk stands, and has the node's figures computed where they will be needed.
