@@ -40,10 +40,21 @@ FocusScope {
             }
 
             Label {
-                Layout.fillWidth: true
+                Layout.fillWidth: !note.visible
                 text: root.play.playSessionStarted ? qsTr("Role: %1").arg(root.play.playRole)
                                                    : qsTr("Choose a role to start")
                 color: root.theme.textMuted
+                font.pixelSize: root.type.bodySm
+                elide: Text.ElideRight
+            }
+
+            Label {
+                id: note
+
+                Layout.fillWidth: true
+                visible: root.play.dealtNothing
+                text: qsTr("No hands can be dealt here. Solve the spot again to play it.")
+                color: root.theme.warn
                 font.pixelSize: root.type.bodySm
                 elide: Text.ElideRight
             }
