@@ -6,3 +6,9 @@ function ofLocalFile(answer) {
     const text = String(answer)
     return text.startsWith("/") ? "file://" + text.split("/").map(encodeURIComponent).join("/") : text
 }
+
+/// The name of a file without its folder, and without `suffix` in any case.
+function baseName(file, suffix) {
+    const name = decodeURIComponent(String(file)).split("/").pop()
+    return name.toLowerCase().endsWith(suffix) ? name.slice(0, -suffix.length) : name
+}

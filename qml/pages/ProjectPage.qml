@@ -1,10 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Dialogs
 import Velmora
 import "../logic/board_text.js" as BoardText
-import "../logic/file_url.js" as FileUrl
-import "../logic/range_text.js" as RangeText
 
 /// Where a spot is described: board, game settings, bet sizes and both ranges.
 ScrollPage {
@@ -24,23 +21,10 @@ ScrollPage {
 
     signal goToSolve
 
-    /// Asks for a text file and makes its hands the range of a seat, "oop" or "ip".
+    /// Asks for a text file and adds its hands to the user's own ranges. `focusPlayer` is the seat that
+    /// wants them, "oop" or "ip".
     function openImportRangeDialog(focusPlayer: string) {
-        importDialog.seat = focusPlayer === "ip" ? "ip" : "oop"
-        importDialog.open()
-    }
-
-    function _importRange(file: url, seat: string) {
-        const answer = controller.readTextFile(file)
-        if (!answer.ok) {
-            importFault.report(qsTr("Import failed: %1").arg(answer.error || qsTr("unknown error")))
-            return
-        }
-        const text = RangeText.normalizeImportedRangeText(answer.text)
-        if (text === "")
-            importFault.report(qsTr("Import failed: file contained no recognizable hands."))
-        else
-            project.set(seat + "RangeText", text)
+        importer.start(focusPlayer)
     }
 
     minimumContentWidth: recommendedWindowWidth
@@ -137,6 +121,8 @@ ScrollPage {
             theme: root.theme
             type: root.type
             project: root.project
+            libraries: libraries
+            developerMode: root.controller.developerMode
             seat: "oop"
             onImportRequested: root.openImportRangeDialog("oop")
         }
@@ -150,26 +136,25 @@ ScrollPage {
             theme: root.theme
             type: root.type
             project: root.project
+            libraries: libraries
+            developerMode: root.controller.developerMode
             seat: "ip"
             onImportRequested: root.openImportRangeDialog("ip")
         }
     }
 
-    FileDialog {
-        id: importDialog
+    RangeLibraries {
+        id: libraries
 
-        property string seat: "oop"
-
-        title: qsTr("Import Range")
-        nameFilters: [qsTr("Range text (*.txt)"), qsTr("All Files (*)")]
-        onAccepted: root._importRange(FileUrl.ofLocalFile(selectedFile), seat)
+        controller: root.controller
     }
 
-    MessageBox {
-        id: importFault
+    ImportRange {
+        id: importer
 
         theme: root.theme
         type: root.type
-        title: qsTr("Import Range")
+        controller: root.controller
+        libraries: libraries
     }
 }

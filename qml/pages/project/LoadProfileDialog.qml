@@ -109,12 +109,14 @@ AppDialog {
         }
     }
 
-    DeleteProfileDialog {
+    DeleteDialog {
         id: deleteDialog
 
         theme: root.theme
         type: root.type
-        profileName: root.store.find(root._selectedId)?.name ?? ""
+        title: qsTr("Delete settings profile")
+        question: qsTr("Are you sure you want to delete this saved profile?")
+        name: root.store.find(root._selectedId)?.name ?? ""
         onConfirmed: root.store.deleteSettingsProfileById(root._selectedId)
     }
 

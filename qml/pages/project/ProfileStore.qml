@@ -9,10 +9,10 @@ QtObject {
     /// Maps with `id`, `name`, `createdAt` and `data`, in the order in which they were saved.
     property var settingsProfiles: []
 
+    // Written by setValue: a property would reach the file half a second later, and not at all if the
+    // program died in between.
     readonly property Settings _store: Settings {
         id: store
-
-        property string profilesJson: ""
 
         category: "settings_profiles"
     }
@@ -40,7 +40,7 @@ QtObject {
 
     function persistSettingsProfiles() {
         settingsProfiles = SettingsProfiles.sanitized(settingsProfiles, _newNodeId)
-        store.profilesJson = JSON.stringify(settingsProfiles)
+        store.setValue("profilesJson", JSON.stringify(settingsProfiles))
         store.sync()
     }
 
@@ -48,5 +48,5 @@ QtObject {
         return SettingsProfiles.newNodeId(Date.now(), Math.random)
     }
 
-    Component.onCompleted: settingsProfiles = SettingsProfiles.parse(store.profilesJson, _newNodeId)
+    Component.onCompleted: settingsProfiles = SettingsProfiles.parse(store.value("profilesJson", ""), _newNodeId)
 }

@@ -22,6 +22,14 @@ Card {
             project.startingStreet = BoardText.inferStreet(project.boardText)
     }
 
+    /// Keeps the settings under a name. Gives what is wrong with the name, or "".
+    function _save(name: string): string {
+        if (name === "")
+            return qsTr("Please enter a name.")
+        store.save(name, currentSettingsSnapshot())
+        return ""
+    }
+
     RowLayout {
         anchors.fill: parent
         spacing: root.theme.spaceSm
@@ -39,7 +47,7 @@ Card {
             theme: root.theme
             text: qsTr("Save settings")
             iconName: "save"
-            onClicked: saveDialog.open()
+            onClicked: saveDialog.ask()
         }
     }
 
@@ -47,12 +55,16 @@ Card {
         id: store
     }
 
-    SaveProfileDialog {
+    NameDialog {
         id: saveDialog
 
         theme: root.theme
         type: root.type
-        onNameChosen: name => store.save(name, root.currentSettingsSnapshot())
+        title: qsTr("Save Settings Profile")
+        prompt: qsTr("Profile name:")
+        placeholder: qsTr("e.g., 100bb rake-free (fast)")
+        canAccept: name.trim() !== ""
+        onNameChosen: name => finish(root._save(name))
     }
 
     LoadProfileDialog {

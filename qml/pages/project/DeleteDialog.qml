@@ -3,15 +3,17 @@ import QtQuick.Layouts
 import QtQuick.Controls
 import Velmora
 
-/// Makes sure before a settings profile goes.
+/// Makes sure before something goes for good.
 AppDialog {
     id: root
 
-    property string profileName: ""
+    property string question: ""
+    property string name: ""
+    property string note: qsTr("This cannot be undone.")
+    property string acceptText: qsTr("Delete")
 
     signal confirmed
 
-    title: qsTr("Delete settings profile")
     width: 380
 
     ColumnLayout {
@@ -20,7 +22,7 @@ AppDialog {
 
         Label {
             Layout.fillWidth: true
-            text: qsTr("Are you sure you want to delete this saved profile?")
+            text: root.question
             color: root.theme.text
             font.pixelSize: root.type.bodyMd
             wrapMode: Text.Wrap
@@ -28,7 +30,8 @@ AppDialog {
 
         Label {
             Layout.fillWidth: true
-            text: "“" + root.profileName + "”"
+            visible: root.name !== ""
+            text: "“" + root.name + "”"
             color: root.theme.text
             font.pixelSize: root.type.bodyMd
             font.weight: root.type.weightSemibold
@@ -37,7 +40,8 @@ AppDialog {
 
         Label {
             Layout.fillWidth: true
-            text: qsTr("This cannot be undone.")
+            visible: text !== ""
+            text: root.note
             color: root.theme.textMuted
             font.pixelSize: root.type.bodySm
             wrapMode: Text.Wrap
@@ -53,7 +57,7 @@ AppDialog {
         },
         SecondaryButton {
             theme: root.theme
-            text: qsTr("Delete")
+            text: root.acceptText
             danger: true
             onClicked: {
                 root.close()

@@ -1,0 +1,22 @@
+import QtQuick
+import QtQuick.Controls
+import Velmora
+
+/// A line of text that is cut off at its end where it is too long, and then shown whole in a note.
+Label {
+    id: root
+
+    property Theme theme: Fallback.theme
+    property Typography type: Fallback.type
+    property bool hovered: false
+
+    elide: Text.ElideRight
+    verticalAlignment: Text.AlignVCenter
+
+    AppToolTip {
+        theme: root.theme
+        type: root.type
+        visible: root.hovered && root.truncated
+        text: root.text
+    }
+}

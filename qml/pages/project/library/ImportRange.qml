@@ -1,0 +1,55 @@
+import QtQuick
+import QtQuick.Dialogs
+import Velmora
+import "../../../logic/file_url.js" as FileUrl
+import "../../../logic/range_text.js" as RangeText
+
+/// Brings a range from a text file to the user's own ranges: asks for the file, then for a name.
+Item {
+    id: root
+
+    property Theme theme: Fallback.theme
+    property Typography type: Fallback.type
+    required property var controller
+    required property RangeLibraries libraries
+
+    property string _seat: "oop"
+    property string _rangeText: ""
+
+    /// Asks for a file, for the ranges of both seats. `focusPlayer` is the seat that wants it, "oop"
+    /// or "ip".
+    function start(focusPlayer: string) {
+        _seat = focusPlayer === "ip" ? "ip" : "oop"
+        fileDialog.open()
+    }
+
+    /// Reads a file and asks how to call what is in it.
+    function read(file: url) {
+        const answer = controller.readTextFile(file)
+        _rangeText = answer.ok ? RangeText.normalizeImportedRangeText(answer.text) : ""
+        nameDialog.fault = !answer.ok ? qsTr("Import failed: %1").arg(answer.error || qsTr("unknown error"))
+                    : _rangeText === "" ? qsTr("Import failed: file contained no recognizable hands.") : ""
+        nameDialog.ask(FileUrl.baseName(file, ".txt"))
+    }
+
+    FileDialog {
+        id: fileDialog
+
+        title: qsTr("Import Range")
+        nameFilters: [qsTr("Range text (*.txt)"), qsTr("All Files (*)")]
+        onAccepted: root.read(FileUrl.ofLocalFile(selectedFile))
+    }
+
+    NameDialog {
+        id: nameDialog
+
+        theme: root.theme
+        type: root.type
+        title: qsTr("Import Range")
+        prompt: qsTr("Name this range:")
+        placeholder: qsTr("e.g., BTN open (custom)")
+        acceptText: qsTr("Import")
+        canAccept: name.trim() !== "" && root._rangeText !== ""
+        onNameChosen: name => finish(root.libraries.commitImportRange(root._seat, name, root._rangeText))
+    }
+}

@@ -1,0 +1,75 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Controls
+import Velmora
+
+/// The rows of the library that a seat shows, by mouse and keyboard: the arrows move a cursor, Return
+/// and Space do what a click does.
+ListView {
+    id: root
+
+    property Theme theme: Fallback.theme
+    property Typography type: Fallback.type
+    required property SeatLibrary library
+    property string label: ""
+
+    signal deletionWanted
+
+    /// Lets the cursor stand on the selected row, and that row be seen.
+    function _followSelection() {
+        const index = library.rows.findIndex(row => row.id === library.selectedId)
+        currentIndex = index >= 0 ? index : Math.min(Math.max(currentIndex, 0), count - 1)
+        positionViewAtIndex(currentIndex, ListView.Contain)
+    }
+
+    function _activateCurrent() {
+        if (currentIndex >= 0)
+            library.activate(library.rows[currentIndex].id)
+    }
+
+    /// Opens a closed folder, or closes an open one.
+    function _setOpen(open: bool) {
+        const row = library.rows[currentIndex]
+        if (row?.kind === "folder" && row.open !== open)
+            library.activate(row.id)
+    }
+
+    clip: true
+    activeFocusOnTab: true
+    boundsBehavior: Flickable.StopAtBounds
+    keyNavigationEnabled: true
+    highlightFollowsCurrentItem: false
+    model: library.rows
+    Accessible.role: Accessible.Tree
+    Accessible.name: label
+    Accessible.description: currentItem ? (currentItem as LibraryRow).text : ""
+    Keys.onReturnPressed: _activateCurrent()
+    Keys.onEnterPressed: _activateCurrent()
+    Keys.onSpacePressed: _activateCurrent()
+    Keys.onRightPressed: _setOpen(true)
+    Keys.onLeftPressed: _setOpen(false)
+    Keys.onDeletePressed: deletionWanted()
+    onModelChanged: _followSelection()
+    onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
+
+    ScrollBar.vertical: AppScrollBar {
+        theme: root.theme
+    }
+
+    delegate: LibraryRow {
+        required property int index
+        required property var modelData
+
+        width: ListView.view.width
+        theme: root.theme
+        type: root.type
+        entry: modelData
+        selected: modelData.id === root.library.selectedId
+        focused: root.activeFocus && ListView.isCurrentItem
+        onClicked: {
+            root.forceActiveFocus()
+            root.library.activate(modelData.id)
+        }
+    }
+}
