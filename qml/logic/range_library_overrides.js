@@ -34,6 +34,8 @@ function _valueAt(overrides, key) {
 
 /// The tree with the values of the overrides in it; ids stay. `path` is where the tree hangs.
 function applyOverridesToTree(tree, overrides, path = []) {
+    if (Object.keys(overrides).length === 0)
+        return tree
     return tree.map(node => {
         const own = [...path, node.name]
         return Object.assign({}, node, Tree.isFolder(node)

@@ -5,16 +5,8 @@
 // "folder", name, children }. No function changes a tree that it is given; one that edits gives a
 // new tree. Which folders are open is a map from folder id to true.
 
-const _givenIds = new Set()
-
-/// An id that no other node of this run has.
 function newNodeId() {
-    let id
-    do
-        id = SettingsProfiles.newNodeId(Date.now(), Math.random)
-    while (_givenIds.has(id))
-    _givenIds.add(id)
-    return id
+    return SettingsProfiles.newNodeId(Date.now(), Math.random)
 }
 
 function range(name, value) {

@@ -64,8 +64,8 @@ Card {
             }
 
             Label {
-                visible: root._facts.hands > 0
-                text: qsTr("%1 combos (%2%)").arg(root._facts.combos.toFixed(1)).arg((root._facts.share * 100).toFixed(1))
+                text: root._facts.hands === 0 ? ""
+                    : qsTr("%1 combos (%2%)").arg(root._facts.combos.toFixed(1)).arg((root._facts.share * 100).toFixed(1))
                 color: root.theme.textMuted
                 font.pixelSize: root.type.labelMd
             }

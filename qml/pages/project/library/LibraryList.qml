@@ -50,6 +50,12 @@ ListView {
     Keys.onRightPressed: _setOpen(true)
     Keys.onLeftPressed: _setOpen(false)
     Keys.onDeletePressed: deletionWanted()
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_Home || event.key === Qt.Key_End) {
+            currentIndex = event.key === Qt.Key_Home ? 0 : count - 1
+            event.accepted = true
+        }
+    }
     onModelChanged: _followSelection()
     onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
 
