@@ -50,7 +50,7 @@ function routeRange(scenario) {
 function _subfolder(nodes, name) {
     let found = nodes.find(node => Tree.isFolder(node) && node.name === name)
     if (!found) {
-        found = Tree.folder(name, [])
+        found = Tree.folder(name)
         nodes.push(found)
     }
     return found
@@ -59,7 +59,7 @@ function _subfolder(nodes, name) {
 /// The rake folders with the rows in them. `scenarios` are the folders that each of them has, and
 /// `route` tells where in a rake folder a scenario stands.
 function _rakeFolders(rows, scenarios, route) {
-    const folders = RAKES.map(rake => Tree.folder(rake, scenarios.map(name => Tree.folder(name, []))))
+    const folders = RAKES.map(rake => Tree.folder(rake, scenarios.map(name => Tree.folder(name))))
     for (const row of rows) {
         const end = row.name.indexOf(SEPARATOR)
         const named = end < 0 ? -1 : RAKES.indexOf(row.name.slice(0, end))

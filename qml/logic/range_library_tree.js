@@ -13,7 +13,7 @@ function range(name, value) {
     return { id: newNodeId(), type: "range", name: name, value: value }
 }
 
-function folder(name, children) {
+function folder(name, children = []) {
     return { id: newNodeId(), type: "folder", name: name, children: children }
 }
 

@@ -5,7 +5,7 @@ import QtQuick.Controls
 import Velmora
 
 /// The rows of the library that a seat shows, by mouse and keyboard: the arrows move a cursor, Return
-/// and Space do what a click does.
+/// and Space do what a click does, Escape selects nothing.
 ListView {
     id: root
 
@@ -26,6 +26,11 @@ ListView {
     function _activateCurrent() {
         if (currentIndex >= 0)
             library.activate(library.rows[currentIndex].id)
+    }
+
+    function _selectNothing() {
+        library.selectedId = ""
+        currentIndex = -1
     }
 
     /// Opens a closed folder, or closes an open one.
@@ -49,6 +54,7 @@ ListView {
     Keys.onSpacePressed: _activateCurrent()
     Keys.onRightPressed: _setOpen(true)
     Keys.onLeftPressed: _setOpen(false)
+    Keys.onEscapePressed: _selectNothing()
     Keys.onDeletePressed: deletionWanted()
     Keys.onPressed: event => {
         if (event.key === Qt.Key_Home || event.key === Qt.Key_End) {
@@ -58,6 +64,14 @@ ListView {
     }
     onModelChanged: _followSelection()
     onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
+
+    // Beside the rows a click selects nothing, so that what is saved next goes to the top level.
+    TapHandler {
+        onTapped: point => {
+            if (root.indexAt(point.position.x, point.position.y + root.contentY) < 0)
+                root._selectNothing()
+        }
+    }
 
     ScrollBar.vertical: AppScrollBar {
         theme: root.theme
@@ -75,6 +89,7 @@ ListView {
         focused: root.activeFocus && ListView.isCurrentItem
         onClicked: {
             root.forceActiveFocus()
+            root.currentIndex = index
             root.library.activate(modelData.id)
         }
     }

@@ -16,7 +16,7 @@ T.ItemDelegate {
 
     implicitHeight: 26
     leftPadding: 10 + 14 * entry.depth
-    rightPadding: theme.spaceSm
+    rightPadding: theme.spaceXs
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
     text: entry.displayName
@@ -43,7 +43,6 @@ T.ItemDelegate {
             text: root.text
             color: root.theme.text
             font.pixelSize: root.type.labelSm
-            font.weight: root.entry.open ? root.type.weightSemibold : root.type.weightRegular
         }
     }
 

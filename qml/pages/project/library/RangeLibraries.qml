@@ -1,10 +1,7 @@
 import QtQuick
 import Velmora
 import "../../../logic/range_categories.js" as Categories
-import "../../../logic/range_library_overrides.js" as Overrides
-import "../../../logic/range_library_population.js" as Population
-import "../../../logic/range_library_standard.js" as Standard
-import "../../../logic/range_library_tree.js" as Tree
+import "../../../logic/range_library_files.js" as Files
 
 /// The libraries of both seats: reads those that come with the program and the user's own, once, and
 /// writes them out for a developer.
@@ -41,7 +38,14 @@ QtObject {
     }
 
     function categoryLabel(category: int): string {
-        return [qsTr("Standard Ranges"), qsTr("Population Ranges"), qsTr("Custom Ranges")][category]
+        switch (category) {
+        case Categories.standard:
+            return qsTr("Standard Ranges")
+        case Categories.population:
+            return qsTr("Population Ranges")
+        default:
+            return qsTr("Custom Ranges")
+        }
     }
 
     /// What went wrong with the library of a category, or "".
@@ -61,8 +65,8 @@ QtObject {
         if (value === "")
             return qsTr("No range content to import.")
         try {
-            for (const library of [oop, ip])
-                library.addImportedRange(name.trim(), value, library.seat !== focusPlayer)
+            oop.addImportedRange(name.trim(), value, focusPlayer !== "oop")
+            ip.addImportedRange(name.trim(), value, focusPlayer !== "ip")
         } catch (error) {
             console.warn("[ranges] Import failed:", error)
             return qsTr("Import failed.")
@@ -78,29 +82,15 @@ QtObject {
 
     /// Writes the library of a category, of both seats, to a file.
     function exportRanges(category: int, file: url) {
-        const content = category === Categories.standard ? _standardExport() : _exploitExport()
-        const answer = controller.saveTextFile(file, JSON.stringify(content, null, 2))
+        const text = category === Categories.standard
+            ? Files.standardText(oop.standardRanges, ip.standardRanges)
+            : Files.exploitText(oop.exploitRanges, ip.exploitRanges)
+        const answer = controller.saveTextFile(file, text)
         const error = answer.ok ? "" : qsTr("Export failed: %1").arg(answer.error || qsTr("unknown error"))
         if (category === Categories.standard)
             _exportStandardError = error
         else
             _exportExploitError = error
-    }
-
-    function _standardExport(): var {
-        const seat = library => ({ standard: Standard.flattenStandardForExport(library.standardRanges) })
-        return { oop: seat(oop), ip: seat(ip) }
-    }
-
-    function _exploitExport(): var {
-        const seat = library => ({
-            standard: [],
-            exploit: Tree.stripIdsForExport(Tree.sanitizeCustomTree(library.exploitRanges))
-        })
-        return {
-            format: "velmora_ranges_export", version: 1, generatedAt: new Date().toISOString(),
-            oop: seat(oop), ip: seat(ip)
-        }
     }
 
     /// The text of a bundled file; "" if it is nowhere.
@@ -119,12 +109,10 @@ QtObject {
     /// Builds both libraries of both seats. Where a file is no JSON, what was there stays.
     function _loadBundledPresetRanges() {
         try {
-            const standardText = _readBundled("standard_ranges.json", "STANDARD")
-            const standard = standardText === "" ? undefined : JSON.parse(standardText)
-            const exploitText = _readBundled("exploit_ranges.json", "POPULATION")
-            const exploit = exploitText === "" ? undefined : JSON.parse(exploitText)
-            const built = [oop, ip].map(library => _built(library, standard, exploit));
-            [oop, ip].forEach((library, index) => library.setLibraries(...built[index]))
+            const standard = Files.parsed(_readBundled("standard_ranges.json", "STANDARD"))
+            const exploit = Files.parsed(_readBundled("exploit_ranges.json", "POPULATION"))
+            oop.setLibraries(standard, exploit)
+            ip.setLibraries(standard, exploit)
             _presetLoadError = standard ? ""
                 : qsTr("Failed to load bundled standard presets (resource file missing/empty).")
         } catch (error) {
@@ -132,22 +120,12 @@ QtObject {
         }
     }
 
-    /// The two trees of a seat from what the files hold for it; undefined for a missing file.
-    function _built(library: SeatLibrary, standardFile: var, exploitFile: var): var {
-        const standardTree = standardFile === undefined ? [] : Overrides.applyOverridesToTree(
-            Tree.sanitizeCustomTree(Standard.buildStandardTree(
-                Standard.validRows(standardFile?.[library.seat]?.standard))), library.standardOverrides)
-        const exploitTree = Population.completed(
-            Tree.sanitizeCustomTree(exploitFile?.[library.seat]?.exploit), library.seat, standardTree)
-        return [standardTree, Overrides.applyOverridesToTree(exploitTree, library.exploitOverrides)]
-    }
-
     on_LanguageChanged: ++_i18nRev
     Component.onCompleted: {
-        for (const library of [oop, ip])
-            library.loadOverrides()
+        oop.loadOverrides()
+        ip.loadOverrides()
         _loadBundledPresetRanges()
-        for (const library of [oop, ip])
-            library.loadCustomRanges()
+        oop.loadCustomRanges()
+        ip.loadCustomRanges()
     }
 }

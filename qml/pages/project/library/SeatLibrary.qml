@@ -1,6 +1,7 @@
 import QtQuick
 import Qt.labs.settings
 import "../../../logic/range_categories.js" as Categories
+import "../../../logic/range_library_files.js" as Files
 import "../../../logic/range_library_names.js" as Names
 import "../../../logic/range_library_overrides.js" as Overrides
 import "../../../logic/range_library_tree.js" as Tree
@@ -71,7 +72,7 @@ QtObject {
     function commitAddFolder(name: string): string {
         if (name.trim() === "")
             return qsTr("Please enter a folder name.")
-        _add(Tree.folder(name.trim(), []))
+        _add(Tree.folder(name.trim()))
         return ""
     }
 
@@ -122,13 +123,14 @@ QtObject {
     }
 
     function loadOverrides() {
-        for (const category of [Categories.standard, Categories.population])
-            _setOverrides(category, Overrides.parse(_store.value(_overridesKey(category), "")))
+        standardOverrides = Overrides.parse(_store.value(_overridesKey(Categories.standard), ""))
+        exploitOverrides = Overrides.parse(_store.value(_overridesKey(Categories.population), ""))
     }
 
-    function setLibraries(standardTree: var, exploitTree: var) {
-        standardRanges = standardTree
-        exploitRanges = exploitTree
+    /// Takes the libraries from their parsed files; undefined for a missing one.
+    function setLibraries(standardFile: var, exploitFile: var) {
+        standardRanges = Files.standardTree(seat, standardFile, standardOverrides)
+        exploitRanges = Files.exploitTree(seat, exploitFile, standardRanges, exploitOverrides)
     }
 
     function loadCustomRanges() {
