@@ -18,6 +18,7 @@ AppDialog {
 
     property string _nameFault: ""
 
+    /// A name, trimmed, was asked to be taken.
     signal nameChosen(string name)
 
     function ask(suggestion = "") {

@@ -57,16 +57,16 @@ QtObject {
         return category === Categories.standard ? _exportStandardError : _exportExploitError
     }
 
-    /// Gives a range from a file to both seats; `focusPlayer` is the one that asked. Gives what is
-    /// wrong, or "".
+    /// Gives a range from a file to both seats, under a trimmed name; `focusPlayer` is the one that
+    /// asked. Gives what is wrong, or "".
     function commitImportRange(focusPlayer: string, name: string, value: string): string {
-        if (name.trim() === "")
+        if (name === "")
             return qsTr("Please enter a name.")
         if (value === "")
             return qsTr("No range content to import.")
         try {
-            oop.addImportedRange(name.trim(), value, focusPlayer !== "oop")
-            ip.addImportedRange(name.trim(), value, focusPlayer !== "ip")
+            oop.addImportedRange(name, value, focusPlayer !== "oop")
+            ip.addImportedRange(name, value, focusPlayer !== "ip")
         } catch (error) {
             console.warn("[ranges] Import failed:", error)
             return qsTr("Import failed.")

@@ -58,21 +58,21 @@ QtObject {
             rangeChosen(node.value)
     }
 
-    /// Keeps a range text under a name. Gives what is wrong, or "".
+    /// Keeps a range text under a trimmed name. Gives what is wrong, or "".
     function commitSaveRange(name: string, value: string): string {
-        if (name.trim() === "")
+        if (name === "")
             return qsTr("Please enter a name.")
         if (value.trim() === "")
             return qsTr("Current range is empty.")
-        _add(Tree.range(name.trim(), value))
+        _add(Tree.range(name, value))
         return ""
     }
 
-    /// Adds a folder, opened. Gives what is wrong, or "".
+    /// Adds a folder of a trimmed name, opened. Gives what is wrong, or "".
     function commitAddFolder(name: string): string {
-        if (name.trim() === "")
+        if (name === "")
             return qsTr("Please enter a folder name.")
-        _add(Tree.folder(name.trim()))
+        _add(Tree.folder(name))
         return ""
     }
 
