@@ -61,6 +61,7 @@ function _positions(group, seat, valueOf) {
 function _archetype(group, seat, table, name, vpip) {
     const column = table.archetypes.indexOf(name)
     const valueOf = (position, leaf) => {
+        // In position the big blind meets a raise only from the small blind: its "Call" is "Call raise".
         const estimates = table.estimates[position]
         return (estimates[leaf] ?? estimates[leaf + " raise"])[column]
     }
