@@ -12,8 +12,9 @@ ScrollPage {
     }
 
     function saveSettings() {
-        store.darkMode = theme.dark
-        store.accentHex = theme.useAccentOverride ? String(theme.accentOverride) : ""
+        // Values that are set by name are in the file after a sync; changed properties come later.
+        store.setValue("darkMode", theme.dark)
+        store.setValue("accentHex", theme.useAccentOverride ? String(theme.accentOverride) : "")
         store.sync()
     }
 
@@ -25,9 +26,6 @@ ScrollPage {
 
     Settings {
         id: store
-
-        property bool darkMode: true
-        property string accentHex: ""
 
         category: "ui"
     }
