@@ -13,7 +13,9 @@
 
 #include "app_controller.h"
 #include "crash_lines.h"
+#include "language_manager.h"
 #include "logging.h"
+#include "update_manager.h"
 
 namespace {
 
@@ -54,8 +56,12 @@ int main(int argc, char* argv[]) {
   QGuiApplication::setQuitOnLastWindowClosed(true);
   QQmlApplicationEngine engine;
   engine.addImportPath("qrc:/");
+  LanguageManager languageManager(&engine);
+  engine.rootContext()->setContextProperty("languageManager", &languageManager);
   AppController appController;
   engine.rootContext()->setContextProperty("appController", &appController);
+  UpdateManager updates;
+  engine.rootContext()->setContextProperty("updates", &updates);
 
   // Each warning is logged once, here, and not by the engine as well.
   engine.setOutputWarningsToStandardError(false);

@@ -3,8 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include <QCoreApplication>
-
+#include "hand_bucket_names.h"
 #include "reach_grid.h"
 #include "result_variants.h"
 
@@ -104,8 +103,7 @@ QVariantList ResultQueries::nodeHandBuckets(int nodeIndex) {
   // The names for display follow the language and are not kept.
   for (QVariant& entry : list) {
     QVariantMap bucket = entry.toMap();
-    bucket["displayName"] = QCoreApplication::translate(
-        "HandBuckets", bucket.value("name").toString().toUtf8().constData());
+    bucket["displayName"] = handBucketDisplayName(bucket.value("name").toString());
     entry = bucket;
   }
   return list;

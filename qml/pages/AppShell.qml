@@ -13,8 +13,11 @@ import "../theme/font_families.js" as FontFamilies
 Item {
     id: shell
 
+    // The context objects of the entry.
     // qmllint disable unqualified
-    readonly property var controller: appController  ///< The context object of the entry.
+    readonly property var controller: appController
+    readonly property var translator: languageManager
+    readonly property var updateService: updates
     // qmllint enable unqualified
     readonly property Theme theme: theme_
     readonly property Typography type: type_
@@ -265,6 +268,9 @@ Item {
             SettingsPage {
                 theme: theme_
                 type: type_
+                controller: shell.controller
+                languageManager: shell.translator
+                updates: shell.updateService
             }
         }
     }

@@ -7,6 +7,10 @@ import Velmora
 ScrollPage {
     id: root
 
+    required property var controller
+    required property var languageManager
+    required property var updates
+
     function applyAccentHex(text: string) {
         theme.applyAccentHex(text)
     }
@@ -42,10 +46,23 @@ ScrollPage {
         }
 
         AppearanceCard {
-            Layout.fillWidth: true
             theme: root.theme
             type: root.type
+            language: root.languageManager.currentLanguage
+            onLanguageChosen: code => root.languageManager.setLanguage(code)
             onAccentChosen: text => root.applyAccentHex(text)
+        }
+
+        LicensesCard {
+            theme: root.theme
+            type: root.type
+            controller: root.controller
+        }
+
+        UpdatesCard {
+            theme: root.theme
+            type: root.type
+            updates: root.updates
         }
 
         RowLayout {

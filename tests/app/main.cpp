@@ -12,6 +12,7 @@ int main(int argc, char* argv[]) {
   qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
   qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
   qputenv("TMPDIR", home.path().toLocal8Bit());
+  qputenv("LC_ALL", "C.UTF-8");
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   ::testing::InitGoogleTest(&argc, argv);
   const QGuiApplication app(argc, argv);

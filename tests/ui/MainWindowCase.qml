@@ -26,6 +26,7 @@ TestCase {
     }
 
     function cleanup() {
+        shell.translator.setLanguage("en")
         controller.clearResults()
         tryVerify(() => !controller.running)
         parent = null

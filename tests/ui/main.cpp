@@ -11,6 +11,8 @@
 #include <QtQuickTest>
 
 #include "app_controller.h"
+#include "language_manager.h"
+#include "update_manager.h"
 
 /// Readies each engine as the entry of the program does.
 class Setup : public QObject {
@@ -28,15 +30,25 @@ class Setup : public QObject {
 
   void qmlEngineAvailable(QQmlEngine* engine) {
     engine->addImportPath("qrc:/");
+    languageManager_ = std::make_unique<LanguageManager>(engine);
+    engine->rootContext()->setContextProperty("languageManager", languageManager_.get());
+    updates_ = std::make_unique<UpdateManager>();
+    engine->rootContext()->setContextProperty("updates", updates_.get());
     controller_ = std::make_unique<AppController>();
     engine->rootContext()->setContextProperty("appController", controller_.get());
     engine->rootContext()->setContextProperty("testFolder", QUrl::fromLocalFile(folder_));
   }
 
-  void cleanupTestCase() { controller_.reset(); }
+  void cleanupTestCase() {
+    controller_.reset();
+    updates_.reset();
+    languageManager_.reset();
+  }
 
  private:
   const QString folder_;
+  std::unique_ptr<LanguageManager> languageManager_;
+  std::unique_ptr<UpdateManager> updates_;
   std::unique_ptr<AppController> controller_;
 };
 
@@ -50,6 +62,7 @@ int main(int argc, char* argv[]) {
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
   qputenv("XDG_CACHE_HOME", home.path().toUtf8());
   qputenv("TMPDIR", home.path().toUtf8());
+  qputenv("LC_ALL", "C.UTF-8");
   QQuickStyle::setStyle("Basic");
   Setup setup(home.path());
   return quick_test_main_with_setup(argc, argv, "velmora_ui_tests", QUICK_TEST_SOURCE_DIR, &setup);

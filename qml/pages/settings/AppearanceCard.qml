@@ -2,120 +2,92 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Controls
 import Velmora
+import "../../logic/languages.js" as Languages
 
-/// The look of the window: mode and accent.
-Card {
+/// The look of the window: mode, language and accent.
+SettingsCard {
     id: root
 
-    property Typography type: Fallback.type
+    property string language: "system"  ///< The code in force.
 
+    signal languageChosen(string code)
     signal accentChosen(string text)
 
-    component Explained: ColumnLayout {
-        property alias title: titleLabel.text
-        property alias note: noteLabel.text
+    title: qsTr("Appearance")
+    iconName: "palette"
 
-        Layout.fillWidth: true
-        spacing: 2
+    ExplainedSetting {
+        theme: root.theme
+        type: root.type
+        title: qsTr("Dark Mode")
+        note: qsTr("Use dark color scheme throughout the interface")
 
-        Label {
-            id: titleLabel
-
-            color: root.theme.text
-            font.pixelSize: root.type.bodyMd
-            font.weight: root.type.weightMedium
-        }
-
-        Label {
-            id: noteLabel
-
-            Layout.fillWidth: true
-            color: root.theme.textMuted
-            font.pixelSize: root.type.labelMd
-            wrapMode: Text.Wrap
+        BoundSwitch {
+            theme: root.theme
+            value: root.theme.dark
+            text: qsTr("Dark Mode")
+            onSwitched: on => root.theme.dark = on
         }
     }
 
-    ColumnLayout {
-        anchors.fill: parent
-        spacing: root.theme.spaceLg
+    ExplainedSetting {
+        theme: root.theme
+        type: root.type
+        title: qsTr("Language")
+        note: qsTr("Change the app language (takes effect immediately)")
 
-        RowLayout {
-            spacing: root.theme.spaceSm
+        ChoiceBox {
+            id: languageBox
 
-            Icon {
-                name: "palette"
-                color: root.theme.textMuted
+            width: 200
+            theme: root.theme
+            type: root.type
+            label: qsTr("Language")
+            model: [qsTr("System default"), ...Languages.OWN_NAMES]
+            onActivated: index => root.languageChosen(Languages.CODES[index])
+
+            Binding on currentIndex {
+                value: Languages.indexOf(root.language)
             }
+        }
+    }
 
-            CardTitle {
+    ExplainedSetting {
+        theme: root.theme
+        type: root.type
+        title: qsTr("Accent Color")
+        note: qsTr("Customize the app highlight color (buttons, accents, clubs/check).")
+
+        Repeater {
+            model: [
+                { label: qsTr("Green"), color: "#3FB950" },
+                { label: qsTr("Blue"), color: "#58A6FF" },
+                { label: qsTr("Purple"), color: "#A371F7" },
+                { label: qsTr("Gold"), color: "#F0B429" },
+                { label: qsTr("Orange"), color: "#F0883E" },
+                { label: qsTr("Red"), color: "#F85149" }
+            ]
+
+            AccentSwatch {
+                required property var modelData
+
+                anchors.verticalCenter: parent?.verticalCenter
                 theme: root.theme
                 type: root.type
-                text: qsTr("Appearance")
+                label: modelData.label
+                swatchColor: modelData.color
+                onClicked: root.accentChosen(modelData.color)
             }
         }
 
-        RowLayout {
-            Layout.fillWidth: true
-            spacing: root.theme.spaceLg
-
-            Explained {
-                title: qsTr("Dark Mode")
-                note: qsTr("Use dark color scheme throughout the interface")
-            }
-
-            BoundSwitch {
-                theme: root.theme
-                value: root.theme.dark
-                text: qsTr("Dark Mode")
-                onSwitched: on => root.theme.dark = on
-            }
-        }
-
-        RowLayout {
-            Layout.fillWidth: true
-            spacing: root.theme.spaceLg
-
-            Explained {
-                title: qsTr("Accent Color")
-                note: qsTr("Customize the app highlight color (buttons, accents, clubs/check).")
-            }
-
-            Row {
-                spacing: root.theme.spaceSm
-
-                Repeater {
-                    model: [
-                        { label: qsTr("Green"), color: "#3FB950" },
-                        { label: qsTr("Blue"), color: "#58A6FF" },
-                        { label: qsTr("Purple"), color: "#A371F7" },
-                        { label: qsTr("Gold"), color: "#F0B429" },
-                        { label: qsTr("Orange"), color: "#F0883E" },
-                        { label: qsTr("Red"), color: "#F85149" }
-                    ]
-
-                    AccentSwatch {
-                        required property var modelData
-
-                        theme: root.theme
-                        type: root.type
-                        label: modelData.label
-                        swatchColor: modelData.color
-                        onClicked: root.accentChosen(modelData.color)
-                    }
-                }
-            }
-
-            SecondaryButton {
-                Layout.preferredWidth: 90
-                Layout.preferredHeight: 32
-                theme: root.theme
-                text: qsTr("Reset")
-                enabled: root.theme.useAccentOverride
-                onClicked: root.accentChosen("")
-            }
+        SecondaryButton {
+            width: Math.max(90, implicitWidth)
+            height: 32
+            theme: root.theme
+            text: qsTr("Reset")
+            enabled: root.theme.useAccentOverride
+            onClicked: root.accentChosen("")
         }
     }
 }

@@ -1,0 +1,167 @@
+#include "update_manager.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QJsonDocument>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QSettings>
+#include <QTimer>
+
+namespace {
+
+constexpr char kManifestUrlKey[] = "updates/manifestUrl";
+constexpr char kCachedManifestKey[] = "updates/cachedManifestJson";
+constexpr char kCachedAtKey[] = "updates/cachedAt";
+constexpr char kDefaultManifestUrl[] = "https://updates.dunmarrow.example/downloads/latest.json";
+/// A manifest is a few hundred bytes.
+constexpr qint64 kLargestManifest = 1024 * 1024;
+
+QString normalizeUrl(const QString& text) {
+  QString url = text.trimmed();
+  while (url.endsWith('/')) url.chop(1);
+  return url;
+}
+
+/// The first address that is set: the user's, the environment's, the built-in one.
+QString initialManifestUrl() {
+  for (const QString& candidate :
+       {QSettings().value(kManifestUrlKey).toString(),
+        qEnvironmentVariable("VELMORA_UPDATE_MANIFEST_URL"),
+        qEnvironmentVariable("VELMORA_UPDATE_URL"), QString(kDefaultManifestUrl)}) {
+    const QString url = normalizeUrl(candidate);
+    if (!url.isEmpty()) return url;
+  }
+  return {};
+}
+
+}  // namespace
+
+QVersionNumber parseVersion(const QString& text) {
+  QString version = text.trimmed();
+  if (version.startsWith('v', Qt::CaseInsensitive)) version.remove(0, 1);
+  return QVersionNumber::fromString(version.section('+', 0, 0).section('-', 0, 0).trimmed());
+}
+
+UpdateManager::UpdateManager(QObject* parent, std::chrono::milliseconds timeLimit)
+    : QObject(parent), timeLimit_(timeLimit), manifestUrl_(initialManifestUrl()) {
+  applyStoredManifest();
+}
+
+QString UpdateManager::currentVersion() const {
+  return QCoreApplication::applicationVersion();
+}
+
+void UpdateManager::setManifestUrl(const QString& url) {
+  const QString normalized = normalizeUrl(url);
+  if (normalized == manifestUrl_) return;
+  manifestUrl_ = normalized;
+  QSettings().setValue(kManifestUrlKey, normalized);
+  emit manifestUrlChanged();
+}
+
+void UpdateManager::setBusy(bool busy) {
+  if (busy == busy_) return;
+  busy_ = busy;
+  emit busyChanged();
+}
+
+void UpdateManager::fail(const QString& error) {
+  lastError_ = error;
+  emit stateChanged();
+}
+
+void UpdateManager::applyStoredManifest() {
+  const QSettings settings;
+  const QByteArray text = settings.value(kCachedManifestKey).toString().trimmed().toUtf8();
+  if (text.isEmpty()) return;
+  const QJsonDocument manifest = QJsonDocument::fromJson(text);
+  if (!manifest.isObject()) return;
+  const QDateTime cachedAt = settings.value(kCachedAtKey).toDateTime();
+  if (cachedAt.isValid()) lastSuccessAt_ = cachedAt;
+  applyManifest(manifest.object());
+}
+
+void UpdateManager::applyManifest(const QJsonObject& manifest) {
+  const QString platformUrl = manifest.value("windows_url").toString().trimmed();
+  latestVersion_ = manifest.value("version").toString().trimmed();
+  releaseNotes_ = manifest.value("notes").toString();
+  downloadUrl_ =
+      QUrl(platformUrl.isEmpty() ? manifest.value("url").toString().trimmed() : platformUrl);
+  const QVersionNumber own = parseVersion(currentVersion());
+  const QVersionNumber latest = parseVersion(latestVersion_);
+  updateAvailable_ =
+      !own.isNull() && !latest.isNull() && own < latest && downloadUrl_.isValid();
+  emit stateChanged();
+}
+
+void UpdateManager::checkNow() {
+  lastCheckedAt_ = QDateTime::currentDateTimeUtc();
+  emit stateChanged();
+  if (busy_) return;
+  const QString url = normalizeUrl(manifestUrl_);
+  if (url.isEmpty()) {
+    fail(tr("Update URL is not configured."));
+    return;
+  }
+  if (reply_) reply_->abort();
+  setBusy(true);
+  fail({});
+
+  QNetworkRequest request{QUrl(url)};
+  request.setHeader(QNetworkRequest::ContentTypeHeader, "application/json");
+  request.setRawHeader("Accept", "application/json");
+  QNetworkReply* const reply = network_.get(request);
+  reply_ = reply;
+  QTimer::singleShot(timeLimit_, reply, [reply] {
+    if (reply->isRunning()) reply->abort();
+  });
+  connect(reply, &QNetworkReply::readyRead, reply, [reply] {
+    if (reply->bytesAvailable() > kLargestManifest) reply->abort();
+  });
+  connect(reply, &QNetworkReply::finished, this, [this, reply] { finish(reply); });
+}
+
+void UpdateManager::finish(QNetworkReply* reply) {
+  reply_ = nullptr;
+  reply->deleteLater();
+  setBusy(false);
+  if (reply->error() != QNetworkReply::NoError) {
+    fail(tr("Update check failed: %1").arg(reply->errorString()));
+    return;
+  }
+  const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+  const QJsonDocument manifest = QJsonDocument::fromJson(reply->readAll());
+  if (!manifest.isObject()) {
+    fail(tr("Invalid update response (HTTP %1).").arg(status));
+    return;
+  }
+  lastSuccessAt_ = QDateTime::currentDateTimeUtc();
+  applyManifest(manifest.object());
+  QSettings settings;
+  settings.setValue(kCachedManifestKey,
+                    QString::fromUtf8(manifest.toJson(QJsonDocument::Compact)));
+  settings.setValue(kCachedAtKey, lastSuccessAt_);
+}
+
+void UpdateManager::openDownloadUrl() {
+  if (downloadUrl_.isValid()) {
+    QDesktopServices::openUrl(downloadUrl_);
+  } else {
+    fail(tr("No download URL available."));
+  }
+}
+
+void UpdateManager::clearState() {
+  updateAvailable_ = false;
+  latestVersion_.clear();
+  downloadUrl_.clear();
+  releaseNotes_.clear();
+  lastError_.clear();
+  lastCheckedAt_ = {};
+  lastSuccessAt_ = {};
+  QSettings settings;
+  settings.remove(kCachedManifestKey);
+  settings.remove(kCachedAtKey);
+  emit stateChanged();
+}

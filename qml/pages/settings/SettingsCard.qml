@@ -1,0 +1,37 @@
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// A card of settings under its heading.
+Card {
+    id: root
+
+    property Typography type: Fallback.type
+    property string title
+    property string iconName
+    default property alias rows: rows_.data
+
+    Layout.fillWidth: true
+
+    ColumnLayout {
+        id: rows_
+
+        anchors.fill: parent
+        spacing: root.theme.spaceLg
+
+        RowLayout {
+            spacing: root.theme.spaceSm
+
+            Icon {
+                name: root.iconName
+                color: root.theme.textMuted
+            }
+
+            CardTitle {
+                theme: root.theme
+                type: root.type
+                text: root.title
+            }
+        }
+    }
+}

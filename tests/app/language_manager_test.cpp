@@ -1,0 +1,82 @@
+#include "language_manager.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QSettings>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include "app_test_support.h"
+
+namespace {
+
+QString categoryName() {
+  return QCoreApplication::translate("HandBuckets", "top pair");
+}
+
+class LanguageManagerTest : public ::testing::Test {
+ protected:
+  void SetUp() override { QSettings().remove("ui/language"); }
+  void TearDown() override {
+    LanguageManager(nullptr).setLanguage("en");
+    QSettings().remove("ui/language");
+    QLocale::setDefault(QLocale::c());
+  }
+
+  const LogCapture log_;
+};
+
+}  // namespace
+
+TEST_F(LanguageManagerTest, CodesAndTheNamesThatAreTried) {
+  for (const char* code : {"", "  ", "auto", " AUTO ", "System"}) {
+    EXPECT_EQ(normalizeLanguageCode(code), "system") << code;
+  }
+  EXPECT_EQ(normalizeLanguageCode(" pt_BR "), "pt_BR");
+  EXPECT_EQ(candidateNames("pt_BR", "de_DE"), (QStringList{"pt_BR", "pt"}));
+  EXPECT_EQ(candidateNames("de", "fr_FR"), (QStringList{"de", "de_DE", "de"}));
+  EXPECT_EQ(candidateNames("system", "de_AT"), (QStringList{"de_AT", "de"}));
+  EXPECT_EQ(candidateNames("system", "C"), (QStringList{"C"}));
+}
+
+TEST_F(LanguageManagerTest, EachCatalogueIsThere) {
+  LanguageManager languages(nullptr);
+  QStringList names;
+  for (const char* code : {"de", "es", "fr", "it", "pl", "pt_BR", "ru"}) {
+    languages.setLanguage(code);
+    EXPECT_EQ(log_.messages().last(), QString("Language set to %1 (translator loaded )").arg(code));
+    EXPECT_NE(categoryName(), "top pair") << code;
+    names.append(categoryName());
+    EXPECT_EQ(QLocale().language(), QLocale(code).language());
+  }
+  EXPECT_EQ(names.removeDuplicates(), 0);
+  languages.setLanguage("en");
+  EXPECT_EQ(log_.messages().last(), "Language set to en (translator not loaded )");
+  EXPECT_EQ(categoryName(), "top pair");
+  EXPECT_EQ(QSettings().value("ui/language"), "en");
+}
+
+TEST_F(LanguageManagerTest, OnlyAChangeIsStoredAndTold) {
+  LanguageManager languages(nullptr);
+  EXPECT_EQ(languages.currentLanguage(), "system");
+  const QSignalSpy changed(&languages, &LanguageManager::currentLanguageChanged);
+  languages.setLanguage(" AUTO ");
+  EXPECT_EQ(changed.count(), 0);
+  EXPECT_FALSE(QSettings().contains("ui/language"));
+  languages.setLanguage(" xx ");
+  EXPECT_EQ(changed.count(), 1);
+  EXPECT_EQ(languages.currentLanguage(), "xx");
+  EXPECT_EQ(QSettings().value("ui/language"), "xx");
+  EXPECT_EQ(categoryName(), "top pair");
+}
+
+TEST_F(LanguageManagerTest, TheStoredLanguageIsInForceFromTheStart) {
+  QSettings().setValue("ui/language", "ru");
+  EXPECT_EQ(LanguageManager(nullptr).currentLanguage(), "ru");
+  EXPECT_NE(categoryName(), "top pair");
+  // A first start follows the system, which speaks no language of ours here.
+  QSettings().remove("ui/language");
+  EXPECT_EQ(LanguageManager(nullptr).currentLanguage(), "system");
+  EXPECT_EQ(log_.messages().last(), "Language set to system (translator not loaded )");
+}
