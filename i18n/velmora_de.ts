@@ -5,1638 +5,2372 @@
     <name>AccentSwatch</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>ActionFigures</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>%1 combos</source>
-        <translation type="unfinished"></translation>
+        <translation>Combos: %1</translation>
     </message>
     <message>
         <source>%1% equity</source>
-        <translation type="unfinished"></translation>
+        <translation>Equity: %1%</translation>
     </message>
     <message>
         <source>%1 EV</source>
-        <translation type="unfinished"></translation>
+        <translation>EV: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ActivityGrid</name>
+    <message>
+        <source>Solve Activity</source>
+        <translation>Rechenaktivität</translation>
+    </message>
+    <message>
+        <source>Last 52 weeks</source>
+        <translation>Letzte 52 Wochen</translation>
     </message>
 </context>
 <context>
     <name>AppController</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>Starting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Startet …</translation>
     </message>
     <message>
         <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenig RAM für die Berechnung (auch ohne frühere Ergebnisse)</translation>
     </message>
     <message>
         <source>Already running</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft bereits</translation>
     </message>
     <message>
         <source>No previous solve config (solve once first)</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine frühere Konfiguration (zuerst einmal berechnen)</translation>
     </message>
     <message>
         <source>Cancelling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird abgebrochen …</translation>
     </message>
     <message>
         <source>Another file is still being saved or opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine andere Datei wird noch gespeichert oder geöffnet</translation>
     </message>
     <message>
         <source>Loaded project (%1 strategy nodes, %2 combo nodes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt geladen (Strategieknoten: %1, Combo-Knoten: %2)</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>Failed to open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei konnte nicht geöffnet werden</translation>
     </message>
     <message>
         <source>Unrecognized project format</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekanntes Projektformat</translation>
     </message>
     <message>
         <source>Unsupported project version</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht unterstützte Projektversion</translation>
     </message>
     <message>
         <source>Invalid JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiges JSON</translation>
     </message>
     <message>
         <source>Failed to save file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>Failed to open file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
     <name>AppearanceCard</name>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Erscheinungsbild</translation>
     </message>
     <message>
         <source>Dark Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkler Modus</translation>
     </message>
     <message>
         <source>Use dark color scheme throughout the interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkles Farbschema für die gesamte Oberfläche verwenden</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>Change the app language (takes effect immediately)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache der App ändern (wirkt sofort)</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemsprache</translation>
     </message>
     <message>
         <source>Accent Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Akzentfarbe</translation>
     </message>
     <message>
         <source>Customize the app highlight color (buttons, accents, clubs/check).</source>
-        <translation type="unfinished"></translation>
+        <translation>Akzentfarbe der App anpassen (Schaltflächen, Akzente, Kreuz/Check).</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Violett</translation>
     </message>
     <message>
         <source>Gold</source>
-        <translation type="unfinished"></translation>
+        <translation>Gold</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen</translation>
     </message>
 </context>
 <context>
     <name>BoardCard</name>
     <message>
         <source>Board</source>
-        <translation type="unfinished"></translation>
+        <translation>Board</translation>
     </message>
 </context>
 <context>
     <name>BoardDisplay</name>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>River</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
     <message>
         <source>Flop</source>
-        <translation type="unfinished"></translation>
+        <translation>Flop</translation>
     </message>
     <message>
         <source>Preflop</source>
-        <translation type="unfinished"></translation>
+        <translation>Preflop</translation>
     </message>
     <message>
         <source>Board</source>
-        <translation type="unfinished"></translation>
+        <translation>Board</translation>
     </message>
 </context>
 <context>
     <name>BucketRow</name>
     <message>
         <source>%1 combos</source>
-        <translation type="unfinished"></translation>
+        <translation>Combos: %1</translation>
     </message>
 </context>
 <context>
     <name>BucketsCard</name>
     <message>
         <source>Buckets</source>
-        <translation type="unfinished"></translation>
+        <translation>Handkategorien</translation>
     </message>
     <message>
         <source>%1 shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Angezeigt: %1</translation>
     </message>
 </context>
 <context>
     <name>BusyLabel</name>
     <message>
         <source>Loading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geladen …</translation>
     </message>
 </context>
 <context>
     <name>CardPicker</name>
     <message>
         <source>Cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Karten</translation>
     </message>
 </context>
 <context>
     <name>CardPickerDialog</name>
     <message>
         <source>Select card</source>
-        <translation type="unfinished"></translation>
+        <translation>Karte wählen</translation>
     </message>
     <message>
         <source>River card</source>
-        <translation type="unfinished"></translation>
+        <translation>River-Karte</translation>
     </message>
     <message>
         <source>Turn card</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn-Karte</translation>
     </message>
     <message>
         <source>Flop card</source>
-        <translation type="unfinished"></translation>
+        <translation>Flop-Karte</translation>
     </message>
     <message>
         <source>Clear card</source>
-        <translation type="unfinished"></translation>
+        <translation>Karte entfernen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>CardPickerTile</name>
     <message>
         <source>Already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Schon vergeben</translation>
     </message>
 </context>
 <context>
     <name>ChancePicker</name>
     <message>
         <source>Choose River Card</source>
-        <translation type="unfinished"></translation>
+        <translation>River-Karte wählen</translation>
     </message>
     <message>
         <source>Choose Turn Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn-Karte wählen</translation>
     </message>
     <message>
         <source>Random</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufällig</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>Chip</name>
     <message>
         <source>×</source>
-        <translation type="unfinished"></translation>
+        <translation>×</translation>
+    </message>
+</context>
+<context>
+    <name>ClearStatsDialog</name>
+    <message>
+        <source>Clear Play vs. Solution Stats</source>
+        <translation>Statistik „Gegen die Lösung“ löschen</translation>
+    </message>
+    <message>
+        <source>Clear all Play vs. Solution statistics (today + total)?</source>
+        <translation>Die gesamte Statistik „Gegen die Lösung“ löschen (heute + gesamt)?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>ComboRow</name>
     <message>
         <source>EV:</source>
-        <translation type="unfinished"></translation>
+        <translation>EV:</translation>
     </message>
 </context>
 <context>
     <name>ComputeCard</name>
     <message>
         <source>Compute</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechenleistung</translation>
     </message>
     <message>
         <source>Threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Threads</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Max.</translation>
     </message>
     <message>
         <source>Precision</source>
-        <translation type="unfinished"></translation>
+        <translation>Präzision</translation>
     </message>
     <message>
         <source>The solver computes in Float32, whatever is chosen here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Solver rechnet in Float32, unabhängig von dieser Auswahl.</translation>
     </message>
 </context>
 <context>
     <name>ConfigurationCard</name>
     <message>
         <source>flop</source>
-        <translation type="unfinished"></translation>
+        <translation>Flop</translation>
     </message>
     <message>
         <source>turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
     <message>
         <source>river</source>
-        <translation type="unfinished"></translation>
+        <translation>River</translation>
     </message>
     <message>
         <source>OOP: don&apos;t donk on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: kein Donk am %1</translation>
     </message>
     <message>
         <source>OOP: add all-in on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: All-in am %1 hinzufügen</translation>
     </message>
     <message>
         <source>IP: add all-in on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>IP: All-in am %1 hinzufügen</translation>
     </message>
     <message>
         <source>OOP: add all-in if jam &lt; %1% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: All-in hinzufügen, wenn Jam &lt; %1% Pot</translation>
     </message>
     <message>
         <source>IP: add all-in if jam &lt; %1% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>IP: All-in hinzufügen, wenn Jam &lt; %1% Pot</translation>
     </message>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfiguration</translation>
     </message>
     <message>
         <source>Street</source>
-        <translation type="unfinished"></translation>
+        <translation>Street</translation>
     </message>
     <message>
         <source>Pot / Stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Pot / Stack</translation>
     </message>
     <message>
         <source>%1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Target</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel</translation>
     </message>
     <message>
         <source>%1% (= %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% (= %2)</translation>
     </message>
     <message>
         <source>Rake</source>
-        <translation type="unfinished"></translation>
+        <translation>Rake</translation>
     </message>
     <message>
         <source>%1% (cap %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% (Cap %2)</translation>
     </message>
     <message>
         <source>Bet sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bet-Größen</translation>
     </message>
     <message>
         <source>F %1/%2 • T %3/%4 • R %5/%6</source>
-        <translation type="unfinished"></translation>
+        <translation>F %1/%2 • T %3/%4 • R %5/%6</translation>
     </message>
     <message>
         <source>Options enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktive Optionen</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Steuerung</translation>
     </message>
     <message>
         <source>Solving...</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird berechnet …</translation>
     </message>
     <message>
         <source>Start Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechnung starten</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>View Results →</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu den Ergebnissen →</translation>
     </message>
 </context>
 <context>
-    <name>DeleteProfileDialog</name>
+    <name>CustomActions</name>
     <message>
-        <source>Delete settings profile</source>
-        <translation type="unfinished"></translation>
+        <source>Are you sure you want to delete this folder?</source>
+        <translation>Diesen Ordner wirklich löschen?</translation>
     </message>
     <message>
-        <source>Are you sure you want to delete this saved profile?</source>
-        <translation type="unfinished"></translation>
+        <source>Are you sure you want to delete this range?</source>
+        <translation>Diese Range wirklich löschen?</translation>
+    </message>
+    <message>
+        <source>This will also delete %1 range(s). This cannot be undone.</source>
+        <translation>Auch alle Ranges darin werden gelöscht (Anzahl: %1). Das lässt sich nicht rückgängig machen.</translation>
     </message>
     <message>
         <source>This cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das lässt sich nicht rückgängig machen.</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <source>Save current range…</source>
+        <translation>Range speichern …</translation>
+    </message>
+    <message>
+        <source>Import range…</source>
+        <translation>Range importieren …</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Ordner anlegen …</translation>
+    </message>
+    <message>
+        <source>Delete selected…</source>
+        <translation>Auswahl löschen …</translation>
+    </message>
+    <message>
+        <source>Save OOP range</source>
+        <translation>OOP-Range speichern</translation>
+    </message>
+    <message>
+        <source>Save IP range</source>
+        <translation>IP-Range speichern</translation>
+    </message>
+    <message>
+        <source>Name this range:</source>
+        <translation>Name der Range:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN vs BB (default)</source>
+        <translation>z. B. BTN vs BB (Standard)</translation>
+    </message>
+    <message>
+        <source>Add folder (OOP)</source>
+        <translation>Ordner anlegen (OOP)</translation>
+    </message>
+    <message>
+        <source>Add folder (IP)</source>
+        <translation>Ordner anlegen (IP)</translation>
+    </message>
+    <message>
+        <source>Folder name:</source>
+        <translation>Ordnername:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN vs BB</source>
+        <translation>z. B. BTN vs BB</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Anlegen</translation>
+    </message>
+    <message>
+        <source>Delete range</source>
+        <translation>Range löschen</translation>
+    </message>
+</context>
+<context>
+    <name>DeleteDialog</name>
+    <message>
+        <source>This cannot be undone.</source>
+        <translation>Das lässt sich nicht rückgängig machen.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>DeveloperActions</name>
+    <message>
+        <source>Override</source>
+        <translation>Überschreiben</translation>
+    </message>
+    <message>
+        <source>Export standard…</source>
+        <translation>Standard exportieren …</translation>
+    </message>
+    <message>
+        <source>Export population…</source>
+        <translation>Population exportieren …</translation>
+    </message>
+    <message>
+        <source>Clear overrides…</source>
+        <translation>Überschreibungen löschen …</translation>
+    </message>
+    <message>
+        <source>Export Standard Ranges</source>
+        <translation>Standard-Ranges exportieren</translation>
+    </message>
+    <message>
+        <source>Export Population Ranges</source>
+        <translation>Population-Ranges exportieren</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Clear standard overrides</source>
+        <translation>Überschriebene Standard-Ranges löschen</translation>
+    </message>
+    <message>
+        <source>Clear population overrides</source>
+        <translation>Überschriebene Population-Ranges löschen</translation>
+    </message>
+    <message>
+        <source>Clear all locally overridden standard ranges for %1?</source>
+        <translation>Alle lokal überschriebenen Standard-Ranges für %1 löschen?</translation>
+    </message>
+    <message>
+        <source>Clear all locally overridden population ranges for %1?</source>
+        <translation>Alle lokal überschriebenen Population-Ranges für %1 löschen?</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>DrillBar</name>
+    <message>
+        <source>Stop drill</source>
+        <translation>Drill beenden</translation>
+    </message>
+    <message>
+        <source>Drill spot</source>
+        <translation>Spot drillen</translation>
     </message>
 </context>
 <context>
     <name>FileProgress</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>GameSettingsCard</name>
     <message>
         <source>Game Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Spieleinstellungen</translation>
     </message>
     <message>
         <source>Starting Pot</source>
-        <translation type="unfinished"></translation>
+        <translation>Start-Pot</translation>
     </message>
     <message>
         <source>e.g., 100</source>
-        <translation type="unfinished"></translation>
+        <translation>z. B. 100</translation>
     </message>
     <message>
         <source>Effective Stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Effektiver Stack</translation>
     </message>
     <message>
         <source>Rake (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rake (%)</translation>
     </message>
     <message>
         <source>e.g., 5.0</source>
-        <translation type="unfinished"></translation>
+        <translation>z. B. 5.0</translation>
     </message>
     <message>
         <source>Rake Cap</source>
-        <translation type="unfinished"></translation>
+        <translation>Rake-Cap</translation>
     </message>
     <message>
         <source>e.g., 0</source>
-        <translation type="unfinished"></translation>
+        <translation>z. B. 0</translation>
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel-Exploitability (%)</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
-        <translation type="unfinished"></translation>
+        <translation>z. B. 0.10</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>GameTreePanel</name>
     <message>
         <source>Game Tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielbaum</translation>
     </message>
 </context>
 <context>
     <name>HandBuckets</name>
     <message>
         <source>air</source>
-        <translation type="unfinished"></translation>
+        <translation>Air</translation>
     </message>
     <message>
         <source>back door flush draw</source>
-        <translation type="unfinished"></translation>
+        <translation>Backdoor-Flushdraw</translation>
     </message>
     <message>
         <source>bottom pair</source>
-        <translation type="unfinished"></translation>
+        <translation>Bottom Pair</translation>
     </message>
     <message>
         <source>dry pair</source>
-        <translation type="unfinished"></translation>
+        <translation>Underpair</translation>
     </message>
     <message>
         <source>flush</source>
-        <translation type="unfinished"></translation>
+        <translation>Flush</translation>
     </message>
     <message>
         <source>flush draw</source>
-        <translation type="unfinished"></translation>
+        <translation>Flushdraw</translation>
     </message>
     <message>
         <source>full house</source>
-        <translation type="unfinished"></translation>
+        <translation>Full House</translation>
     </message>
     <message>
         <source>gutter</source>
-        <translation type="unfinished"></translation>
+        <translation>Gutshot</translation>
     </message>
     <message>
         <source>middle pair</source>
-        <translation type="unfinished"></translation>
+        <translation>Middle Pair</translation>
     </message>
     <message>
         <source>missed FD</source>
-        <translation type="unfinished"></translation>
+        <translation>FD verpasst</translation>
     </message>
     <message>
         <source>missed OESD</source>
-        <translation type="unfinished"></translation>
+        <translation>OESD verpasst</translation>
     </message>
     <message>
         <source>missed gutter</source>
-        <translation type="unfinished"></translation>
+        <translation>Gutshot verpasst</translation>
     </message>
     <message>
         <source>open ended straight draw</source>
-        <translation type="unfinished"></translation>
+        <translation>Open-ended Straightdraw</translation>
     </message>
     <message>
         <source>overpair</source>
-        <translation type="unfinished"></translation>
+        <translation>Overpair</translation>
     </message>
     <message>
         <source>quads</source>
-        <translation type="unfinished"></translation>
+        <translation>Quads</translation>
     </message>
     <message>
         <source>set</source>
-        <translation type="unfinished"></translation>
+        <translation>Set</translation>
     </message>
     <message>
         <source>straight</source>
-        <translation type="unfinished"></translation>
+        <translation>Straight</translation>
     </message>
     <message>
         <source>straight flush</source>
-        <translation type="unfinished"></translation>
+        <translation>Straight Flush</translation>
     </message>
     <message>
         <source>top pair</source>
-        <translation type="unfinished"></translation>
+        <translation>Top Pair</translation>
     </message>
     <message>
         <source>trips</source>
-        <translation type="unfinished"></translation>
+        <translation>Trips</translation>
     </message>
     <message>
         <source>two pair</source>
-        <translation type="unfinished"></translation>
+        <translation>Two Pair</translation>
+    </message>
+</context>
+<context>
+    <name>HandDetails</name>
+    <message>
+        <source>Hand details</source>
+        <translation>Details zur Hand</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Flop</source>
+        <translation>Flop</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Turn</translation>
+    </message>
+    <message>
+        <source>River</source>
+        <translation>River</translation>
+    </message>
+    <message>
+        <source>Hands</source>
+        <translation>Hände</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Überblick</translation>
     </message>
 </context>
 <context>
     <name>HandDetailsCard</name>
     <message>
         <source>Loading hand combos…</source>
-        <translation type="unfinished"></translation>
+        <translation>Combos werden geladen …</translation>
     </message>
     <message>
         <source>No hand combos to display for this node.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diesen Knoten gibt es keine Combos.</translation>
     </message>
     <message>
         <source>No combos match the current filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Combos entsprechen den Filtern.</translation>
     </message>
     <message>
         <source>Hand Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Handdetails</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche</translation>
     </message>
     <message>
         <source>Search (JJ, 56s, JcJd, ...)</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche (JJ, 56s, JcJd, …)</translation>
     </message>
     <message>
         <source>Filter: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter: %1</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufheben</translation>
+    </message>
+</context>
+<context>
+    <name>HandLog</name>
+    <message>
+        <source>Hand Log</source>
+        <translation>Handverlauf</translation>
+    </message>
+    <message>
+        <source>%1 hands</source>
+        <translation>Hände: %1</translation>
+    </message>
+    <message>
+        <source>Hands that you finish are listed here.</source>
+        <translation>Hier erscheinen alle beendeten Hände.</translation>
+    </message>
+</context>
+<context>
+    <name>HandLogRow</name>
+    <message>
+        <source>EV -%1</source>
+        <translation>EV -%1</translation>
+    </message>
+    <message>
+        <source>Perfect</source>
+        <translation>Perfekt</translation>
     </message>
 </context>
 <context>
     <name>HandMatrix</name>
     <message>
         <source>Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Hände</translation>
     </message>
     <message>
         <source>%1, weight %2%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Gewicht %2%</translation>
+    </message>
+</context>
+<context>
+    <name>HandSummary</name>
+    <message>
+        <source>Winner: %1</source>
+        <translation>Gewinner: %1</translation>
+    </message>
+    <message>
+        <source>Won: %1</source>
+        <translation>Gewonnen: %1</translation>
+    </message>
+    <message>
+        <source>Rake: %1</source>
+        <translation>Rake: %1</translation>
+    </message>
+    <message>
+        <source>EV lost: %1</source>
+        <translation>EV-Verlust: %1</translation>
+    </message>
+    <message>
+        <source>Incorrect: %1</source>
+        <translation>Falsch: %1</translation>
+    </message>
+    <message>
+        <source>Correct: %1</source>
+        <translation>Richtig: %1</translation>
     </message>
 </context>
 <context>
     <name>HeroBand</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>A modern, high-performance holdem solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein moderner, leistungsstarker Hold’em-Solver</translation>
     </message>
     <message>
         <source>New Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Berechnung</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei öffnen</translation>
     </message>
 </context>
 <context>
-    <name>HomePage</name>
+    <name>ImportRange</name>
     <message>
-        <source>Play vs. Solution</source>
-        <translation type="unfinished"></translation>
+        <source>Import failed: %1</source>
+        <translation>Import fehlgeschlagen: %1</translation>
     </message>
     <message>
-        <source>No hands played yet.</source>
-        <translation type="unfinished"></translation>
+        <source>unknown error</source>
+        <translation>unbekannter Fehler</translation>
     </message>
     <message>
-        <source>Solve Activity</source>
-        <translation type="unfinished"></translation>
+        <source>Import failed: file contained no recognizable hands.</source>
+        <translation>Import fehlgeschlagen: Die Datei enthält keine erkennbaren Hände.</translation>
     </message>
     <message>
-        <source>Last solve: %1</source>
-        <translation type="unfinished"></translation>
+        <source>Import Range</source>
+        <translation>Range importieren</translation>
     </message>
     <message>
-        <source>No solve in this session yet.</source>
-        <translation type="unfinished"></translation>
+        <source>Range text (*.txt)</source>
+        <translation>Range-Text (*.txt)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Name this range:</source>
+        <translation>Name der Range:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN open (custom)</source>
+        <translation>z. B. BTN Open (eigene)</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryColumn</name>
+    <message>
+        <source>No ranges yet.</source>
+        <translation>Noch keine Ranges.</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryRow</name>
+    <message>
+        <source>Open folder</source>
+        <translation>Geöffneter Ordner</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
     </message>
 </context>
 <context>
     <name>LicensesCard</name>
     <message>
         <source>Licenses</source>
-        <translation type="unfinished"></translation>
+        <translation>Lizenzen</translation>
     </message>
     <message>
         <source>Qt Framework</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt Framework</translation>
     </message>
     <message>
         <source>Runtime (dynamic linking)</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufzeit (dynamisch gelinkt)</translation>
     </message>
     <message>
         <source>LGPL v3</source>
-        <translation type="unfinished"></translation>
+        <translation>LGPL v3</translation>
     </message>
     <message>
         <source>oneTBB</source>
-        <translation type="unfinished"></translation>
+        <translation>oneTBB</translation>
     </message>
     <message>
         <source>Threading</source>
-        <translation type="unfinished"></translation>
+        <translation>Multithreading</translation>
     </message>
     <message>
         <source>Apache 2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Apache 2.0</translation>
     </message>
     <message>
         <source>Third-party notices and license texts are included in the &apos;licenses&apos; folder next to the executable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweise zu Drittanbietern und Lizenztexte liegen im Ordner „licenses“ neben der Programmdatei.</translation>
     </message>
     <message>
         <source>Open licenses folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Lizenzordner öffnen</translation>
     </message>
     <message>
         <source>Open notices</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweise öffnen</translation>
     </message>
 </context>
 <context>
     <name>LoadProfileDialog</name>
     <message>
         <source>Please select a profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte ein Profil auswählen.</translation>
     </message>
     <message>
         <source>Load Settings Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungsprofil laden</translation>
     </message>
     <message>
         <source>Choose a saved profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichertes Profil wählen:</translation>
     </message>
     <message>
         <source>No saved profiles yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Profile gespeichert.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>Delete settings profile</source>
+        <translation>Einstellungsprofil löschen</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this saved profile?</source>
+        <translation>Dieses gespeicherte Profil wirklich löschen?</translation>
     </message>
 </context>
 <context>
     <name>LockModeButtons</name>
     <message>
         <source>Standard mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardmodus</translation>
     </message>
     <message>
         <source>Node-lock mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Node-Lock-Modus</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
 </context>
 <context>
     <name>MessageBox</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>NameDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>NodeBox</name>
     <message>
         <source>Pot</source>
-        <translation type="unfinished"></translation>
+        <translation>Pot</translation>
     </message>
     <message>
         <source>Stack (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stack (%1)</translation>
     </message>
     <message>
         <source>To call</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu callen</translation>
     </message>
 </context>
 <context>
     <name>NodeLockPanel</name>
     <message>
         <source>Node-Locking</source>
-        <translation type="unfinished"></translation>
+        <translation>Node-Locking</translation>
     </message>
     <message>
         <source>Node-locking is only available on decision nodes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Node-Locking geht nur an Entscheidungsknoten.</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht</translation>
     </message>
     <message>
         <source>0..1</source>
-        <translation type="unfinished"></translation>
+        <translation>0..1</translation>
     </message>
     <message>
         <source>Reset weights</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>Re-solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu berechnen</translation>
     </message>
     <message>
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipp: Oben eine Aktion wählen, dann eine Hand in der Matrix anklicken, um sie zu locken.</translation>
     </message>
 </context>
 <context>
     <name>NodeView</name>
     <message>
         <source>Random river card</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufällige River-Karte</translation>
     </message>
     <message>
         <source>Random turn card</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufällige Turn-Karte</translation>
+    </message>
+</context>
+<context>
+    <name>PlayActionButton</name>
+    <message>
+        <source>Key %1</source>
+        <translation>Taste %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPanel</name>
+    <message>
+        <source>Play vs. Solution</source>
+        <translation>Gegen die Lösung</translation>
+    </message>
+    <message>
+        <source>Role: %1</source>
+        <translation>Rolle: %1</translation>
+    </message>
+    <message>
+        <source>Choose a role to start</source>
+        <translation>Zum Start eine Rolle wählen</translation>
+    </message>
+    <message>
+        <source>No hands can be dealt here. Solve the spot again to play it.</source>
+        <translation>Hier lassen sich keine Hände austeilen. Zum Spielen den Spot neu berechnen.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPrompt</name>
+    <message>
+        <source>%1 loses %2 EV. Best: %3</source>
+        <translation>%1 verliert %2 EV. Besser: %3</translation>
+    </message>
+    <message>
+        <source>Perfect</source>
+        <translation>Perfekt</translation>
+    </message>
+    <message>
+        <source>Another hand</source>
+        <translation>Nächste Hand</translation>
+    </message>
+</context>
+<context>
+    <name>PlaySeat</name>
+    <message>
+        <source>%1: no cards</source>
+        <translation>%1: keine Karten</translation>
+    </message>
+    <message>
+        <source>%1: opponent&apos;s cards, face down</source>
+        <translation>%1: Karten des Gegners, verdeckt</translation>
+    </message>
+    <message>
+        <source>Stack: %1</source>
+        <translation>Stack: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlaySession</name>
+    <message>
+        <source>Wrong — best: %1 (EV -%2)</source>
+        <translation>Falsch – besser: %1 (EV -%2)</translation>
+    </message>
+    <message>
+        <source>Correct</source>
+        <translation>Richtig</translation>
+    </message>
+</context>
+<context>
+    <name>PlayTable</name>
+    <message>
+        <source>Table</source>
+        <translation>Tisch</translation>
+    </message>
+    <message>
+        <source>Dealer button</source>
+        <translation>Dealer-Button</translation>
+    </message>
+    <message>
+        <source>Pot: %1</source>
+        <translation>Pot: %1</translation>
+    </message>
+    <message>
+        <source>Click Turn/River to change</source>
+        <translation>Zum Ändern Turn/River anklicken</translation>
+    </message>
+    <message>
+        <source>OOP action: %1</source>
+        <translation>Aktion OOP: %1</translation>
     </message>
 </context>
 <context>
     <name>PlayingCard</name>
     <message>
         <source>Face-down card</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdeckte Karte</translation>
     </message>
     <message>
         <source>Empty card slot</source>
-        <translation type="unfinished"></translation>
+        <translation>Leerer Kartenplatz</translation>
     </message>
     <message>
         <source>?</source>
-        <translation type="unfinished"></translation>
+        <translation>?</translation>
     </message>
 </context>
 <context>
     <name>ProgressCard</name>
     <message>
         <source>Iteration %1 | exploitability=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Iteration %1 | Exploitability=%2</translation>
     </message>
     <message>
         <source>Ready to solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit zum Berechnen</translation>
     </message>
     <message>
         <source>Finalizing…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird abgeschlossen …</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Solver converged — finalizing results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Solver konvergiert – Ergebnisse werden fertiggestellt …</translation>
     </message>
     <message>
         <source>Window %1/%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervall %1/%2</translation>
     </message>
     <message>
         <source>Iterations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Iterationen: %1</translation>
     </message>
     <message>
         <source>Metrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennzahlen</translation>
     </message>
     <message>
         <source>Elapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Verstrichen</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbleibend</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>it/s</source>
-        <translation type="unfinished"></translation>
+        <translation>it/s</translation>
     </message>
     <message>
         <source>Exploitability</source>
-        <translation type="unfinished"></translation>
+        <translation>Exploitability</translation>
     </message>
     <message>
         <source>Measuring...</source>
-        <translation type="unfinished"></translation>
+        <translation>Messung …</translation>
     </message>
 </context>
 <context>
     <name>ProgressRing</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>ProjectFiles</name>
     <message>
         <source>Velmora Project (*.velmoraproj)</source>
-        <translation type="unfinished"></translation>
+        <translation>Velmora-Projekt (*.velmoraproj)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt speichern</translation>
     </message>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt öffnen</translation>
     </message>
     <message>
         <source>unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannter Fehler</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
 </context>
 <context>
     <name>ProjectHeader</name>
     <message>
         <source>Project Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt einrichten</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>Setup Required</source>
-        <translation type="unfinished"></translation>
+        <translation>Unvollständig</translation>
     </message>
     <message>
         <source>Solve RAM: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM-Bedarf: %1</translation>
     </message>
     <message>
         <source>Available RAM: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM verfügbar: %1</translation>
     </message>
     <message>
         <source>Continue to Solve →</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>ProjectPage</name>
-    <message>
-        <source>Import failed: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>unknown error</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import failed: file contained no recognizable hands.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import Range</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Range text (*.txt)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter zur Berechnung →</translation>
     </message>
 </context>
 <context>
     <name>QuickActionsCard</name>
     <message>
         <source>Quick Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnellzugriff</translation>
     </message>
     <message>
         <source>New Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Berechnung</translation>
     </message>
     <message>
         <source>Configure board, ranges, tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Board, Ranges und Baum festlegen</translation>
     </message>
     <message>
         <source>Quick Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnellberechnung</translation>
     </message>
     <message>
         <source>Use default settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Standardeinstellungen</translation>
     </message>
     <message>
         <source>Import Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range importieren</translation>
     </message>
     <message>
         <source>Load from file</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Datei laden</translation>
     </message>
 </context>
 <context>
     <name>RangeCard</name>
     <message>
         <source>OOP Range</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP-Range</translation>
     </message>
     <message>
         <source>IP Range</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Range</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>RangeColumn</name>
-    <message>
-        <source>Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
-        <source>Combos</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Share</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1%</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import range…</source>
-        <translation type="unfinished"></translation>
+        <source>%1 combos (%2%)</source>
+        <translation>Combos: %1 (%2%)</translation>
     </message>
 </context>
 <context>
     <name>RangeEditor</name>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range</translation>
     </message>
     <message>
         <source>%1 hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Hände: %1</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation type="unfinished"></translation>
+        <translation>z. B. AA, KK, AKs, QQ+ oder 50%</translation>
+    </message>
+</context>
+<context>
+    <name>RangeLibraries</name>
+    <message>
+        <source>Standard Ranges</source>
+        <translation>Standard-Ranges</translation>
+    </message>
+    <message>
+        <source>Population Ranges</source>
+        <translation>Population-Ranges</translation>
+    </message>
+    <message>
+        <source>Custom Ranges</source>
+        <translation>Eigene Ranges</translation>
+    </message>
+    <message>
+        <source>Please enter a name.</source>
+        <translation>Bitte einen Namen eingeben.</translation>
+    </message>
+    <message>
+        <source>No range content to import.</source>
+        <translation>Keine Range zum Importieren.</translation>
+    </message>
+    <message>
+        <source>Import failed.</source>
+        <translation>Import fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Export failed: %1</source>
+        <translation>Export fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>unbekannter Fehler</translation>
+    </message>
+    <message>
+        <source>Failed to load bundled standard presets (resource file missing/empty).</source>
+        <translation>Mitgelieferte Standard-Ranges konnten nicht geladen werden (Ressourcendatei fehlt oder ist leer).</translation>
+    </message>
+    <message>
+        <source>Failed to load bundled presets: </source>
+        <translation>Mitgelieferte Ranges konnten nicht geladen werden: </translation>
     </message>
 </context>
 <context>
     <name>RangeTextField</name>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation type="unfinished"></translation>
+        <translation>z. B. AA, KK, AKs, QQ+ oder 50%</translation>
     </message>
 </context>
 <context>
     <name>RecentRunsCard</name>
     <message>
         <source>Recent Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Läufe</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>No runs yet — click Start Solve to record a run here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Läufe – mit „Berechnung starten“ erscheint hier der erste.</translation>
     </message>
 </context>
 <context>
     <name>ResultsHeader</name>
     <message>
         <source>Strategy View</source>
-        <translation type="unfinished"></translation>
+        <translation>Strategieansicht</translation>
     </message>
     <message>
         <source>%1 to act</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 am Zug</translation>
     </message>
     <message>
         <source>EV (OOP)</source>
-        <translation type="unfinished"></translation>
+        <translation>EV (OOP)</translation>
     </message>
     <message>
         <source>EV (IP)</source>
-        <translation type="unfinished"></translation>
+        <translation>EV (IP)</translation>
     </message>
     <message>
         <source>Exploitability</source>
-        <translation type="unfinished"></translation>
+        <translation>Exploitability</translation>
+    </message>
+    <message>
+        <source>Range view</source>
+        <translation>Range-Ansicht</translation>
+    </message>
+    <message>
+        <source>Play vs solution</source>
+        <translation>Gegen die Lösung</translation>
+    </message>
+</context>
+<context>
+    <name>RoleChoice</name>
+    <message>
+        <source>Play as OOP</source>
+        <translation>Als OOP spielen</translation>
+    </message>
+    <message>
+        <source>Play as both</source>
+        <translation>Beide spielen</translation>
+    </message>
+    <message>
+        <source>Play as IP</source>
+        <translation>Als IP spielen</translation>
     </message>
 </context>
 <context>
     <name>RunHistory</name>
     <message>
         <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Iterationen %1 • Ziel %2% (≈ %3) • Threads %4</translation>
     </message>
 </context>
 <context>
     <name>RunRow</name>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen</translation>
     </message>
 </context>
 <context>
-    <name>SaveProfileDialog</name>
+    <name>SeatLibrary</name>
     <message>
         <source>Please enter a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte einen Namen eingeben.</translation>
     </message>
     <message>
-        <source>Save Settings Profile</source>
-        <translation type="unfinished"></translation>
+        <source>Current range is empty.</source>
+        <translation>Die aktuelle Range ist leer.</translation>
     </message>
     <message>
-        <source>Profile name:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>e.g., 100bb rake-free (fast)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation type="unfinished"></translation>
+        <source>Please enter a folder name.</source>
+        <translation>Bitte einen Ordnernamen eingeben.</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Standard setzen</translation>
     </message>
     <message>
         <source>Save Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen speichern</translation>
     </message>
 </context>
 <context>
     <name>SettingsProfilesCard</name>
     <message>
         <source>Load settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen laden</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen speichern</translation>
+    </message>
+    <message>
+        <source>Please enter a name.</source>
+        <translation>Bitte einen Namen eingeben.</translation>
+    </message>
+    <message>
+        <source>Save Settings Profile</source>
+        <translation>Einstellungsprofil speichern</translation>
+    </message>
+    <message>
+        <source>Profile name:</source>
+        <translation>Profilname:</translation>
+    </message>
+    <message>
+        <source>e.g., 100bb rake-free (fast)</source>
+        <translation>z. B. 100bb ohne Rake (schnell)</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>♠</source>
-        <translation type="unfinished"></translation>
+        <translation>♠</translation>
     </message>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>Poker Solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Poker-Solver</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Overview &amp; quick actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Überblick &amp; Schnellzugriff</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt</translation>
     </message>
     <message>
         <source>Board, ranges, tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Board, Ranges, Baum</translation>
     </message>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechnung</translation>
     </message>
     <message>
         <source>Run solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Solver ausführen</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse</translation>
     </message>
     <message>
         <source>Browse strategies</source>
-        <translation type="unfinished"></translation>
+        <translation>Strategien ansehen</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>App anpassen</translation>
     </message>
     <message>
         <source>v0.1.0 dev</source>
-        <translation type="unfinished"></translation>
+        <translation>v0.1.0 dev</translation>
     </message>
 </context>
 <context>
     <name>SizingCard</name>
     <message>
         <source>OOP</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP</translation>
     </message>
     <message>
         <source>IP</source>
-        <translation type="unfinished"></translation>
+        <translation>IP</translation>
     </message>
     <message>
         <source>Flop</source>
-        <translation type="unfinished"></translation>
+        <translation>Flop</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>River</translation>
     </message>
     <message>
         <source>OOP Sizing</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP-Sizings</translation>
     </message>
     <message>
         <source>IP Sizing</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Sizings</translation>
     </message>
     <message>
         <source>Bet sizes (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bet-Größen (%)</translation>
     </message>
     <message>
         <source>Raise sizes (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Raise-Größen (%)</translation>
     </message>
     <message>
         <source>Add All-In</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit All-in</translation>
     </message>
     <message>
         <source>Don&apos;t donk</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Donk</translation>
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation type="unfinished"></translation>
+        <translation>All-in hinzufügen, wenn Jam unter</translation>
     </message>
     <message>
         <source>e.g. 30</source>
-        <translation type="unfinished"></translation>
+        <translation>z. B. 30</translation>
     </message>
     <message>
         <source>% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>% Pot</translation>
+    </message>
+</context>
+<context>
+    <name>SolveActivityCard</name>
+    <message>
+        <source>Solve Activity</source>
+        <translation>Rechenaktivität</translation>
+    </message>
+    <message>
+        <source>Last 52 weeks</source>
+        <translation>Letzte 52 Wochen</translation>
     </message>
 </context>
 <context>
     <name>SolvePage</name>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechnung</translation>
     </message>
     <message>
         <source>Run the CFR solver and monitor progress in real-time.</source>
-        <translation type="unfinished"></translation>
+        <translation>CFR-Solver ausführen und den Fortschritt live verfolgen.</translation>
     </message>
     <message>
         <source>Finalizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließt ab</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit</translation>
     </message>
 </context>
 <context>
     <name>StatusChip</name>
     <message>
         <source>Finalizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließt ab</translation>
     </message>
     <message>
         <source>Solving</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechnet</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>%1 %2%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2%</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>StrategyColumn</name>
     <message>
         <source>Strategy by Hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Strategie je Hand</translation>
     </message>
 </context>
 <context>
     <name>StrategyPanel</name>
     <message>
         <source>Action Frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktionshäufigkeiten</translation>
     </message>
 </context>
 <context>
     <name>SystemCard</name>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>System</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Engine</translation>
     </message>
     <message>
         <source>Dunmarrow Core</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow Core</translation>
     </message>
     <message>
         <source>Threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Threads</translation>
     </message>
     <message>
         <source>%1 available</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verfügbar</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicher</translation>
     </message>
     <message>
         <source>%1 (%2 free)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 frei)</translation>
     </message>
 </context>
 <context>
     <name>TopBar</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt</translation>
     </message>
     <message>
         <source>Start a new project (or load one) from Home to enable Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter „Start“ ein Projekt anlegen (oder laden), um „Projekt“ freizuschalten</translation>
     </message>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechnung</translation>
     </message>
     <message>
         <source>Fill board, ranges, and sizings to enable Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Board, Ranges und Sizings ausfüllen, um „Berechnung“ freizuschalten</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse</translation>
     </message>
     <message>
         <source>Run a solve to enable Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst berechnen, um „Ergebnisse“ freizuschalten</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>TrainerStatsCard</name>
+    <message>
+        <source>Play vs. Solution</source>
+        <translation>Gegen die Lösung</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Clear Play vs. Solution Stats</source>
+        <translation>Statistik „Gegen die Lösung“ löschen</translation>
+    </message>
+    <message>
+        <source>Hands (Today / Total)</source>
+        <translation>Hände (heute / gesamt)</translation>
+    </message>
+    <message>
+        <source>Accuracy (Today / Total)</source>
+        <translation>Genauigkeit (heute / gesamt)</translation>
+    </message>
+    <message>
+        <source>Avg EV Loss (Today / Total)</source>
+        <translation>Ø EV-Verlust (heute / gesamt)</translation>
+    </message>
+    <message>
+        <source>EV</source>
+        <translation>EV</translation>
     </message>
 </context>
 <context>
     <name>TreeLevel</name>
     <message>
         <source>Available actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Mögliche Aktionen</translation>
     </message>
     <message>
         <source>%1 options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen: %1</translation>
     </message>
     <message>
         <source>Deal %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1-Karte</translation>
     </message>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>River</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
 </context>
 <context>
     <name>TreeNode</name>
     <message>
         <source>Terminal</source>
-        <translation type="unfinished"></translation>
+        <translation>Endknoten</translation>
     </message>
     <message>
         <source>Deal</source>
-        <translation type="unfinished"></translation>
+        <translation>Karte</translation>
     </message>
     <message>
         <source>Pot: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pot: %1</translation>
     </message>
     <message>
         <source>Freq: %1%</source>
-        <translation type="unfinished"></translation>
+        <translation>Freq.: %1%</translation>
     </message>
     <message>
         <source>EV: %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>EV: %1%2</translation>
     </message>
 </context>
 <context>
     <name>TreeWalk</name>
     <message>
         <source>Root</source>
-        <translation type="unfinished"></translation>
+        <translation>Wurzel</translation>
     </message>
 </context>
 <context>
     <name>UpdateManager</name>
     <message>
         <source>Update URL is not configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine Update-URL eingerichtet.</translation>
     </message>
     <message>
         <source>Update check failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Update-Prüfung fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>Invalid update response (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Antwort des Update-Servers (HTTP %1).</translation>
     </message>
     <message>
         <source>No download URL available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Download-URL verfügbar.</translation>
     </message>
 </context>
 <context>
     <name>UpdatesCard</name>
     <message>
         <source>Last checked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geprüft: %1</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates</translation>
     </message>
     <message>
         <source>Current version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Version: %1</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannt</translation>
     </message>
     <message>
         <source>Update available: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Update verfügbar: %1</translation>
     </message>
     <message>
         <source>Checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geprüft …</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen</translation>
     </message>
     <message>
         <source>Download update</source>
-        <translation type="unfinished"></translation>
+        <translation>Update herunterladen</translation>
     </message>
 </context>
 <context>
     <name>card_names</name>
     <message>
         <source>spades</source>
-        <translation type="unfinished"></translation>
+        <translation>Pik</translation>
     </message>
     <message>
         <source>hearts</source>
-        <translation type="unfinished"></translation>
+        <translation>Herz</translation>
     </message>
     <message>
         <source>diamonds</source>
-        <translation type="unfinished"></translation>
+        <translation>Karo</translation>
     </message>
     <message>
         <source>clubs</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreuz</translation>
     </message>
     <message>
         <source>Ace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ass</translation>
     </message>
     <message>
         <source>King</source>
-        <translation type="unfinished"></translation>
+        <translation>König</translation>
     </message>
     <message>
         <source>Queen</source>
-        <translation type="unfinished"></translation>
+        <translation>Dame</translation>
     </message>
     <message>
         <source>Jack</source>
-        <translation type="unfinished"></translation>
+        <translation>Bube</translation>
     </message>
     <message>
         <source>Ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn</translation>
     </message>
     <message>
         <source>Nine</source>
-        <translation type="unfinished"></translation>
+        <translation>Neun</translation>
     </message>
     <message>
         <source>Eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Acht</translation>
     </message>
     <message>
         <source>Seven</source>
-        <translation type="unfinished"></translation>
+        <translation>Sieben</translation>
     </message>
     <message>
         <source>Six</source>
-        <translation type="unfinished"></translation>
+        <translation>Sechs</translation>
     </message>
     <message>
         <source>Five</source>
-        <translation type="unfinished"></translation>
+        <translation>Fünf</translation>
     </message>
     <message>
         <source>Four</source>
-        <translation type="unfinished"></translation>
+        <translation>Vier</translation>
     </message>
     <message>
         <source>Three</source>
-        <translation type="unfinished"></translation>
+        <translation>Drei</translation>
     </message>
     <message>
         <source>Two</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2-%1</translation>
+    </message>
+</context>
+<context>
+    <name>range_library_names</name>
+    <message>
+        <source>6-max</source>
+        <translation>6-max</translation>
+    </message>
+    <message>
+        <source>Heads up</source>
+        <translation>Heads-up</translation>
+    </message>
+    <message>
+        <source>No rake</source>
+        <translation>Ohne Rake</translation>
+    </message>
+    <message>
+        <source>50nl rake</source>
+        <translation>NL50-Rake</translation>
+    </message>
+    <message>
+        <source>100nl rake</source>
+        <translation>NL100-Rake</translation>
+    </message>
+    <message>
+        <source>200nl rake</source>
+        <translation>NL200-Rake</translation>
+    </message>
+    <message>
+        <source>500nl rake</source>
+        <translation>NL500-Rake</translation>
+    </message>
+    <message>
+        <source>RFI</source>
+        <translation>RFI</translation>
+    </message>
+    <message>
+        <source>vs RFI</source>
+        <translation>vs RFI</translation>
+    </message>
+    <message>
+        <source>vs 3bet</source>
+        <translation>vs 3bet</translation>
+    </message>
+    <message>
+        <source>vs 4bet</source>
+        <translation>vs 4bet</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Call</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Fold</translation>
+    </message>
+    <message>
+        <source>3bet</source>
+        <translation>3bet</translation>
+    </message>
+    <message>
+        <source>4bet</source>
+        <translation>4bet</translation>
+    </message>
+    <message>
+        <source>Limp</source>
+        <translation>Limp</translation>
+    </message>
+    <message>
+        <source>Limp-call</source>
+        <translation>Limp-call</translation>
+    </message>
+    <message>
+        <source>Limp-3b</source>
+        <translation>Limp-3b</translation>
+    </message>
+    <message>
+        <source>Call raise</source>
+        <translation>Call raise</translation>
+    </message>
+    <message>
+        <source>Check back</source>
+        <translation>Check back</translation>
+    </message>
+    <message>
+        <source>3b</source>
+        <translation>3b</translation>
+    </message>
+    <message>
+        <source>4b</source>
+        <translation>4b</translation>
+    </message>
+    <message>
+        <source>Call 3b</source>
+        <translation>Call 3b</translation>
+    </message>
+    <message>
+        <source>Call 4b</source>
+        <translation>Call 4b</translation>
+    </message>
+    <message>
+        <source>3b cold call</source>
+        <translation>3b Cold Call</translation>
+    </message>
+    <message>
+        <source>Bomb pot</source>
+        <translation>Bomb pot</translation>
+    </message>
+    <message>
+        <source>Weaker regs</source>
+        <translation>Schwächere Regs</translation>
+    </message>
+    <message>
+        <source>Tighter reg</source>
+        <translation>Tighterer Reg</translation>
+    </message>
+    <message>
+        <source>Looser reg</source>
+        <translation>Looserer Reg</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstige</translation>
+    </message>
+    <message>
+        <source>Nit</source>
+        <translation>Nit</translation>
+    </message>
+    <message>
+        <source>Overfolder</source>
+        <translation>Overfolder</translation>
+    </message>
+    <message>
+        <source>Passive</source>
+        <translation>Passiv</translation>
+    </message>
+    <message>
+        <source>Passive tight</source>
+        <translation>Passiv-tight</translation>
+    </message>
+    <message>
+        <source>Passive neutral</source>
+        <translation>Passiv-neutral</translation>
+    </message>
+    <message>
+        <source>Passive loose</source>
+        <translation>Passiv-loose</translation>
+    </message>
+    <message>
+        <source>Extreme loose</source>
+        <translation>Extrem loose</translation>
+    </message>
+    <message>
+        <source>Loose aggressive</source>
+        <translation>Loose-aggressiv</translation>
+    </message>
+    <message>
+        <source>Standard LAG</source>
+        <translation>Standard-LAG</translation>
+    </message>
+    <message>
+        <source>Maniac</source>
+        <translation>Maniac</translation>
+    </message>
+    <message>
+        <source>vs %1 RFI</source>
+        <translation>vs %1 RFI</translation>
+    </message>
+    <message>
+        <source>%1 vs %2 3bet</source>
+        <translation>%1 vs %2 3bet</translation>
+    </message>
+    <message>
+        <source>%1 3bet vs %2 4bet</source>
+        <translation>%1 3bet vs %2 4bet</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 (VPIP %2)</source>
+        <translation>%1 (VPIP %2)</translation>
+    </message>
+</context>
+<context>
+    <name>solve_activity</name>
+    <message>
+        <source>Mon</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>Di</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>Mi</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>Fr</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Sa</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>So</translation>
+    </message>
+    <message>
+        <source>Jan</source>
+        <translation>Jan</translation>
+    </message>
+    <message>
+        <source>Feb</source>
+        <translation>Feb</translation>
+    </message>
+    <message>
+        <source>Mar</source>
+        <translation>Mär</translation>
+    </message>
+    <message>
+        <source>Apr</source>
+        <translation>Apr</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>Mai</translation>
+    </message>
+    <message>
+        <source>Jun</source>
+        <translation>Jun</translation>
+    </message>
+    <message>
+        <source>Jul</source>
+        <translation>Jul</translation>
+    </message>
+    <message>
+        <source>Aug</source>
+        <translation>Aug</translation>
+    </message>
+    <message>
+        <source>Sep</source>
+        <translation>Sep</translation>
+    </message>
+    <message>
+        <source>Oct</source>
+        <translation>Okt</translation>
+    </message>
+    <message>
+        <source>Nov</source>
+        <translation>Nov</translation>
+    </message>
+    <message>
+        <source>Dec</source>
+        <translation>Dez</translation>
+    </message>
+    <message>
+        <source>%1 (future)</source>
+        <translation>%1 (künftig)</translation>
+    </message>
+    <message>
+        <source>Solves: %1</source>
+        <translation>Berechnungen: %1</translation>
+    </message>
+    <message>
+        <source>Avg iters: %1</source>
+        <translation>Ø Iterationen: %1</translation>
+    </message>
+    <message>
+        <source>Avg expl: %1</source>
+        <translation>Ø Exploitability: %1</translation>
     </message>
 </context>
 </TS>

@@ -5,1638 +5,2372 @@
     <name>AccentSwatch</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>ActionFigures</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>%1 combos</source>
-        <translation type="unfinished"></translation>
+        <translation>Combos : %1</translation>
     </message>
     <message>
         <source>%1% equity</source>
-        <translation type="unfinished"></translation>
+        <translation>Equity : %1%</translation>
     </message>
     <message>
         <source>%1 EV</source>
-        <translation type="unfinished"></translation>
+        <translation>EV : %1</translation>
+    </message>
+</context>
+<context>
+    <name>ActivityGrid</name>
+    <message>
+        <source>Solve Activity</source>
+        <translation>Activité de calcul</translation>
+    </message>
+    <message>
+        <source>Last 52 weeks</source>
+        <translation>52 dernières semaines</translation>
     </message>
 </context>
 <context>
     <name>AppController</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt</translation>
     </message>
     <message>
         <source>Starting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrage…</translation>
     </message>
     <message>
         <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM insuffisante pour le calcul (même sans les résultats précédents)</translation>
     </message>
     <message>
         <source>Already running</source>
-        <translation type="unfinished"></translation>
+        <translation>Déjà en cours</translation>
     </message>
     <message>
         <source>No previous solve config (solve once first)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune configuration précédente (lancer d’abord un calcul)</translation>
     </message>
     <message>
         <source>Cancelling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulation…</translation>
     </message>
     <message>
         <source>Another file is still being saved or opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre fichier est en cours d’enregistrement ou d’ouverture</translation>
     </message>
     <message>
         <source>Loaded project (%1 strategy nodes, %2 combo nodes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Projet chargé (nœuds de stratégie : %1, nœuds de combos : %2)</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Go</translation>
     </message>
     <message>
         <source>Failed to open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le fichier</translation>
     </message>
     <message>
         <source>Unrecognized project format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de projet non reconnu</translation>
     </message>
     <message>
         <source>Unsupported project version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version de projet non prise en charge</translation>
     </message>
     <message>
         <source>Invalid JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON non valide</translation>
     </message>
     <message>
         <source>Failed to save file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’enregistrement : %1</translation>
     </message>
     <message>
         <source>Failed to open file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’ouverture : %1</translation>
     </message>
 </context>
 <context>
     <name>AppearanceCard</name>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparence</translation>
     </message>
     <message>
         <source>Dark Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode sombre</translation>
     </message>
     <message>
         <source>Use dark color scheme throughout the interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser des couleurs sombres dans toute l’interface</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Change the app language (takes effect immediately)</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer la langue de l’application (effet immédiat)</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue du système</translation>
     </message>
     <message>
         <source>Accent Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur d’accent</translation>
     </message>
     <message>
         <source>Customize the app highlight color (buttons, accents, clubs/check).</source>
-        <translation type="unfinished"></translation>
+        <translation>Personnaliser la couleur d’accent (boutons, accents, trèfle/check).</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Vert</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleu</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Violet</translation>
     </message>
     <message>
         <source>Gold</source>
-        <translation type="unfinished"></translation>
+        <translation>Or</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rouge</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
 </context>
 <context>
     <name>BoardCard</name>
     <message>
         <source>Board</source>
-        <translation type="unfinished"></translation>
+        <translation>Board</translation>
     </message>
 </context>
 <context>
     <name>BoardDisplay</name>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>River</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
     <message>
         <source>Flop</source>
-        <translation type="unfinished"></translation>
+        <translation>Flop</translation>
     </message>
     <message>
         <source>Preflop</source>
-        <translation type="unfinished"></translation>
+        <translation>Préflop</translation>
     </message>
     <message>
         <source>Board</source>
-        <translation type="unfinished"></translation>
+        <translation>Board</translation>
     </message>
 </context>
 <context>
     <name>BucketRow</name>
     <message>
         <source>%1 combos</source>
-        <translation type="unfinished"></translation>
+        <translation>Combos : %1</translation>
     </message>
 </context>
 <context>
     <name>BucketsCard</name>
     <message>
         <source>Buckets</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégories</translation>
     </message>
     <message>
         <source>%1 shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichées : %1</translation>
     </message>
 </context>
 <context>
     <name>BusyLabel</name>
     <message>
         <source>Loading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement…</translation>
     </message>
 </context>
 <context>
     <name>CardPicker</name>
     <message>
         <source>Cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartes</translation>
     </message>
 </context>
 <context>
     <name>CardPickerDialog</name>
     <message>
         <source>Select card</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir une carte</translation>
     </message>
     <message>
         <source>River card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte river</translation>
     </message>
     <message>
         <source>Turn card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte turn</translation>
     </message>
     <message>
         <source>Flop card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte du flop</translation>
     </message>
     <message>
         <source>Clear card</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer la carte</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>CardPickerTile</name>
     <message>
         <source>Already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Déjà utilisée</translation>
     </message>
 </context>
 <context>
     <name>ChancePicker</name>
     <message>
         <source>Choose River Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la carte river</translation>
     </message>
     <message>
         <source>Choose Turn Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la carte turn</translation>
     </message>
     <message>
         <source>Random</source>
-        <translation type="unfinished"></translation>
+        <translation>Aléatoire</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>Chip</name>
     <message>
         <source>×</source>
-        <translation type="unfinished"></translation>
+        <translation>×</translation>
+    </message>
+</context>
+<context>
+    <name>ClearStatsDialog</name>
+    <message>
+        <source>Clear Play vs. Solution Stats</source>
+        <translation>Effacer les stats « Contre la solution »</translation>
+    </message>
+    <message>
+        <source>Clear all Play vs. Solution statistics (today + total)?</source>
+        <translation>Effacer toutes les statistiques « Contre la solution » (jour + total) ?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>ComboRow</name>
     <message>
         <source>EV:</source>
-        <translation type="unfinished"></translation>
+        <translation>EV :</translation>
     </message>
 </context>
 <context>
     <name>ComputeCard</name>
     <message>
         <source>Compute</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécution</translation>
     </message>
     <message>
         <source>Threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Threads</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Max.</translation>
     </message>
     <message>
         <source>Precision</source>
-        <translation type="unfinished"></translation>
+        <translation>Précision</translation>
     </message>
     <message>
         <source>The solver computes in Float32, whatever is chosen here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le solver calcule en Float32, quel que soit ce choix.</translation>
     </message>
 </context>
 <context>
     <name>ConfigurationCard</name>
     <message>
         <source>flop</source>
-        <translation type="unfinished"></translation>
+        <translation>au flop</translation>
     </message>
     <message>
         <source>turn</source>
-        <translation type="unfinished"></translation>
+        <translation>à la turn</translation>
     </message>
     <message>
         <source>river</source>
-        <translation type="unfinished"></translation>
+        <translation>à la river</translation>
     </message>
     <message>
         <source>OOP: don&apos;t donk on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP : pas de donk %1</translation>
     </message>
     <message>
         <source>OOP: add all-in on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP : ajouter all-in %1</translation>
     </message>
     <message>
         <source>IP: add all-in on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>IP : ajouter all-in %1</translation>
     </message>
     <message>
         <source>OOP: add all-in if jam &lt; %1% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP : ajouter all-in si jam &lt; %1% du pot</translation>
     </message>
     <message>
         <source>IP: add all-in if jam &lt; %1% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>IP : ajouter all-in si jam &lt; %1% du pot</translation>
     </message>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration</translation>
     </message>
     <message>
         <source>Street</source>
-        <translation type="unfinished"></translation>
+        <translation>Street</translation>
     </message>
     <message>
         <source>Pot / Stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Pot / stack</translation>
     </message>
     <message>
         <source>%1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Target</source>
-        <translation type="unfinished"></translation>
+        <translation>Objectif</translation>
     </message>
     <message>
         <source>%1% (= %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% (= %2)</translation>
     </message>
     <message>
         <source>Rake</source>
-        <translation type="unfinished"></translation>
+        <translation>Rake</translation>
     </message>
     <message>
         <source>%1% (cap %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% (cap %2)</translation>
     </message>
     <message>
         <source>Bet sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tailles des mises</translation>
     </message>
     <message>
         <source>F %1/%2 • T %3/%4 • R %5/%6</source>
-        <translation type="unfinished"></translation>
+        <translation>F %1/%2 • T %3/%4 • R %5/%6</translation>
     </message>
     <message>
         <source>Options enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Options actives</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes</translation>
     </message>
     <message>
         <source>Solving...</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcul en cours…</translation>
     </message>
     <message>
         <source>Start Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer le calcul</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>View Results →</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir les résultats →</translation>
     </message>
 </context>
 <context>
-    <name>DeleteProfileDialog</name>
+    <name>CustomActions</name>
     <message>
-        <source>Delete settings profile</source>
-        <translation type="unfinished"></translation>
+        <source>Are you sure you want to delete this folder?</source>
+        <translation>Voulez-vous vraiment supprimer ce dossier ?</translation>
     </message>
     <message>
-        <source>Are you sure you want to delete this saved profile?</source>
-        <translation type="unfinished"></translation>
+        <source>Are you sure you want to delete this range?</source>
+        <translation>Voulez-vous vraiment supprimer cette range ?</translation>
+    </message>
+    <message>
+        <source>This will also delete %1 range(s). This cannot be undone.</source>
+        <translation>Les ranges du dossier seront aussi supprimées (nombre : %1). Cette action est irréversible.</translation>
     </message>
     <message>
         <source>This cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette action est irréversible.</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <source>Save current range…</source>
+        <translation>Enregistrer la range…</translation>
+    </message>
+    <message>
+        <source>Import range…</source>
+        <translation>Importer une range…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Ajouter un dossier…</translation>
+    </message>
+    <message>
+        <source>Delete selected…</source>
+        <translation>Supprimer la sélection…</translation>
+    </message>
+    <message>
+        <source>Save OOP range</source>
+        <translation>Enregistrer la range OOP</translation>
+    </message>
+    <message>
+        <source>Save IP range</source>
+        <translation>Enregistrer la range IP</translation>
+    </message>
+    <message>
+        <source>Name this range:</source>
+        <translation>Nom de la range :</translation>
+    </message>
+    <message>
+        <source>e.g., BTN vs BB (default)</source>
+        <translation>p. ex. BTN vs BB (par défaut)</translation>
+    </message>
+    <message>
+        <source>Add folder (OOP)</source>
+        <translation>Ajouter un dossier (OOP)</translation>
+    </message>
+    <message>
+        <source>Add folder (IP)</source>
+        <translation>Ajouter un dossier (IP)</translation>
+    </message>
+    <message>
+        <source>Folder name:</source>
+        <translation>Nom du dossier :</translation>
+    </message>
+    <message>
+        <source>e.g., BTN vs BB</source>
+        <translation>p. ex. BTN vs BB</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Delete range</source>
+        <translation>Supprimer la range</translation>
+    </message>
+</context>
+<context>
+    <name>DeleteDialog</name>
+    <message>
+        <source>This cannot be undone.</source>
+        <translation>Cette action est irréversible.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>DeveloperActions</name>
+    <message>
+        <source>Override</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Export standard…</source>
+        <translation>Exporter les standard…</translation>
+    </message>
+    <message>
+        <source>Export population…</source>
+        <translation>Exporter la population…</translation>
+    </message>
+    <message>
+        <source>Clear overrides…</source>
+        <translation>Annuler les remplacements…</translation>
+    </message>
+    <message>
+        <source>Export Standard Ranges</source>
+        <translation>Exporter les ranges standard</translation>
+    </message>
+    <message>
+        <source>Export Population Ranges</source>
+        <translation>Exporter les ranges de population</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Clear standard overrides</source>
+        <translation>Annuler les remplacements standard</translation>
+    </message>
+    <message>
+        <source>Clear population overrides</source>
+        <translation>Annuler les remplacements de population</translation>
+    </message>
+    <message>
+        <source>Clear all locally overridden standard ranges for %1?</source>
+        <translation>Effacer toutes les ranges standard remplacées localement pour %1 ?</translation>
+    </message>
+    <message>
+        <source>Clear all locally overridden population ranges for %1?</source>
+        <translation>Effacer toutes les ranges de population remplacées localement pour %1 ?</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+</context>
+<context>
+    <name>DrillBar</name>
+    <message>
+        <source>Stop drill</source>
+        <translation>Arrêter le drill</translation>
+    </message>
+    <message>
+        <source>Drill spot</source>
+        <translation>Driller le spot</translation>
     </message>
 </context>
 <context>
     <name>FileProgress</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>GameSettingsCard</name>
     <message>
         <source>Game Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres de jeu</translation>
     </message>
     <message>
         <source>Starting Pot</source>
-        <translation type="unfinished"></translation>
+        <translation>Pot de départ</translation>
     </message>
     <message>
         <source>e.g., 100</source>
-        <translation type="unfinished"></translation>
+        <translation>p. ex. 100</translation>
     </message>
     <message>
         <source>Effective Stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Stack effectif</translation>
     </message>
     <message>
         <source>Rake (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rake (%)</translation>
     </message>
     <message>
         <source>e.g., 5.0</source>
-        <translation type="unfinished"></translation>
+        <translation>p. ex. 5.0</translation>
     </message>
     <message>
         <source>Rake Cap</source>
-        <translation type="unfinished"></translation>
+        <translation>Cap du rake</translation>
     </message>
     <message>
         <source>e.g., 0</source>
-        <translation type="unfinished"></translation>
+        <translation>p. ex. 0</translation>
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Exploitabilité cible (%)</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
-        <translation type="unfinished"></translation>
+        <translation>p. ex. 0.10</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>GameTreePanel</name>
     <message>
         <source>Game Tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbre de jeu</translation>
     </message>
 </context>
 <context>
     <name>HandBuckets</name>
     <message>
         <source>air</source>
-        <translation type="unfinished"></translation>
+        <translation>air</translation>
     </message>
     <message>
         <source>back door flush draw</source>
-        <translation type="unfinished"></translation>
+        <translation>tirage couleur backdoor</translation>
     </message>
     <message>
         <source>bottom pair</source>
-        <translation type="unfinished"></translation>
+        <translation>bottom paire</translation>
     </message>
     <message>
         <source>dry pair</source>
-        <translation type="unfinished"></translation>
+        <translation>underpaire</translation>
     </message>
     <message>
         <source>flush</source>
-        <translation type="unfinished"></translation>
+        <translation>couleur</translation>
     </message>
     <message>
         <source>flush draw</source>
-        <translation type="unfinished"></translation>
+        <translation>tirage couleur</translation>
     </message>
     <message>
         <source>full house</source>
-        <translation type="unfinished"></translation>
+        <translation>full</translation>
     </message>
     <message>
         <source>gutter</source>
-        <translation type="unfinished"></translation>
+        <translation>gutshot</translation>
     </message>
     <message>
         <source>middle pair</source>
-        <translation type="unfinished"></translation>
+        <translation>middle paire</translation>
     </message>
     <message>
         <source>missed FD</source>
-        <translation type="unfinished"></translation>
+        <translation>couleur ratée</translation>
     </message>
     <message>
         <source>missed OESD</source>
-        <translation type="unfinished"></translation>
+        <translation>bilatéral raté</translation>
     </message>
     <message>
         <source>missed gutter</source>
-        <translation type="unfinished"></translation>
+        <translation>gutshot raté</translation>
     </message>
     <message>
         <source>open ended straight draw</source>
-        <translation type="unfinished"></translation>
+        <translation>tirage quinte bilatéral</translation>
     </message>
     <message>
         <source>overpair</source>
-        <translation type="unfinished"></translation>
+        <translation>overpaire</translation>
     </message>
     <message>
         <source>quads</source>
-        <translation type="unfinished"></translation>
+        <translation>carré</translation>
     </message>
     <message>
         <source>set</source>
-        <translation type="unfinished"></translation>
+        <translation>set</translation>
     </message>
     <message>
         <source>straight</source>
-        <translation type="unfinished"></translation>
+        <translation>quinte</translation>
     </message>
     <message>
         <source>straight flush</source>
-        <translation type="unfinished"></translation>
+        <translation>quinte flush</translation>
     </message>
     <message>
         <source>top pair</source>
-        <translation type="unfinished"></translation>
+        <translation>top paire</translation>
     </message>
     <message>
         <source>trips</source>
-        <translation type="unfinished"></translation>
+        <translation>trips</translation>
     </message>
     <message>
         <source>two pair</source>
-        <translation type="unfinished"></translation>
+        <translation>double paire</translation>
+    </message>
+</context>
+<context>
+    <name>HandDetails</name>
+    <message>
+        <source>Hand details</source>
+        <translation>Détails de la main</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Flop</source>
+        <translation>Flop</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Turn</translation>
+    </message>
+    <message>
+        <source>River</source>
+        <translation>River</translation>
+    </message>
+    <message>
+        <source>Hands</source>
+        <translation>Mains</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
     </message>
 </context>
 <context>
     <name>HandDetailsCard</name>
     <message>
         <source>Loading hand combos…</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement des combos…</translation>
     </message>
     <message>
         <source>No hand combos to display for this node.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun combo à afficher pour ce nœud.</translation>
     </message>
     <message>
         <source>No combos match the current filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun combo ne correspond aux filtres.</translation>
     </message>
     <message>
         <source>Hand Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Détails des mains</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Search (JJ, 56s, JcJd, ...)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher (JJ, 56s, JcJd…)</translation>
     </message>
     <message>
         <source>Filter: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre : %1</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
+    </message>
+</context>
+<context>
+    <name>HandLog</name>
+    <message>
+        <source>Hand Log</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>%1 hands</source>
+        <translation>Mains : %1</translation>
+    </message>
+    <message>
+        <source>Hands that you finish are listed here.</source>
+        <translation>Les mains terminées s’affichent ici.</translation>
+    </message>
+</context>
+<context>
+    <name>HandLogRow</name>
+    <message>
+        <source>EV -%1</source>
+        <translation>EV -%1</translation>
+    </message>
+    <message>
+        <source>Perfect</source>
+        <translation>Parfait</translation>
     </message>
 </context>
 <context>
     <name>HandMatrix</name>
     <message>
         <source>Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Mains</translation>
     </message>
     <message>
         <source>%1, weight %2%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, poids %2%</translation>
+    </message>
+</context>
+<context>
+    <name>HandSummary</name>
+    <message>
+        <source>Winner: %1</source>
+        <translation>Vainqueur : %1</translation>
+    </message>
+    <message>
+        <source>Won: %1</source>
+        <translation>Gagné : %1</translation>
+    </message>
+    <message>
+        <source>Rake: %1</source>
+        <translation>Rake : %1</translation>
+    </message>
+    <message>
+        <source>EV lost: %1</source>
+        <translation>EV perdue : %1</translation>
+    </message>
+    <message>
+        <source>Incorrect: %1</source>
+        <translation>Incorrect : %1</translation>
+    </message>
+    <message>
+        <source>Correct: %1</source>
+        <translation>Correct : %1</translation>
     </message>
 </context>
 <context>
     <name>HeroBand</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>A modern, high-performance holdem solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Un solver hold’em moderne et performant</translation>
     </message>
     <message>
         <source>New Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau calcul</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier</translation>
     </message>
 </context>
 <context>
-    <name>HomePage</name>
+    <name>ImportRange</name>
     <message>
-        <source>Play vs. Solution</source>
-        <translation type="unfinished"></translation>
+        <source>Import failed: %1</source>
+        <translation>Échec de l’importation : %1</translation>
     </message>
     <message>
-        <source>No hands played yet.</source>
-        <translation type="unfinished"></translation>
+        <source>unknown error</source>
+        <translation>erreur inconnue</translation>
     </message>
     <message>
-        <source>Solve Activity</source>
-        <translation type="unfinished"></translation>
+        <source>Import failed: file contained no recognizable hands.</source>
+        <translation>Échec de l’importation : le fichier ne contient aucune main reconnaissable.</translation>
     </message>
     <message>
-        <source>Last solve: %1</source>
-        <translation type="unfinished"></translation>
+        <source>Import Range</source>
+        <translation>Importer une range</translation>
     </message>
     <message>
-        <source>No solve in this session yet.</source>
-        <translation type="unfinished"></translation>
+        <source>Range text (*.txt)</source>
+        <translation>Texte de range (*.txt)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Name this range:</source>
+        <translation>Nom de la range :</translation>
+    </message>
+    <message>
+        <source>e.g., BTN open (custom)</source>
+        <translation>p. ex. BTN open (perso)</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryColumn</name>
+    <message>
+        <source>No ranges yet.</source>
+        <translation>Aucune range.</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryRow</name>
+    <message>
+        <source>Open folder</source>
+        <translation>Dossier ouvert</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
     </message>
 </context>
 <context>
     <name>LicensesCard</name>
     <message>
         <source>Licenses</source>
-        <translation type="unfinished"></translation>
+        <translation>Licences</translation>
     </message>
     <message>
         <source>Qt Framework</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt Framework</translation>
     </message>
     <message>
         <source>Runtime (dynamic linking)</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécution (liaison dynamique)</translation>
     </message>
     <message>
         <source>LGPL v3</source>
-        <translation type="unfinished"></translation>
+        <translation>LGPL v3</translation>
     </message>
     <message>
         <source>oneTBB</source>
-        <translation type="unfinished"></translation>
+        <translation>oneTBB</translation>
     </message>
     <message>
         <source>Threading</source>
-        <translation type="unfinished"></translation>
+        <translation>Multithreading</translation>
     </message>
     <message>
         <source>Apache 2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Apache 2.0</translation>
     </message>
     <message>
         <source>Third-party notices and license texts are included in the &apos;licenses&apos; folder next to the executable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les mentions de tiers et les textes des licences se trouvent dans le dossier « licenses », à côté de l’exécutable.</translation>
     </message>
     <message>
         <source>Open licenses folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le dossier des licences</translation>
     </message>
     <message>
         <source>Open notices</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les mentions</translation>
     </message>
 </context>
 <context>
     <name>LoadProfileDialog</name>
     <message>
         <source>Please select a profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez choisir un profil.</translation>
     </message>
     <message>
         <source>Load Settings Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger un profil de paramètres</translation>
     </message>
     <message>
         <source>Choose a saved profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un profil enregistré :</translation>
     </message>
     <message>
         <source>No saved profiles yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun profil enregistré.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger</translation>
+    </message>
+    <message>
+        <source>Delete settings profile</source>
+        <translation>Supprimer le profil de paramètres</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this saved profile?</source>
+        <translation>Voulez-vous vraiment supprimer ce profil enregistré ?</translation>
     </message>
 </context>
 <context>
     <name>LockModeButtons</name>
     <message>
         <source>Standard mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode standard</translation>
     </message>
     <message>
         <source>Node-lock mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode node-lock</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
 </context>
 <context>
     <name>MessageBox</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>NameDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>NodeBox</name>
     <message>
         <source>Pot</source>
-        <translation type="unfinished"></translation>
+        <translation>Pot</translation>
     </message>
     <message>
         <source>Stack (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stack (%1)</translation>
     </message>
     <message>
         <source>To call</source>
-        <translation type="unfinished"></translation>
+        <translation>À payer</translation>
     </message>
 </context>
 <context>
     <name>NodeLockPanel</name>
     <message>
         <source>Node-Locking</source>
-        <translation type="unfinished"></translation>
+        <translation>Node-locking</translation>
     </message>
     <message>
         <source>Node-locking is only available on decision nodes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le node-locking n’est disponible que sur les nœuds de décision.</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Poids</translation>
     </message>
     <message>
         <source>0..1</source>
-        <translation type="unfinished"></translation>
+        <translation>0..1</translation>
     </message>
     <message>
         <source>Reset weights</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Re-solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Recalculer</translation>
     </message>
     <message>
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Astuce : choisir une action ci-dessus, puis cliquer sur une main de la matrice pour la verrouiller.</translation>
     </message>
 </context>
 <context>
     <name>NodeView</name>
     <message>
         <source>Random river card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte river aléatoire</translation>
     </message>
     <message>
         <source>Random turn card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte turn aléatoire</translation>
+    </message>
+</context>
+<context>
+    <name>PlayActionButton</name>
+    <message>
+        <source>Key %1</source>
+        <translation>Touche %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPanel</name>
+    <message>
+        <source>Play vs. Solution</source>
+        <translation>Contre la solution</translation>
+    </message>
+    <message>
+        <source>Role: %1</source>
+        <translation>Rôle : %1</translation>
+    </message>
+    <message>
+        <source>Choose a role to start</source>
+        <translation>Choisir un rôle pour commencer</translation>
+    </message>
+    <message>
+        <source>No hands can be dealt here. Solve the spot again to play it.</source>
+        <translation>Impossible de distribuer des mains ici. Recalculer le spot pour le jouer.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPrompt</name>
+    <message>
+        <source>%1 loses %2 EV. Best: %3</source>
+        <translation>%1 perd %2 d’EV. Mieux : %3</translation>
+    </message>
+    <message>
+        <source>Perfect</source>
+        <translation>Parfait</translation>
+    </message>
+    <message>
+        <source>Another hand</source>
+        <translation>Autre main</translation>
+    </message>
+</context>
+<context>
+    <name>PlaySeat</name>
+    <message>
+        <source>%1: no cards</source>
+        <translation>%1 : pas de cartes</translation>
+    </message>
+    <message>
+        <source>%1: opponent&apos;s cards, face down</source>
+        <translation>%1 : cartes de l’adversaire, cachées</translation>
+    </message>
+    <message>
+        <source>Stack: %1</source>
+        <translation>Stack : %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlaySession</name>
+    <message>
+        <source>Wrong — best: %1 (EV -%2)</source>
+        <translation>Faux – mieux : %1 (EV -%2)</translation>
+    </message>
+    <message>
+        <source>Correct</source>
+        <translation>Correct</translation>
+    </message>
+</context>
+<context>
+    <name>PlayTable</name>
+    <message>
+        <source>Table</source>
+        <translation>Table</translation>
+    </message>
+    <message>
+        <source>Dealer button</source>
+        <translation>Bouton dealer</translation>
+    </message>
+    <message>
+        <source>Pot: %1</source>
+        <translation>Pot : %1</translation>
+    </message>
+    <message>
+        <source>Click Turn/River to change</source>
+        <translation>Cliquer sur turn/river pour changer</translation>
+    </message>
+    <message>
+        <source>OOP action: %1</source>
+        <translation>Action OOP : %1</translation>
     </message>
 </context>
 <context>
     <name>PlayingCard</name>
     <message>
         <source>Face-down card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte face cachée</translation>
     </message>
     <message>
         <source>Empty card slot</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement vide</translation>
     </message>
     <message>
         <source>?</source>
-        <translation type="unfinished"></translation>
+        <translation>?</translation>
     </message>
 </context>
 <context>
     <name>ProgressCard</name>
     <message>
         <source>Iteration %1 | exploitability=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Itération %1 | exploitabilité=%2</translation>
     </message>
     <message>
         <source>Ready to solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt à calculer</translation>
     </message>
     <message>
         <source>Finalizing…</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalisation…</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>Solver converged — finalizing results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Convergence atteinte – finalisation des résultats…</translation>
     </message>
     <message>
         <source>Window %1/%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalle %1/%2</translation>
     </message>
     <message>
         <source>Iterations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Itérations : %1</translation>
     </message>
     <message>
         <source>Metrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicateurs</translation>
     </message>
     <message>
         <source>Elapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Écoulé</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Restant</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>it/s</source>
-        <translation type="unfinished"></translation>
+        <translation>it/s</translation>
     </message>
     <message>
         <source>Exploitability</source>
-        <translation type="unfinished"></translation>
+        <translation>Exploitabilité</translation>
     </message>
     <message>
         <source>Measuring...</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure…</translation>
     </message>
 </context>
 <context>
     <name>ProgressRing</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>ProjectFiles</name>
     <message>
         <source>Velmora Project (*.velmoraproj)</source>
-        <translation type="unfinished"></translation>
+        <translation>Projet Velmora (*.velmoraproj)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le projet</translation>
     </message>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un projet</translation>
     </message>
     <message>
         <source>unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>erreur inconnue</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
 </context>
 <context>
     <name>ProjectHeader</name>
     <message>
         <source>Project Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration du projet</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt</translation>
     </message>
     <message>
         <source>Setup Required</source>
-        <translation type="unfinished"></translation>
+        <translation>À compléter</translation>
     </message>
     <message>
         <source>Solve RAM: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM requise : %1</translation>
     </message>
     <message>
         <source>Available RAM: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM disponible : %1</translation>
     </message>
     <message>
         <source>Continue to Solve →</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>ProjectPage</name>
-    <message>
-        <source>Import failed: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>unknown error</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import failed: file contained no recognizable hands.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import Range</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Range text (*.txt)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer au calcul →</translation>
     </message>
 </context>
 <context>
     <name>QuickActionsCard</name>
     <message>
         <source>Quick Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Actions rapides</translation>
     </message>
     <message>
         <source>New Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau calcul</translation>
     </message>
     <message>
         <source>Configure board, ranges, tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurer board, ranges et arbre</translation>
     </message>
     <message>
         <source>Quick Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcul rapide</translation>
     </message>
     <message>
         <source>Use default settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec les paramètres par défaut</translation>
     </message>
     <message>
         <source>Import Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer une range</translation>
     </message>
     <message>
         <source>Load from file</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger depuis un fichier</translation>
     </message>
 </context>
 <context>
     <name>RangeCard</name>
     <message>
         <source>OOP Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range OOP</translation>
     </message>
     <message>
         <source>IP Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range IP</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Poids</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>RangeColumn</name>
-    <message>
-        <source>Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
-        <source>Combos</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Share</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1%</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import range…</source>
-        <translation type="unfinished"></translation>
+        <source>%1 combos (%2%)</source>
+        <translation>Combos : %1 (%2%)</translation>
     </message>
 </context>
 <context>
     <name>RangeEditor</name>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range</translation>
     </message>
     <message>
         <source>%1 hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Mains : %1</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation type="unfinished"></translation>
+        <translation>p. ex. AA, KK, AKs, QQ+ ou 50%</translation>
+    </message>
+</context>
+<context>
+    <name>RangeLibraries</name>
+    <message>
+        <source>Standard Ranges</source>
+        <translation>Ranges standard</translation>
+    </message>
+    <message>
+        <source>Population Ranges</source>
+        <translation>Ranges de population</translation>
+    </message>
+    <message>
+        <source>Custom Ranges</source>
+        <translation>Ranges personnelles</translation>
+    </message>
+    <message>
+        <source>Please enter a name.</source>
+        <translation>Veuillez saisir un nom.</translation>
+    </message>
+    <message>
+        <source>No range content to import.</source>
+        <translation>Aucune range à importer.</translation>
+    </message>
+    <message>
+        <source>Import failed.</source>
+        <translation>Échec de l’importation.</translation>
+    </message>
+    <message>
+        <source>Export failed: %1</source>
+        <translation>Échec de l’exportation : %1</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>erreur inconnue</translation>
+    </message>
+    <message>
+        <source>Failed to load bundled standard presets (resource file missing/empty).</source>
+        <translation>Impossible de charger les ranges standard fournies (fichier de ressources absent ou vide).</translation>
+    </message>
+    <message>
+        <source>Failed to load bundled presets: </source>
+        <translation>Impossible de charger les ranges fournies : </translation>
     </message>
 </context>
 <context>
     <name>RangeTextField</name>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation type="unfinished"></translation>
+        <translation>p. ex. AA, KK, AKs, QQ+ ou 50%</translation>
     </message>
 </context>
 <context>
     <name>RecentRunsCard</name>
     <message>
         <source>Recent Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculs récents</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>No runs yet — click Start Solve to record a run here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun calcul pour l’instant – cliquer sur « Lancer le calcul » pour en voir un ici.</translation>
     </message>
 </context>
 <context>
     <name>ResultsHeader</name>
     <message>
         <source>Strategy View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vue stratégie</translation>
     </message>
     <message>
         <source>%1 to act</source>
-        <translation type="unfinished"></translation>
+        <translation>À %1 de parler</translation>
     </message>
     <message>
         <source>EV (OOP)</source>
-        <translation type="unfinished"></translation>
+        <translation>EV (OOP)</translation>
     </message>
     <message>
         <source>EV (IP)</source>
-        <translation type="unfinished"></translation>
+        <translation>EV (IP)</translation>
     </message>
     <message>
         <source>Exploitability</source>
-        <translation type="unfinished"></translation>
+        <translation>Exploitabilité</translation>
+    </message>
+    <message>
+        <source>Range view</source>
+        <translation>Vue des ranges</translation>
+    </message>
+    <message>
+        <source>Play vs solution</source>
+        <translation>Contre la solution</translation>
+    </message>
+</context>
+<context>
+    <name>RoleChoice</name>
+    <message>
+        <source>Play as OOP</source>
+        <translation>Jouer OOP</translation>
+    </message>
+    <message>
+        <source>Play as both</source>
+        <translation>Jouer les deux</translation>
+    </message>
+    <message>
+        <source>Play as IP</source>
+        <translation>Jouer IP</translation>
     </message>
 </context>
 <context>
     <name>RunHistory</name>
     <message>
         <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Itérations %1 • Objectif %2% (≈ %3) • Threads %4</translation>
     </message>
 </context>
 <context>
     <name>RunRow</name>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>En cours</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé</translation>
     </message>
 </context>
 <context>
-    <name>SaveProfileDialog</name>
+    <name>SeatLibrary</name>
     <message>
         <source>Please enter a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez saisir un nom.</translation>
     </message>
     <message>
-        <source>Save Settings Profile</source>
-        <translation type="unfinished"></translation>
+        <source>Current range is empty.</source>
+        <translation>La range actuelle est vide.</translation>
     </message>
     <message>
-        <source>Profile name:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>e.g., 100bb rake-free (fast)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation type="unfinished"></translation>
+        <source>Please enter a folder name.</source>
+        <translation>Veuillez saisir un nom de dossier.</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs par défaut</translation>
     </message>
     <message>
         <source>Save Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les paramètres</translation>
     </message>
 </context>
 <context>
     <name>SettingsProfilesCard</name>
     <message>
         <source>Load settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger les paramètres</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les paramètres</translation>
+    </message>
+    <message>
+        <source>Please enter a name.</source>
+        <translation>Veuillez saisir un nom.</translation>
+    </message>
+    <message>
+        <source>Save Settings Profile</source>
+        <translation>Enregistrer un profil de paramètres</translation>
+    </message>
+    <message>
+        <source>Profile name:</source>
+        <translation>Nom du profil :</translation>
+    </message>
+    <message>
+        <source>e.g., 100bb rake-free (fast)</source>
+        <translation>p. ex. 100bb sans rake (rapide)</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>♠</source>
-        <translation type="unfinished"></translation>
+        <translation>♠</translation>
     </message>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>Poker Solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Solver de poker</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Accueil</translation>
     </message>
     <message>
         <source>Overview &amp; quick actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu et actions rapides</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Projet</translation>
     </message>
     <message>
         <source>Board, ranges, tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Board, ranges, arbre</translation>
     </message>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcul</translation>
     </message>
     <message>
         <source>Run solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer le solver</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats</translation>
     </message>
     <message>
         <source>Browse strategies</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir les stratégies</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>v0.1.0 dev</source>
-        <translation type="unfinished"></translation>
+        <translation>v0.1.0 dev</translation>
     </message>
 </context>
 <context>
     <name>SizingCard</name>
     <message>
         <source>OOP</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP</translation>
     </message>
     <message>
         <source>IP</source>
-        <translation type="unfinished"></translation>
+        <translation>IP</translation>
     </message>
     <message>
         <source>Flop</source>
-        <translation type="unfinished"></translation>
+        <translation>Flop</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>River</translation>
     </message>
     <message>
         <source>OOP Sizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Sizings OOP</translation>
     </message>
     <message>
         <source>IP Sizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Sizings IP</translation>
     </message>
     <message>
         <source>Bet sizes (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mises (%)</translation>
     </message>
     <message>
         <source>Raise sizes (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Raises (%)</translation>
     </message>
     <message>
         <source>Add All-In</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter all-in</translation>
     </message>
     <message>
         <source>Don&apos;t donk</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de donk</translation>
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter all-in si jam inférieur à</translation>
     </message>
     <message>
         <source>e.g. 30</source>
-        <translation type="unfinished"></translation>
+        <translation>p. ex. 30</translation>
     </message>
     <message>
         <source>% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>% du pot</translation>
+    </message>
+</context>
+<context>
+    <name>SolveActivityCard</name>
+    <message>
+        <source>Solve Activity</source>
+        <translation>Activité de calcul</translation>
+    </message>
+    <message>
+        <source>Last 52 weeks</source>
+        <translation>52 dernières semaines</translation>
     </message>
 </context>
 <context>
     <name>SolvePage</name>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcul</translation>
     </message>
     <message>
         <source>Run the CFR solver and monitor progress in real-time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer le solver CFR et suivre sa progression en temps réel.</translation>
     </message>
     <message>
         <source>Finalizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalisation</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>En cours</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt</translation>
     </message>
 </context>
 <context>
     <name>StatusChip</name>
     <message>
         <source>Finalizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalisation</translation>
     </message>
     <message>
         <source>Solving</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcul en cours</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt</translation>
     </message>
     <message>
         <source>%1 %2%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2%</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>StrategyColumn</name>
     <message>
         <source>Strategy by Hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Stratégie par main</translation>
     </message>
 </context>
 <context>
     <name>StrategyPanel</name>
     <message>
         <source>Action Frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquences des actions</translation>
     </message>
 </context>
 <context>
     <name>SystemCard</name>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Système</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Moteur</translation>
     </message>
     <message>
         <source>Dunmarrow Core</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow Core</translation>
     </message>
     <message>
         <source>Threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Threads</translation>
     </message>
     <message>
         <source>%1 available</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponibles : %1</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire</translation>
     </message>
     <message>
         <source>%1 (%2 free)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (libre : %2)</translation>
     </message>
 </context>
 <context>
     <name>TopBar</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Accueil</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Projet</translation>
     </message>
     <message>
         <source>Start a new project (or load one) from Home to enable Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer (ou charger) un projet depuis « Accueil » pour activer « Projet »</translation>
     </message>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcul</translation>
     </message>
     <message>
         <source>Fill board, ranges, and sizings to enable Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Renseigner board, ranges et sizings pour activer « Calcul »</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats</translation>
     </message>
     <message>
         <source>Run a solve to enable Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer un calcul pour activer « Résultats »</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
+    </message>
+</context>
+<context>
+    <name>TrainerStatsCard</name>
+    <message>
+        <source>Play vs. Solution</source>
+        <translation>Contre la solution</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Clear Play vs. Solution Stats</source>
+        <translation>Effacer les stats « Contre la solution »</translation>
+    </message>
+    <message>
+        <source>Hands (Today / Total)</source>
+        <translation>Mains (jour / total)</translation>
+    </message>
+    <message>
+        <source>Accuracy (Today / Total)</source>
+        <translation>Réussite (jour / total)</translation>
+    </message>
+    <message>
+        <source>Avg EV Loss (Today / Total)</source>
+        <translation>Perte d’EV moy. (jour / total)</translation>
+    </message>
+    <message>
+        <source>EV</source>
+        <translation>EV</translation>
     </message>
 </context>
 <context>
     <name>TreeLevel</name>
     <message>
         <source>Available actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Actions possibles</translation>
     </message>
     <message>
         <source>%1 options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options : %1</translation>
     </message>
     <message>
         <source>Deal %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte %1</translation>
     </message>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>River</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
 </context>
 <context>
     <name>TreeNode</name>
     <message>
         <source>Terminal</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminal</translation>
     </message>
     <message>
         <source>Deal</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte</translation>
     </message>
     <message>
         <source>Pot: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pot : %1</translation>
     </message>
     <message>
         <source>Freq: %1%</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréq. : %1%</translation>
     </message>
     <message>
         <source>EV: %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>EV : %1%2</translation>
     </message>
 </context>
 <context>
     <name>TreeWalk</name>
     <message>
         <source>Root</source>
-        <translation type="unfinished"></translation>
+        <translation>Racine</translation>
     </message>
 </context>
 <context>
     <name>UpdateManager</name>
     <message>
         <source>Update URL is not configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’URL de mise à jour n’est pas configurée.</translation>
     </message>
     <message>
         <source>Update check failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la recherche de mise à jour : %1</translation>
     </message>
     <message>
         <source>Invalid update response (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Réponse du serveur de mise à jour non valide (HTTP %1).</translation>
     </message>
     <message>
         <source>No download URL available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune URL de téléchargement disponible.</translation>
     </message>
 </context>
 <context>
     <name>UpdatesCard</name>
     <message>
         <source>Last checked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière vérification : %1</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Mises à jour</translation>
     </message>
     <message>
         <source>Current version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version actuelle : %1</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Inconnue</translation>
     </message>
     <message>
         <source>Update available: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à jour disponible : %1</translation>
     </message>
     <message>
         <source>Checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification…</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des mises à jour</translation>
     </message>
     <message>
         <source>Download update</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger la mise à jour</translation>
     </message>
 </context>
 <context>
     <name>card_names</name>
     <message>
         <source>spades</source>
-        <translation type="unfinished"></translation>
+        <translation>pique</translation>
     </message>
     <message>
         <source>hearts</source>
-        <translation type="unfinished"></translation>
+        <translation>cœur</translation>
     </message>
     <message>
         <source>diamonds</source>
-        <translation type="unfinished"></translation>
+        <translation>carreau</translation>
     </message>
     <message>
         <source>clubs</source>
-        <translation type="unfinished"></translation>
+        <translation>trèfle</translation>
     </message>
     <message>
         <source>Ace</source>
-        <translation type="unfinished"></translation>
+        <translation>As</translation>
     </message>
     <message>
         <source>King</source>
-        <translation type="unfinished"></translation>
+        <translation>Roi</translation>
     </message>
     <message>
         <source>Queen</source>
-        <translation type="unfinished"></translation>
+        <translation>Dame</translation>
     </message>
     <message>
         <source>Jack</source>
-        <translation type="unfinished"></translation>
+        <translation>Valet</translation>
     </message>
     <message>
         <source>Ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Dix</translation>
     </message>
     <message>
         <source>Nine</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuf</translation>
     </message>
     <message>
         <source>Eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Huit</translation>
     </message>
     <message>
         <source>Seven</source>
-        <translation type="unfinished"></translation>
+        <translation>Sept</translation>
     </message>
     <message>
         <source>Six</source>
-        <translation type="unfinished"></translation>
+        <translation>Six</translation>
     </message>
     <message>
         <source>Five</source>
-        <translation type="unfinished"></translation>
+        <translation>Cinq</translation>
     </message>
     <message>
         <source>Four</source>
-        <translation type="unfinished"></translation>
+        <translation>Quatre</translation>
     </message>
     <message>
         <source>Three</source>
-        <translation type="unfinished"></translation>
+        <translation>Trois</translation>
     </message>
     <message>
         <source>Two</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>range_library_names</name>
+    <message>
+        <source>6-max</source>
+        <translation>6-max</translation>
+    </message>
+    <message>
+        <source>Heads up</source>
+        <translation>Heads-up</translation>
+    </message>
+    <message>
+        <source>No rake</source>
+        <translation>Sans rake</translation>
+    </message>
+    <message>
+        <source>50nl rake</source>
+        <translation>Rake NL50</translation>
+    </message>
+    <message>
+        <source>100nl rake</source>
+        <translation>Rake NL100</translation>
+    </message>
+    <message>
+        <source>200nl rake</source>
+        <translation>Rake NL200</translation>
+    </message>
+    <message>
+        <source>500nl rake</source>
+        <translation>Rake NL500</translation>
+    </message>
+    <message>
+        <source>RFI</source>
+        <translation>RFI</translation>
+    </message>
+    <message>
+        <source>vs RFI</source>
+        <translation>vs RFI</translation>
+    </message>
+    <message>
+        <source>vs 3bet</source>
+        <translation>vs 3bet</translation>
+    </message>
+    <message>
+        <source>vs 4bet</source>
+        <translation>vs 4bet</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Call</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Fold</translation>
+    </message>
+    <message>
+        <source>3bet</source>
+        <translation>3bet</translation>
+    </message>
+    <message>
+        <source>4bet</source>
+        <translation>4bet</translation>
+    </message>
+    <message>
+        <source>Limp</source>
+        <translation>Limp</translation>
+    </message>
+    <message>
+        <source>Limp-call</source>
+        <translation>Limp-call</translation>
+    </message>
+    <message>
+        <source>Limp-3b</source>
+        <translation>Limp-3b</translation>
+    </message>
+    <message>
+        <source>Call raise</source>
+        <translation>Call raise</translation>
+    </message>
+    <message>
+        <source>Check back</source>
+        <translation>Check back</translation>
+    </message>
+    <message>
+        <source>3b</source>
+        <translation>3b</translation>
+    </message>
+    <message>
+        <source>4b</source>
+        <translation>4b</translation>
+    </message>
+    <message>
+        <source>Call 3b</source>
+        <translation>Call 3b</translation>
+    </message>
+    <message>
+        <source>Call 4b</source>
+        <translation>Call 4b</translation>
+    </message>
+    <message>
+        <source>3b cold call</source>
+        <translation>Cold call 3b</translation>
+    </message>
+    <message>
+        <source>Bomb pot</source>
+        <translation>Bomb pot</translation>
+    </message>
+    <message>
+        <source>Weaker regs</source>
+        <translation>Regs plus faibles</translation>
+    </message>
+    <message>
+        <source>Tighter reg</source>
+        <translation>Reg plus tight</translation>
+    </message>
+    <message>
+        <source>Looser reg</source>
+        <translation>Reg plus loose</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autres</translation>
+    </message>
+    <message>
+        <source>Nit</source>
+        <translation>Nit</translation>
+    </message>
+    <message>
+        <source>Overfolder</source>
+        <translation>Overfolder</translation>
+    </message>
+    <message>
+        <source>Passive</source>
+        <translation>Passif</translation>
+    </message>
+    <message>
+        <source>Passive tight</source>
+        <translation>Passif tight</translation>
+    </message>
+    <message>
+        <source>Passive neutral</source>
+        <translation>Passif neutre</translation>
+    </message>
+    <message>
+        <source>Passive loose</source>
+        <translation>Passif loose</translation>
+    </message>
+    <message>
+        <source>Extreme loose</source>
+        <translation>Ultra-loose</translation>
+    </message>
+    <message>
+        <source>Loose aggressive</source>
+        <translation>Loose agressif</translation>
+    </message>
+    <message>
+        <source>Standard LAG</source>
+        <translation>LAG standard</translation>
+    </message>
+    <message>
+        <source>Maniac</source>
+        <translation>Maniac</translation>
+    </message>
+    <message>
+        <source>vs %1 RFI</source>
+        <translation>vs %1 RFI</translation>
+    </message>
+    <message>
+        <source>%1 vs %2 3bet</source>
+        <translation>%1 vs %2 3bet</translation>
+    </message>
+    <message>
+        <source>%1 3bet vs %2 4bet</source>
+        <translation>%1 3bet vs %2 4bet</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 (VPIP %2)</source>
+        <translation>%1 (VPIP %2)</translation>
+    </message>
+</context>
+<context>
+    <name>solve_activity</name>
+    <message>
+        <source>Mon</source>
+        <translation>lun.</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>mar.</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>mer.</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>jeu.</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>ven.</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>sam.</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>dim.</translation>
+    </message>
+    <message>
+        <source>Jan</source>
+        <translation>janv.</translation>
+    </message>
+    <message>
+        <source>Feb</source>
+        <translation>févr.</translation>
+    </message>
+    <message>
+        <source>Mar</source>
+        <translation>mars</translation>
+    </message>
+    <message>
+        <source>Apr</source>
+        <translation>avr.</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>mai</translation>
+    </message>
+    <message>
+        <source>Jun</source>
+        <translation>juin</translation>
+    </message>
+    <message>
+        <source>Jul</source>
+        <translation>juil.</translation>
+    </message>
+    <message>
+        <source>Aug</source>
+        <translation>août</translation>
+    </message>
+    <message>
+        <source>Sep</source>
+        <translation>sept.</translation>
+    </message>
+    <message>
+        <source>Oct</source>
+        <translation>oct.</translation>
+    </message>
+    <message>
+        <source>Nov</source>
+        <translation>nov.</translation>
+    </message>
+    <message>
+        <source>Dec</source>
+        <translation>déc.</translation>
+    </message>
+    <message>
+        <source>%1 (future)</source>
+        <translation>%1 (à venir)</translation>
+    </message>
+    <message>
+        <source>Solves: %1</source>
+        <translation>Calculs : %1</translation>
+    </message>
+    <message>
+        <source>Avg iters: %1</source>
+        <translation>Itér. moy. : %1</translation>
+    </message>
+    <message>
+        <source>Avg expl: %1</source>
+        <translation>Expl. moy. : %1</translation>
     </message>
 </context>
 </TS>

@@ -5,1638 +5,2372 @@
     <name>AccentSwatch</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>ActionFigures</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>%1 combos</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 combo</translation>
     </message>
     <message>
         <source>%1% equity</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% equity</translation>
     </message>
     <message>
         <source>%1 EV</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 EV</translation>
+    </message>
+</context>
+<context>
+    <name>ActivityGrid</name>
+    <message>
+        <source>Solve Activity</source>
+        <translation>Attività di calcolo</translation>
+    </message>
+    <message>
+        <source>Last 52 weeks</source>
+        <translation>Ultime 52 settimane</translation>
     </message>
 </context>
 <context>
     <name>AppController</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>Starting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvio…</translation>
     </message>
     <message>
         <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM insufficiente per il calcolo (anche senza i risultati precedenti)</translation>
     </message>
     <message>
         <source>Already running</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolo già in corso</translation>
     </message>
     <message>
         <source>No previous solve config (solve once first)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna configurazione precedente (esegui prima un calcolo)</translation>
     </message>
     <message>
         <source>Cancelling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullamento…</translation>
     </message>
     <message>
         <source>Another file is still being saved or opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Un altro file è ancora in fase di salvataggio o apertura</translation>
     </message>
     <message>
         <source>Loaded project (%1 strategy nodes, %2 combo nodes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Progetto caricato (nodi strategia: %1, nodi combo: %2)</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>Failed to open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aprire il file</translation>
     </message>
     <message>
         <source>Unrecognized project format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato del progetto non riconosciuto</translation>
     </message>
     <message>
         <source>Unsupported project version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione del progetto non supportata</translation>
     </message>
     <message>
         <source>Invalid JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON non valido</translation>
     </message>
     <message>
         <source>Failed to save file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare il file: %1</translation>
     </message>
     <message>
         <source>Failed to open file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aprire il file: %1</translation>
     </message>
 </context>
 <context>
     <name>AppearanceCard</name>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspetto</translation>
     </message>
     <message>
         <source>Dark Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalità scura</translation>
     </message>
     <message>
         <source>Use dark color scheme throughout the interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa colori scuri in tutta l’interfaccia</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua</translation>
     </message>
     <message>
         <source>Change the app language (takes effect immediately)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia la lingua dell’app (con effetto immediato)</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua di sistema</translation>
     </message>
     <message>
         <source>Accent Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore d’accento</translation>
     </message>
     <message>
         <source>Customize the app highlight color (buttons, accents, clubs/check).</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore di evidenziazione dell’app (pulsanti, accenti, fiori/check).</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blu</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Viola</translation>
     </message>
     <message>
         <source>Gold</source>
-        <translation type="unfinished"></translation>
+        <translation>Oro</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Arancione</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosso</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Reimposta</translation>
     </message>
 </context>
 <context>
     <name>BoardCard</name>
     <message>
         <source>Board</source>
-        <translation type="unfinished"></translation>
+        <translation>Board</translation>
     </message>
 </context>
 <context>
     <name>BoardDisplay</name>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>River</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
     <message>
         <source>Flop</source>
-        <translation type="unfinished"></translation>
+        <translation>Flop</translation>
     </message>
     <message>
         <source>Preflop</source>
-        <translation type="unfinished"></translation>
+        <translation>Preflop</translation>
     </message>
     <message>
         <source>Board</source>
-        <translation type="unfinished"></translation>
+        <translation>Board</translation>
     </message>
 </context>
 <context>
     <name>BucketRow</name>
     <message>
         <source>%1 combos</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 combo</translation>
     </message>
 </context>
 <context>
     <name>BucketsCard</name>
     <message>
         <source>Buckets</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorie</translation>
     </message>
     <message>
         <source>%1 shown</source>
-        <translation type="unfinished"></translation>
+        <translation>In vista: %1</translation>
     </message>
 </context>
 <context>
     <name>BusyLabel</name>
     <message>
         <source>Loading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Caricamento…</translation>
     </message>
 </context>
 <context>
     <name>CardPicker</name>
     <message>
         <source>Cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte</translation>
     </message>
 </context>
 <context>
     <name>CardPickerDialog</name>
     <message>
         <source>Select card</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli una carta</translation>
     </message>
     <message>
         <source>River card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta del river</translation>
     </message>
     <message>
         <source>Turn card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta del turn</translation>
     </message>
     <message>
         <source>Flop card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta del flop</translation>
     </message>
     <message>
         <source>Clear card</source>
-        <translation type="unfinished"></translation>
+        <translation>Togli la carta</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
     <name>CardPickerTile</name>
     <message>
         <source>Already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Già usata</translation>
     </message>
 </context>
 <context>
     <name>ChancePicker</name>
     <message>
         <source>Choose River Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli la carta del river</translation>
     </message>
     <message>
         <source>Choose Turn Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli la carta del turn</translation>
     </message>
     <message>
         <source>Random</source>
-        <translation type="unfinished"></translation>
+        <translation>Casuale</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>
     <name>Chip</name>
     <message>
         <source>×</source>
-        <translation type="unfinished"></translation>
+        <translation>×</translation>
+    </message>
+</context>
+<context>
+    <name>ClearStatsDialog</name>
+    <message>
+        <source>Clear Play vs. Solution Stats</source>
+        <translation>Cancella le statistiche contro il solver</translation>
+    </message>
+    <message>
+        <source>Clear all Play vs. Solution statistics (today + total)?</source>
+        <translation>Cancellare tutte le statistiche delle partite contro il solver (oggi + totale)?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>ComboRow</name>
     <message>
         <source>EV:</source>
-        <translation type="unfinished"></translation>
+        <translation>EV:</translation>
     </message>
 </context>
 <context>
     <name>ComputeCard</name>
     <message>
         <source>Compute</source>
-        <translation type="unfinished"></translation>
+        <translation>Risorse</translation>
     </message>
     <message>
         <source>Threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Thread</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Max</translation>
     </message>
     <message>
         <source>Precision</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisione</translation>
     </message>
     <message>
         <source>The solver computes in Float32, whatever is chosen here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il solver calcola in Float32, qualunque sia la scelta.</translation>
     </message>
 </context>
 <context>
     <name>ConfigurationCard</name>
     <message>
         <source>flop</source>
-        <translation type="unfinished"></translation>
+        <translation>flop</translation>
     </message>
     <message>
         <source>turn</source>
-        <translation type="unfinished"></translation>
+        <translation>turn</translation>
     </message>
     <message>
         <source>river</source>
-        <translation type="unfinished"></translation>
+        <translation>river</translation>
     </message>
     <message>
         <source>OOP: don&apos;t donk on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: niente donk al %1</translation>
     </message>
     <message>
         <source>OOP: add all-in on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: aggiungi all-in al %1</translation>
     </message>
     <message>
         <source>IP: add all-in on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>IP: aggiungi all-in al %1</translation>
     </message>
     <message>
         <source>OOP: add all-in if jam &lt; %1% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: aggiungi all-in se &lt; %1% del piatto</translation>
     </message>
     <message>
         <source>IP: add all-in if jam &lt; %1% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>IP: aggiungi all-in se &lt; %1% del piatto</translation>
     </message>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurazione</translation>
     </message>
     <message>
         <source>Street</source>
-        <translation type="unfinished"></translation>
+        <translation>Street</translation>
     </message>
     <message>
         <source>Pot / Stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Piatto / stack</translation>
     </message>
     <message>
         <source>%1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Target</source>
-        <translation type="unfinished"></translation>
+        <translation>Obiettivo</translation>
     </message>
     <message>
         <source>%1% (= %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% (= %2)</translation>
     </message>
     <message>
         <source>Rake</source>
-        <translation type="unfinished"></translation>
+        <translation>Rake</translation>
     </message>
     <message>
         <source>%1% (cap %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% (cap %2)</translation>
     </message>
     <message>
         <source>Bet sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Size dei bet</translation>
     </message>
     <message>
         <source>F %1/%2 • T %3/%4 • R %5/%6</source>
-        <translation type="unfinished"></translation>
+        <translation>F %1/%2 • T %3/%4 • R %5/%6</translation>
     </message>
     <message>
         <source>Options enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni attive</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Controlli</translation>
     </message>
     <message>
         <source>Solving...</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolo in corso…</translation>
     </message>
     <message>
         <source>Start Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia il calcolo</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>View Results →</source>
-        <translation type="unfinished"></translation>
+        <translation>Vedi i risultati →</translation>
     </message>
 </context>
 <context>
-    <name>DeleteProfileDialog</name>
+    <name>CustomActions</name>
     <message>
-        <source>Delete settings profile</source>
-        <translation type="unfinished"></translation>
+        <source>Are you sure you want to delete this folder?</source>
+        <translation>Eliminare questa cartella?</translation>
     </message>
     <message>
-        <source>Are you sure you want to delete this saved profile?</source>
-        <translation type="unfinished"></translation>
+        <source>Are you sure you want to delete this range?</source>
+        <translation>Eliminare questo range?</translation>
+    </message>
+    <message>
+        <source>This will also delete %1 range(s). This cannot be undone.</source>
+        <translation>Range che verranno eliminati con la cartella: %1. L’operazione è irreversibile.</translation>
     </message>
     <message>
         <source>This cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’operazione è irreversibile.</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <source>Save current range…</source>
+        <translation>Salva il range attuale…</translation>
+    </message>
+    <message>
+        <source>Import range…</source>
+        <translation>Importa range…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Aggiungi cartella…</translation>
+    </message>
+    <message>
+        <source>Delete selected…</source>
+        <translation>Elimina selezione…</translation>
+    </message>
+    <message>
+        <source>Save OOP range</source>
+        <translation>Salva il range OOP</translation>
+    </message>
+    <message>
+        <source>Save IP range</source>
+        <translation>Salva il range IP</translation>
+    </message>
+    <message>
+        <source>Name this range:</source>
+        <translation>Nome del range:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN vs BB (default)</source>
+        <translation>es. BTN vs BB (predefinito)</translation>
+    </message>
+    <message>
+        <source>Add folder (OOP)</source>
+        <translation>Aggiungi cartella (OOP)</translation>
+    </message>
+    <message>
+        <source>Add folder (IP)</source>
+        <translation>Aggiungi cartella (IP)</translation>
+    </message>
+    <message>
+        <source>Folder name:</source>
+        <translation>Nome della cartella:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN vs BB</source>
+        <translation>es. BTN vs BB</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Delete range</source>
+        <translation>Elimina</translation>
+    </message>
+</context>
+<context>
+    <name>DeleteDialog</name>
+    <message>
+        <source>This cannot be undone.</source>
+        <translation>L’operazione è irreversibile.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>DeveloperActions</name>
+    <message>
+        <source>Override</source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message>
+        <source>Export standard…</source>
+        <translation>Esporta standard…</translation>
+    </message>
+    <message>
+        <source>Export population…</source>
+        <translation>Esporta popolazione…</translation>
+    </message>
+    <message>
+        <source>Clear overrides…</source>
+        <translation>Rimuovi sostituzioni…</translation>
+    </message>
+    <message>
+        <source>Export Standard Ranges</source>
+        <translation>Esporta range standard</translation>
+    </message>
+    <message>
+        <source>Export Population Ranges</source>
+        <translation>Esporta range popolazione</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Clear standard overrides</source>
+        <translation>Rimuovi sostituzioni: standard</translation>
+    </message>
+    <message>
+        <source>Clear population overrides</source>
+        <translation>Rimuovi sostituzioni: popolazione</translation>
+    </message>
+    <message>
+        <source>Clear all locally overridden standard ranges for %1?</source>
+        <translation>Rimuovere tutte le sostituzioni locali dei range standard per %1?</translation>
+    </message>
+    <message>
+        <source>Clear all locally overridden population ranges for %1?</source>
+        <translation>Rimuovere tutte le sostituzioni locali dei range di popolazione per %1?</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Rimuovi</translation>
+    </message>
+</context>
+<context>
+    <name>DrillBar</name>
+    <message>
+        <source>Stop drill</source>
+        <translation>Termina drill</translation>
+    </message>
+    <message>
+        <source>Drill spot</source>
+        <translation>Drill sullo spot</translation>
     </message>
 </context>
 <context>
     <name>FileProgress</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>GameSettingsCard</name>
     <message>
         <source>Game Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametri di gioco</translation>
     </message>
     <message>
         <source>Starting Pot</source>
-        <translation type="unfinished"></translation>
+        <translation>Piatto iniziale</translation>
     </message>
     <message>
         <source>e.g., 100</source>
-        <translation type="unfinished"></translation>
+        <translation>es. 100</translation>
     </message>
     <message>
         <source>Effective Stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Stack effettivo</translation>
     </message>
     <message>
         <source>Rake (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rake (%)</translation>
     </message>
     <message>
         <source>e.g., 5.0</source>
-        <translation type="unfinished"></translation>
+        <translation>es. 5.0</translation>
     </message>
     <message>
         <source>Rake Cap</source>
-        <translation type="unfinished"></translation>
+        <translation>Cap del rake</translation>
     </message>
     <message>
         <source>e.g., 0</source>
-        <translation type="unfinished"></translation>
+        <translation>es. 0</translation>
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfruttabilità obiettivo (%)</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
-        <translation type="unfinished"></translation>
+        <translation>es. 0.10</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>GameTreePanel</name>
     <message>
         <source>Game Tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Albero di gioco</translation>
     </message>
 </context>
 <context>
     <name>HandBuckets</name>
     <message>
         <source>air</source>
-        <translation type="unfinished"></translation>
+        <translation>aria</translation>
     </message>
     <message>
         <source>back door flush draw</source>
-        <translation type="unfinished"></translation>
+        <translation>backdoor flush draw</translation>
     </message>
     <message>
         <source>bottom pair</source>
-        <translation type="unfinished"></translation>
+        <translation>bottom pair</translation>
     </message>
     <message>
         <source>dry pair</source>
-        <translation type="unfinished"></translation>
+        <translation>underpair</translation>
     </message>
     <message>
         <source>flush</source>
-        <translation type="unfinished"></translation>
+        <translation>colore</translation>
     </message>
     <message>
         <source>flush draw</source>
-        <translation type="unfinished"></translation>
+        <translation>flush draw</translation>
     </message>
     <message>
         <source>full house</source>
-        <translation type="unfinished"></translation>
+        <translation>full</translation>
     </message>
     <message>
         <source>gutter</source>
-        <translation type="unfinished"></translation>
+        <translation>gutshot</translation>
     </message>
     <message>
         <source>middle pair</source>
-        <translation type="unfinished"></translation>
+        <translation>middle pair</translation>
     </message>
     <message>
         <source>missed FD</source>
-        <translation type="unfinished"></translation>
+        <translation>FD mancato</translation>
     </message>
     <message>
         <source>missed OESD</source>
-        <translation type="unfinished"></translation>
+        <translation>OESD mancato</translation>
     </message>
     <message>
         <source>missed gutter</source>
-        <translation type="unfinished"></translation>
+        <translation>gutshot mancato</translation>
     </message>
     <message>
         <source>open ended straight draw</source>
-        <translation type="unfinished"></translation>
+        <translation>draw bilaterale</translation>
     </message>
     <message>
         <source>overpair</source>
-        <translation type="unfinished"></translation>
+        <translation>overpair</translation>
     </message>
     <message>
         <source>quads</source>
-        <translation type="unfinished"></translation>
+        <translation>poker</translation>
     </message>
     <message>
         <source>set</source>
-        <translation type="unfinished"></translation>
+        <translation>set</translation>
     </message>
     <message>
         <source>straight</source>
-        <translation type="unfinished"></translation>
+        <translation>scala</translation>
     </message>
     <message>
         <source>straight flush</source>
-        <translation type="unfinished"></translation>
+        <translation>scala colore</translation>
     </message>
     <message>
         <source>top pair</source>
-        <translation type="unfinished"></translation>
+        <translation>top pair</translation>
     </message>
     <message>
         <source>trips</source>
-        <translation type="unfinished"></translation>
+        <translation>trips</translation>
     </message>
     <message>
         <source>two pair</source>
-        <translation type="unfinished"></translation>
+        <translation>doppia coppia</translation>
+    </message>
+</context>
+<context>
+    <name>HandDetails</name>
+    <message>
+        <source>Hand details</source>
+        <translation>Dettagli della mano</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Flop</source>
+        <translation>Flop</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Turn</translation>
+    </message>
+    <message>
+        <source>River</source>
+        <translation>River</translation>
+    </message>
+    <message>
+        <source>Hands</source>
+        <translation>Mani</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Riepilogo</translation>
     </message>
 </context>
 <context>
     <name>HandDetailsCard</name>
     <message>
         <source>Loading hand combos…</source>
-        <translation type="unfinished"></translation>
+        <translation>Caricamento combo…</translation>
     </message>
     <message>
         <source>No hand combos to display for this node.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna combo da mostrare in questo nodo.</translation>
     </message>
     <message>
         <source>No combos match the current filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna combo corrisponde ai filtri.</translation>
     </message>
     <message>
         <source>Hand Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Dettagli mani</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca</translation>
     </message>
     <message>
         <source>Search (JJ, 56s, JcJd, ...)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca (JJ, 56s, JcJd, …)</translation>
     </message>
     <message>
         <source>Filter: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro: %1</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi</translation>
+    </message>
+</context>
+<context>
+    <name>HandLog</name>
+    <message>
+        <source>Hand Log</source>
+        <translation>Cronologia mani</translation>
+    </message>
+    <message>
+        <source>%1 hands</source>
+        <translation>Mani: %1</translation>
+    </message>
+    <message>
+        <source>Hands that you finish are listed here.</source>
+        <translation>Qui compaiono le mani concluse.</translation>
+    </message>
+</context>
+<context>
+    <name>HandLogRow</name>
+    <message>
+        <source>EV -%1</source>
+        <translation>EV -%1</translation>
+    </message>
+    <message>
+        <source>Perfect</source>
+        <translation>Perfetto</translation>
     </message>
 </context>
 <context>
     <name>HandMatrix</name>
     <message>
         <source>Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Mani</translation>
     </message>
     <message>
         <source>%1, weight %2%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, peso %2%</translation>
+    </message>
+</context>
+<context>
+    <name>HandSummary</name>
+    <message>
+        <source>Winner: %1</source>
+        <translation>Vincitore: %1</translation>
+    </message>
+    <message>
+        <source>Won: %1</source>
+        <translation>Vincita: %1</translation>
+    </message>
+    <message>
+        <source>Rake: %1</source>
+        <translation>Rake: %1</translation>
+    </message>
+    <message>
+        <source>EV lost: %1</source>
+        <translation>EV perso: %1</translation>
+    </message>
+    <message>
+        <source>Incorrect: %1</source>
+        <translation>Errore: %1</translation>
+    </message>
+    <message>
+        <source>Correct: %1</source>
+        <translation>Corretto: %1</translation>
     </message>
 </context>
 <context>
     <name>HeroBand</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>A modern, high-performance holdem solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Un solver hold’em moderno e ad alte prestazioni</translation>
     </message>
     <message>
         <source>New Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo calcolo</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri file</translation>
     </message>
 </context>
 <context>
-    <name>HomePage</name>
+    <name>ImportRange</name>
     <message>
-        <source>Play vs. Solution</source>
-        <translation type="unfinished"></translation>
+        <source>Import failed: %1</source>
+        <translation>Importazione non riuscita: %1</translation>
     </message>
     <message>
-        <source>No hands played yet.</source>
-        <translation type="unfinished"></translation>
+        <source>unknown error</source>
+        <translation>errore sconosciuto</translation>
     </message>
     <message>
-        <source>Solve Activity</source>
-        <translation type="unfinished"></translation>
+        <source>Import failed: file contained no recognizable hands.</source>
+        <translation>Importazione non riuscita: nessuna mano riconoscibile nel file.</translation>
     </message>
     <message>
-        <source>Last solve: %1</source>
-        <translation type="unfinished"></translation>
+        <source>Import Range</source>
+        <translation>Importa range</translation>
     </message>
     <message>
-        <source>No solve in this session yet.</source>
-        <translation type="unfinished"></translation>
+        <source>Range text (*.txt)</source>
+        <translation>Testo del range (*.txt)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Name this range:</source>
+        <translation>Nome del range:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN open (custom)</source>
+        <translation>es. BTN open (personale)</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importa</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryColumn</name>
+    <message>
+        <source>No ranges yet.</source>
+        <translation>Ancora nessun range.</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryRow</name>
+    <message>
+        <source>Open folder</source>
+        <translation>Cartella aperta</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
     </message>
 </context>
 <context>
     <name>LicensesCard</name>
     <message>
         <source>Licenses</source>
-        <translation type="unfinished"></translation>
+        <translation>Licenze</translation>
     </message>
     <message>
         <source>Qt Framework</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt Framework</translation>
     </message>
     <message>
         <source>Runtime (dynamic linking)</source>
-        <translation type="unfinished"></translation>
+        <translation>Runtime (linking dinamico)</translation>
     </message>
     <message>
         <source>LGPL v3</source>
-        <translation type="unfinished"></translation>
+        <translation>LGPL v3</translation>
     </message>
     <message>
         <source>oneTBB</source>
-        <translation type="unfinished"></translation>
+        <translation>oneTBB</translation>
     </message>
     <message>
         <source>Threading</source>
-        <translation type="unfinished"></translation>
+        <translation>Multithreading</translation>
     </message>
     <message>
         <source>Apache 2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Apache 2.0</translation>
     </message>
     <message>
         <source>Third-party notices and license texts are included in the &apos;licenses&apos; folder next to the executable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le note sul software di terze parti e i testi delle licenze si trovano nella cartella “licenses” accanto all’eseguibile.</translation>
     </message>
     <message>
         <source>Open licenses folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri la cartella delle licenze</translation>
     </message>
     <message>
         <source>Open notices</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri le note</translation>
     </message>
 </context>
 <context>
     <name>LoadProfileDialog</name>
     <message>
         <source>Please select a profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un profilo.</translation>
     </message>
     <message>
         <source>Load Settings Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica profilo impostazioni</translation>
     </message>
     <message>
         <source>Choose a saved profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un profilo salvato:</translation>
     </message>
     <message>
         <source>No saved profiles yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessun profilo salvato.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica</translation>
+    </message>
+    <message>
+        <source>Delete settings profile</source>
+        <translation>Elimina profilo impostazioni</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this saved profile?</source>
+        <translation>Eliminare questo profilo salvato?</translation>
     </message>
 </context>
 <context>
     <name>LockModeButtons</name>
     <message>
         <source>Standard mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalità standard</translation>
     </message>
     <message>
         <source>Node-lock mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalità node-lock</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
 </context>
 <context>
     <name>MessageBox</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>NameDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
     <name>NodeBox</name>
     <message>
         <source>Pot</source>
-        <translation type="unfinished"></translation>
+        <translation>Piatto</translation>
     </message>
     <message>
         <source>Stack (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stack (%1)</translation>
     </message>
     <message>
         <source>To call</source>
-        <translation type="unfinished"></translation>
+        <translation>Per il call</translation>
     </message>
 </context>
 <context>
     <name>NodeLockPanel</name>
     <message>
         <source>Node-Locking</source>
-        <translation type="unfinished"></translation>
+        <translation>Node-lock</translation>
     </message>
     <message>
         <source>Node-locking is only available on decision nodes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il node-lock è disponibile solo nei nodi decisionali.</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>0..1</source>
-        <translation type="unfinished"></translation>
+        <translation>0..1</translation>
     </message>
     <message>
         <source>Reset weights</source>
-        <translation type="unfinished"></translation>
+        <translation>Reimposta pesi</translation>
     </message>
     <message>
         <source>Re-solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricalcola</translation>
     </message>
     <message>
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Suggerimento: scegli un’azione qui sopra, poi clicca su una mano nella matrice per bloccarla.</translation>
     </message>
 </context>
 <context>
     <name>NodeView</name>
     <message>
         <source>Random river card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta river casuale</translation>
     </message>
     <message>
         <source>Random turn card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta turn casuale</translation>
+    </message>
+</context>
+<context>
+    <name>PlayActionButton</name>
+    <message>
+        <source>Key %1</source>
+        <translation>Tasto %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPanel</name>
+    <message>
+        <source>Play vs. Solution</source>
+        <translation>Contro il solver</translation>
+    </message>
+    <message>
+        <source>Role: %1</source>
+        <translation>Ruolo: %1</translation>
+    </message>
+    <message>
+        <source>Choose a role to start</source>
+        <translation>Scegli un ruolo per iniziare</translation>
+    </message>
+    <message>
+        <source>No hands can be dealt here. Solve the spot again to play it.</source>
+        <translation>Qui non si possono distribuire mani. Ricalcola lo spot per giocarlo.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPrompt</name>
+    <message>
+        <source>%1 loses %2 EV. Best: %3</source>
+        <translation>%1 perde %2 EV. Migliore: %3</translation>
+    </message>
+    <message>
+        <source>Perfect</source>
+        <translation>Perfetto</translation>
+    </message>
+    <message>
+        <source>Another hand</source>
+        <translation>Un’altra mano</translation>
+    </message>
+</context>
+<context>
+    <name>PlaySeat</name>
+    <message>
+        <source>%1: no cards</source>
+        <translation>%1: nessuna carta</translation>
+    </message>
+    <message>
+        <source>%1: opponent&apos;s cards, face down</source>
+        <translation>%1: carte dell’avversario, coperte</translation>
+    </message>
+    <message>
+        <source>Stack: %1</source>
+        <translation>Stack: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlaySession</name>
+    <message>
+        <source>Wrong — best: %1 (EV -%2)</source>
+        <translation>Errore — migliore: %1 (EV -%2)</translation>
+    </message>
+    <message>
+        <source>Correct</source>
+        <translation>Corretto</translation>
+    </message>
+</context>
+<context>
+    <name>PlayTable</name>
+    <message>
+        <source>Table</source>
+        <translation>Tavolo</translation>
+    </message>
+    <message>
+        <source>Dealer button</source>
+        <translation>Bottone del dealer</translation>
+    </message>
+    <message>
+        <source>Pot: %1</source>
+        <translation>Piatto: %1</translation>
+    </message>
+    <message>
+        <source>Click Turn/River to change</source>
+        <translation>Clicca su turn/river per cambiare</translation>
+    </message>
+    <message>
+        <source>OOP action: %1</source>
+        <translation>Azione OOP: %1</translation>
     </message>
 </context>
 <context>
     <name>PlayingCard</name>
     <message>
         <source>Face-down card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta coperta</translation>
     </message>
     <message>
         <source>Empty card slot</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio carta vuoto</translation>
     </message>
     <message>
         <source>?</source>
-        <translation type="unfinished"></translation>
+        <translation>?</translation>
     </message>
 </context>
 <context>
     <name>ProgressCard</name>
     <message>
         <source>Iteration %1 | exploitability=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Iterazione %1 | sfruttabilità: %2</translation>
     </message>
     <message>
         <source>Ready to solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto per il calcolo</translation>
     </message>
     <message>
         <source>Finalizing…</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalizzazione…</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzamento</translation>
     </message>
     <message>
         <source>Solver converged — finalizing results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Il solver è arrivato a convergenza — finalizzazione dei risultati…</translation>
     </message>
     <message>
         <source>Window %1/%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestra %1/%2</translation>
     </message>
     <message>
         <source>Iterations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Iterazioni: %1</translation>
     </message>
     <message>
         <source>Metrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Metriche</translation>
     </message>
     <message>
         <source>Elapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascorso</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimanente</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocità</translation>
     </message>
     <message>
         <source>it/s</source>
-        <translation type="unfinished"></translation>
+        <translation>it/s</translation>
     </message>
     <message>
         <source>Exploitability</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfruttabilità</translation>
     </message>
     <message>
         <source>Measuring...</source>
-        <translation type="unfinished"></translation>
+        <translation>Misurazione…</translation>
     </message>
 </context>
 <context>
     <name>ProgressRing</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>ProjectFiles</name>
     <message>
         <source>Velmora Project (*.velmoraproj)</source>
-        <translation type="unfinished"></translation>
+        <translation>Progetto Velmora (*.velmoraproj)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i file (*)</translation>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva progetto</translation>
     </message>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri progetto</translation>
     </message>
     <message>
         <source>unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>errore sconosciuto</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
 </context>
 <context>
     <name>ProjectHeader</name>
     <message>
         <source>Project Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurazione progetto</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>Setup Required</source>
-        <translation type="unfinished"></translation>
+        <translation>Da configurare</translation>
     </message>
     <message>
         <source>Solve RAM: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM per il calcolo: %1</translation>
     </message>
     <message>
         <source>Available RAM: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM disponibile: %1</translation>
     </message>
     <message>
         <source>Continue to Solve →</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>ProjectPage</name>
-    <message>
-        <source>Import failed: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>unknown error</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import failed: file contained no recognizable hands.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import Range</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Range text (*.txt)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vai al calcolo →</translation>
     </message>
 </context>
 <context>
     <name>QuickActionsCard</name>
     <message>
         <source>Quick Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Azioni rapide</translation>
     </message>
     <message>
         <source>New Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo calcolo</translation>
     </message>
     <message>
         <source>Configure board, ranges, tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Configura board, range, albero</translation>
     </message>
     <message>
         <source>Quick Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolo rapido</translation>
     </message>
     <message>
         <source>Use default settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Con impostazioni predefinite</translation>
     </message>
     <message>
         <source>Import Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa range</translation>
     </message>
     <message>
         <source>Load from file</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica da file</translation>
     </message>
 </context>
 <context>
     <name>RangeCard</name>
     <message>
         <source>OOP Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range OOP</translation>
     </message>
     <message>
         <source>IP Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range IP</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>RangeColumn</name>
-    <message>
-        <source>Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
-        <source>Combos</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Share</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1%</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import range…</source>
-        <translation type="unfinished"></translation>
+        <source>%1 combos (%2%)</source>
+        <translation>%1 combo (%2%)</translation>
     </message>
 </context>
 <context>
     <name>RangeEditor</name>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range</translation>
     </message>
     <message>
         <source>%1 hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Mani: %1</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella</translation>
     </message>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation type="unfinished"></translation>
+        <translation>es. AA, KK, AKs, QQ+ o 50%</translation>
+    </message>
+</context>
+<context>
+    <name>RangeLibraries</name>
+    <message>
+        <source>Standard Ranges</source>
+        <translation>Range standard</translation>
+    </message>
+    <message>
+        <source>Population Ranges</source>
+        <translation>Range di popolazione</translation>
+    </message>
+    <message>
+        <source>Custom Ranges</source>
+        <translation>Range personali</translation>
+    </message>
+    <message>
+        <source>Please enter a name.</source>
+        <translation>Inserisci un nome.</translation>
+    </message>
+    <message>
+        <source>No range content to import.</source>
+        <translation>Nessun range da importare.</translation>
+    </message>
+    <message>
+        <source>Import failed.</source>
+        <translation>Importazione non riuscita.</translation>
+    </message>
+    <message>
+        <source>Export failed: %1</source>
+        <translation>Esportazione non riuscita: %1</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>errore sconosciuto</translation>
+    </message>
+    <message>
+        <source>Failed to load bundled standard presets (resource file missing/empty).</source>
+        <translation>Impossibile caricare i range standard inclusi (file di risorse mancante o vuoto).</translation>
+    </message>
+    <message>
+        <source>Failed to load bundled presets: </source>
+        <translation>Impossibile caricare i range inclusi: </translation>
     </message>
 </context>
 <context>
     <name>RangeTextField</name>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation type="unfinished"></translation>
+        <translation>es. AA, KK, AKs, QQ+ o 50%</translation>
     </message>
 </context>
 <context>
     <name>RecentRunsCard</name>
     <message>
         <source>Recent Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcoli recenti</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella</translation>
     </message>
     <message>
         <source>No runs yet — click Start Solve to record a run here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancora nessun calcolo: clicca su “Avvia il calcolo” per vederlo qui.</translation>
     </message>
 </context>
 <context>
     <name>ResultsHeader</name>
     <message>
         <source>Strategy View</source>
-        <translation type="unfinished"></translation>
+        <translation>Strategia</translation>
     </message>
     <message>
         <source>%1 to act</source>
-        <translation type="unfinished"></translation>
+        <translation>Tocca a %1</translation>
     </message>
     <message>
         <source>EV (OOP)</source>
-        <translation type="unfinished"></translation>
+        <translation>EV (OOP)</translation>
     </message>
     <message>
         <source>EV (IP)</source>
-        <translation type="unfinished"></translation>
+        <translation>EV (IP)</translation>
     </message>
     <message>
         <source>Exploitability</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfruttabilità</translation>
+    </message>
+    <message>
+        <source>Range view</source>
+        <translation>Vista range</translation>
+    </message>
+    <message>
+        <source>Play vs solution</source>
+        <translation>Contro il solver</translation>
+    </message>
+</context>
+<context>
+    <name>RoleChoice</name>
+    <message>
+        <source>Play as OOP</source>
+        <translation>Gioca come OOP</translation>
+    </message>
+    <message>
+        <source>Play as both</source>
+        <translation>Gioca con entrambi</translation>
+    </message>
+    <message>
+        <source>Play as IP</source>
+        <translation>Gioca come IP</translation>
     </message>
 </context>
 <context>
     <name>RunHistory</name>
     <message>
         <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Iterazioni: %1 • Obiettivo: %2% (≈ %3) • Thread: %4</translation>
     </message>
 </context>
 <context>
     <name>RunRow</name>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>In corso</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Completato</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullato</translation>
     </message>
 </context>
 <context>
-    <name>SaveProfileDialog</name>
+    <name>SeatLibrary</name>
     <message>
         <source>Please enter a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci un nome.</translation>
     </message>
     <message>
-        <source>Save Settings Profile</source>
-        <translation type="unfinished"></translation>
+        <source>Current range is empty.</source>
+        <translation>Il range attuale è vuoto.</translation>
     </message>
     <message>
-        <source>Profile name:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>e.g., 100bb rake-free (fast)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation type="unfinished"></translation>
+        <source>Please enter a folder name.</source>
+        <translation>Inserisci un nome per la cartella.</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina predefinite</translation>
     </message>
     <message>
         <source>Save Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva impostazioni</translation>
     </message>
 </context>
 <context>
     <name>SettingsProfilesCard</name>
     <message>
         <source>Load settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica profilo</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva profilo</translation>
+    </message>
+    <message>
+        <source>Please enter a name.</source>
+        <translation>Inserisci un nome.</translation>
+    </message>
+    <message>
+        <source>Save Settings Profile</source>
+        <translation>Salva profilo impostazioni</translation>
+    </message>
+    <message>
+        <source>Profile name:</source>
+        <translation>Nome del profilo:</translation>
+    </message>
+    <message>
+        <source>e.g., 100bb rake-free (fast)</source>
+        <translation>es. 100bb senza rake (veloce)</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>♠</source>
-        <translation type="unfinished"></translation>
+        <translation>♠</translation>
     </message>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>Poker Solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Solver di poker</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Home</translation>
     </message>
     <message>
         <source>Overview &amp; quick actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Panoramica e azioni rapide</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Progetto</translation>
     </message>
     <message>
         <source>Board, ranges, tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Board, range, albero</translation>
     </message>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolo</translation>
     </message>
     <message>
         <source>Run solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia il solver</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Risultati</translation>
     </message>
     <message>
         <source>Browse strategies</source>
-        <translation type="unfinished"></translation>
+        <translation>Esplora le strategie</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferenze</translation>
     </message>
     <message>
         <source>v0.1.0 dev</source>
-        <translation type="unfinished"></translation>
+        <translation>v0.1.0 dev</translation>
     </message>
 </context>
 <context>
     <name>SizingCard</name>
     <message>
         <source>OOP</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP</translation>
     </message>
     <message>
         <source>IP</source>
-        <translation type="unfinished"></translation>
+        <translation>IP</translation>
     </message>
     <message>
         <source>Flop</source>
-        <translation type="unfinished"></translation>
+        <translation>Flop</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>River</translation>
     </message>
     <message>
         <source>OOP Sizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Sizing OOP</translation>
     </message>
     <message>
         <source>IP Sizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Sizing IP</translation>
     </message>
     <message>
         <source>Bet sizes (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bet (%)</translation>
     </message>
     <message>
         <source>Raise sizes (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Raise (%)</translation>
     </message>
     <message>
         <source>Add All-In</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi all-in</translation>
     </message>
     <message>
         <source>Don&apos;t donk</source>
-        <translation type="unfinished"></translation>
+        <translation>Niente donk</translation>
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi all-in se inferiore al</translation>
     </message>
     <message>
         <source>e.g. 30</source>
-        <translation type="unfinished"></translation>
+        <translation>es. 30</translation>
     </message>
     <message>
         <source>% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>% del piatto</translation>
+    </message>
+</context>
+<context>
+    <name>SolveActivityCard</name>
+    <message>
+        <source>Solve Activity</source>
+        <translation>Attività di calcolo</translation>
+    </message>
+    <message>
+        <source>Last 52 weeks</source>
+        <translation>Ultime 52 settimane</translation>
     </message>
 </context>
 <context>
     <name>SolvePage</name>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolo</translation>
     </message>
     <message>
         <source>Run the CFR solver and monitor progress in real-time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia il solver CFR e segui l’avanzamento in tempo reale.</translation>
     </message>
     <message>
         <source>Finalizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalizzazione</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>In corso</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
 </context>
 <context>
     <name>StatusChip</name>
     <message>
         <source>Finalizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalizzazione</translation>
     </message>
     <message>
         <source>Solving</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolo</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>%1 %2%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2%</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>StrategyColumn</name>
     <message>
         <source>Strategy by Hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Strategia per mano</translation>
     </message>
 </context>
 <context>
     <name>StrategyPanel</name>
     <message>
         <source>Action Frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequenze delle azioni</translation>
     </message>
 </context>
 <context>
     <name>SystemCard</name>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Motore</translation>
     </message>
     <message>
         <source>Dunmarrow Core</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow Core</translation>
     </message>
     <message>
         <source>Threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Thread</translation>
     </message>
     <message>
         <source>%1 available</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponibili: %1</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria</translation>
     </message>
     <message>
         <source>%1 (%2 free)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (liberi %2)</translation>
     </message>
 </context>
 <context>
     <name>TopBar</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Home</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Progetto</translation>
     </message>
     <message>
         <source>Start a new project (or load one) from Home to enable Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea o carica un progetto da “Home” per attivare “Progetto”</translation>
     </message>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolo</translation>
     </message>
     <message>
         <source>Fill board, ranges, and sizings to enable Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Completa board, range e sizing per attivare “Calcolo”</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Risultati</translation>
     </message>
     <message>
         <source>Run a solve to enable Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Esegui un calcolo per attivare “Risultati”</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
+    </message>
+</context>
+<context>
+    <name>TrainerStatsCard</name>
+    <message>
+        <source>Play vs. Solution</source>
+        <translation>Contro il solver</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>Clear Play vs. Solution Stats</source>
+        <translation>Cancella le statistiche contro il solver</translation>
+    </message>
+    <message>
+        <source>Hands (Today / Total)</source>
+        <translation>Mani (oggi/totale)</translation>
+    </message>
+    <message>
+        <source>Accuracy (Today / Total)</source>
+        <translation>Accuratezza (oggi/totale)</translation>
+    </message>
+    <message>
+        <source>Avg EV Loss (Today / Total)</source>
+        <translation>EV perso medio (oggi/totale)</translation>
+    </message>
+    <message>
+        <source>EV</source>
+        <translation>EV</translation>
     </message>
 </context>
 <context>
     <name>TreeLevel</name>
     <message>
         <source>Available actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Azioni disponibili</translation>
     </message>
     <message>
         <source>%1 options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni: %1</translation>
     </message>
     <message>
         <source>Deal %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta: %1</translation>
     </message>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>river</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>turn</translation>
     </message>
 </context>
 <context>
     <name>TreeNode</name>
     <message>
         <source>Terminal</source>
-        <translation type="unfinished"></translation>
+        <translation>Fine</translation>
     </message>
     <message>
         <source>Deal</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta</translation>
     </message>
     <message>
         <source>Pot: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Piatto: %1</translation>
     </message>
     <message>
         <source>Freq: %1%</source>
-        <translation type="unfinished"></translation>
+        <translation>Freq.: %1%</translation>
     </message>
     <message>
         <source>EV: %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>EV: %1%2</translation>
     </message>
 </context>
 <context>
     <name>TreeWalk</name>
     <message>
         <source>Root</source>
-        <translation type="unfinished"></translation>
+        <translation>Radice</translation>
     </message>
 </context>
 <context>
     <name>UpdateManager</name>
     <message>
         <source>Update URL is not configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>URL degli aggiornamenti non configurato.</translation>
     </message>
     <message>
         <source>Update check failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica aggiornamenti non riuscita: %1</translation>
     </message>
     <message>
         <source>Invalid update response (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Risposta di aggiornamento non valida (HTTP %1).</translation>
     </message>
     <message>
         <source>No download URL available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun URL di download disponibile.</translation>
     </message>
 </context>
 <context>
     <name>UpdatesCard</name>
     <message>
         <source>Last checked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultimo controllo: %1</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamenti</translation>
     </message>
     <message>
         <source>Current version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione attuale: %1</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>sconosciuta</translation>
     </message>
     <message>
         <source>Update available: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamento disponibile: %1</translation>
     </message>
     <message>
         <source>Checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Controllo…</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Controlla aggiornamenti</translation>
     </message>
     <message>
         <source>Download update</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarica aggiornamento</translation>
     </message>
 </context>
 <context>
     <name>card_names</name>
     <message>
         <source>spades</source>
-        <translation type="unfinished"></translation>
+        <translation>picche</translation>
     </message>
     <message>
         <source>hearts</source>
-        <translation type="unfinished"></translation>
+        <translation>cuori</translation>
     </message>
     <message>
         <source>diamonds</source>
-        <translation type="unfinished"></translation>
+        <translation>quadri</translation>
     </message>
     <message>
         <source>clubs</source>
-        <translation type="unfinished"></translation>
+        <translation>fiori</translation>
     </message>
     <message>
         <source>Ace</source>
-        <translation type="unfinished"></translation>
+        <translation>Asso</translation>
     </message>
     <message>
         <source>King</source>
-        <translation type="unfinished"></translation>
+        <translation>Re</translation>
     </message>
     <message>
         <source>Queen</source>
-        <translation type="unfinished"></translation>
+        <translation>Donna</translation>
     </message>
     <message>
         <source>Jack</source>
-        <translation type="unfinished"></translation>
+        <translation>Jack</translation>
     </message>
     <message>
         <source>Ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieci</translation>
     </message>
     <message>
         <source>Nine</source>
-        <translation type="unfinished"></translation>
+        <translation>Nove</translation>
     </message>
     <message>
         <source>Eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Otto</translation>
     </message>
     <message>
         <source>Seven</source>
-        <translation type="unfinished"></translation>
+        <translation>Sette</translation>
     </message>
     <message>
         <source>Six</source>
-        <translation type="unfinished"></translation>
+        <translation>Sei</translation>
     </message>
     <message>
         <source>Five</source>
-        <translation type="unfinished"></translation>
+        <translation>Cinque</translation>
     </message>
     <message>
         <source>Four</source>
-        <translation type="unfinished"></translation>
+        <translation>Quattro</translation>
     </message>
     <message>
         <source>Three</source>
-        <translation type="unfinished"></translation>
+        <translation>Tre</translation>
     </message>
     <message>
         <source>Two</source>
-        <translation type="unfinished"></translation>
+        <translation>Due</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2</translation>
+    </message>
+</context>
+<context>
+    <name>range_library_names</name>
+    <message>
+        <source>6-max</source>
+        <translation>6-max</translation>
+    </message>
+    <message>
+        <source>Heads up</source>
+        <translation>Heads-up</translation>
+    </message>
+    <message>
+        <source>No rake</source>
+        <translation>Senza rake</translation>
+    </message>
+    <message>
+        <source>50nl rake</source>
+        <translation>Rake NL50</translation>
+    </message>
+    <message>
+        <source>100nl rake</source>
+        <translation>Rake NL100</translation>
+    </message>
+    <message>
+        <source>200nl rake</source>
+        <translation>Rake NL200</translation>
+    </message>
+    <message>
+        <source>500nl rake</source>
+        <translation>Rake NL500</translation>
+    </message>
+    <message>
+        <source>RFI</source>
+        <translation>RFI</translation>
+    </message>
+    <message>
+        <source>vs RFI</source>
+        <translation>vs RFI</translation>
+    </message>
+    <message>
+        <source>vs 3bet</source>
+        <translation>vs 3bet</translation>
+    </message>
+    <message>
+        <source>vs 4bet</source>
+        <translation>vs 4bet</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Call</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Fold</translation>
+    </message>
+    <message>
+        <source>3bet</source>
+        <translation>3bet</translation>
+    </message>
+    <message>
+        <source>4bet</source>
+        <translation>4bet</translation>
+    </message>
+    <message>
+        <source>Limp</source>
+        <translation>Limp</translation>
+    </message>
+    <message>
+        <source>Limp-call</source>
+        <translation>Limp-call</translation>
+    </message>
+    <message>
+        <source>Limp-3b</source>
+        <translation>Limp-3b</translation>
+    </message>
+    <message>
+        <source>Call raise</source>
+        <translation>Call raise</translation>
+    </message>
+    <message>
+        <source>Check back</source>
+        <translation>Check back</translation>
+    </message>
+    <message>
+        <source>3b</source>
+        <translation>3b</translation>
+    </message>
+    <message>
+        <source>4b</source>
+        <translation>4b</translation>
+    </message>
+    <message>
+        <source>Call 3b</source>
+        <translation>Call 3b</translation>
+    </message>
+    <message>
+        <source>Call 4b</source>
+        <translation>Call 4b</translation>
+    </message>
+    <message>
+        <source>3b cold call</source>
+        <translation>3b cold call</translation>
+    </message>
+    <message>
+        <source>Bomb pot</source>
+        <translation>Bomb pot</translation>
+    </message>
+    <message>
+        <source>Weaker regs</source>
+        <translation>Reg più deboli</translation>
+    </message>
+    <message>
+        <source>Tighter reg</source>
+        <translation>Reg più tight</translation>
+    </message>
+    <message>
+        <source>Looser reg</source>
+        <translation>Reg più loose</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Altri</translation>
+    </message>
+    <message>
+        <source>Nit</source>
+        <translation>Nit</translation>
+    </message>
+    <message>
+        <source>Overfolder</source>
+        <translation>Overfolder</translation>
+    </message>
+    <message>
+        <source>Passive</source>
+        <translation>Passivo</translation>
+    </message>
+    <message>
+        <source>Passive tight</source>
+        <translation>Passivo tight</translation>
+    </message>
+    <message>
+        <source>Passive neutral</source>
+        <translation>Passivo neutro</translation>
+    </message>
+    <message>
+        <source>Passive loose</source>
+        <translation>Passivo loose</translation>
+    </message>
+    <message>
+        <source>Extreme loose</source>
+        <translation>Loose estremo</translation>
+    </message>
+    <message>
+        <source>Loose aggressive</source>
+        <translation>Loose aggressivo</translation>
+    </message>
+    <message>
+        <source>Standard LAG</source>
+        <translation>LAG standard</translation>
+    </message>
+    <message>
+        <source>Maniac</source>
+        <translation>Maniac</translation>
+    </message>
+    <message>
+        <source>vs %1 RFI</source>
+        <translation>vs %1 RFI</translation>
+    </message>
+    <message>
+        <source>%1 vs %2 3bet</source>
+        <translation>%1 vs %2 3bet</translation>
+    </message>
+    <message>
+        <source>%1 3bet vs %2 4bet</source>
+        <translation>%1 3bet vs %2 4bet</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 (VPIP %2)</source>
+        <translation>%1 (VPIP %2)</translation>
+    </message>
+</context>
+<context>
+    <name>solve_activity</name>
+    <message>
+        <source>Mon</source>
+        <translation>lun</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>mar</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>mer</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>gio</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>ven</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>sab</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>dom</translation>
+    </message>
+    <message>
+        <source>Jan</source>
+        <translation>gen</translation>
+    </message>
+    <message>
+        <source>Feb</source>
+        <translation>feb</translation>
+    </message>
+    <message>
+        <source>Mar</source>
+        <translation>mar</translation>
+    </message>
+    <message>
+        <source>Apr</source>
+        <translation>apr</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>mag</translation>
+    </message>
+    <message>
+        <source>Jun</source>
+        <translation>giu</translation>
+    </message>
+    <message>
+        <source>Jul</source>
+        <translation>lug</translation>
+    </message>
+    <message>
+        <source>Aug</source>
+        <translation>ago</translation>
+    </message>
+    <message>
+        <source>Sep</source>
+        <translation>set</translation>
+    </message>
+    <message>
+        <source>Oct</source>
+        <translation>ott</translation>
+    </message>
+    <message>
+        <source>Nov</source>
+        <translation>nov</translation>
+    </message>
+    <message>
+        <source>Dec</source>
+        <translation>dic</translation>
+    </message>
+    <message>
+        <source>%1 (future)</source>
+        <translation>%1 (futuro)</translation>
+    </message>
+    <message>
+        <source>Solves: %1</source>
+        <translation>Calcoli: %1</translation>
+    </message>
+    <message>
+        <source>Avg iters: %1</source>
+        <translation>Iter. medie: %1</translation>
+    </message>
+    <message>
+        <source>Avg expl: %1</source>
+        <translation>Sfrutt. media: %1</translation>
     </message>
 </context>
 </TS>

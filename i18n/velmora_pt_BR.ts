@@ -5,1638 +5,2372 @@
     <name>AccentSwatch</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>ActionFigures</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>%1 combos</source>
-        <translation type="unfinished"></translation>
+        <translation>Combos: %1</translation>
     </message>
     <message>
         <source>%1% equity</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% equity</translation>
     </message>
     <message>
         <source>%1 EV</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 EV</translation>
+    </message>
+</context>
+<context>
+    <name>ActivityGrid</name>
+    <message>
+        <source>Solve Activity</source>
+        <translation>Atividade de cálculo</translation>
+    </message>
+    <message>
+        <source>Last 52 weeks</source>
+        <translation>Últimas 52 semanas</translation>
     </message>
 </context>
 <context>
     <name>AppController</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>Starting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciando…</translation>
     </message>
     <message>
         <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM insuficiente para o cálculo (mesmo sem os resultados anteriores)</translation>
     </message>
     <message>
         <source>Already running</source>
-        <translation type="unfinished"></translation>
+        <translation>Cálculo já em andamento</translation>
     </message>
     <message>
         <source>No previous solve config (solve once first)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma configuração anterior (faça primeiro um cálculo)</translation>
     </message>
     <message>
         <source>Cancelling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelando…</translation>
     </message>
     <message>
         <source>Another file is still being saved or opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Outro arquivo ainda está sendo salvo ou aberto</translation>
     </message>
     <message>
         <source>Loaded project (%1 strategy nodes, %2 combo nodes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Projeto carregado (nós de estratégia: %1, nós de combos: %2)</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>Failed to open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível abrir o arquivo</translation>
     </message>
     <message>
         <source>Unrecognized project format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de projeto não reconhecido</translation>
     </message>
     <message>
         <source>Unsupported project version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versão de projeto não suportada</translation>
     </message>
     <message>
         <source>Invalid JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON inválido</translation>
     </message>
     <message>
         <source>Failed to save file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível salvar o arquivo: %1</translation>
     </message>
     <message>
         <source>Failed to open file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível abrir o arquivo: %1</translation>
     </message>
 </context>
 <context>
     <name>AppearanceCard</name>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Aparência</translation>
     </message>
     <message>
         <source>Dark Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo escuro</translation>
     </message>
     <message>
         <source>Use dark color scheme throughout the interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar cores escuras em toda a interface</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Change the app language (takes effect immediately)</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma do programa (a mudança é imediata)</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation>Padrão do sistema</translation>
     </message>
     <message>
         <source>Accent Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor de destaque</translation>
     </message>
     <message>
         <source>Customize the app highlight color (buttons, accents, clubs/check).</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor de realce do programa (botões, destaques, paus/check).</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Roxo</translation>
     </message>
     <message>
         <source>Gold</source>
-        <translation type="unfinished"></translation>
+        <translation>Dourado</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Laranja</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Vermelho</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Redefinir</translation>
     </message>
 </context>
 <context>
     <name>BoardCard</name>
     <message>
         <source>Board</source>
-        <translation type="unfinished"></translation>
+        <translation>Board</translation>
     </message>
 </context>
 <context>
     <name>BoardDisplay</name>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>River</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
     <message>
         <source>Flop</source>
-        <translation type="unfinished"></translation>
+        <translation>Flop</translation>
     </message>
     <message>
         <source>Preflop</source>
-        <translation type="unfinished"></translation>
+        <translation>Pré-flop</translation>
     </message>
     <message>
         <source>Board</source>
-        <translation type="unfinished"></translation>
+        <translation>Board</translation>
     </message>
 </context>
 <context>
     <name>BucketRow</name>
     <message>
         <source>%1 combos</source>
-        <translation type="unfinished"></translation>
+        <translation>Combos: %1</translation>
     </message>
 </context>
 <context>
     <name>BucketsCard</name>
     <message>
         <source>Buckets</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorias</translation>
     </message>
     <message>
         <source>%1 shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Em exibição: %1</translation>
     </message>
 </context>
 <context>
     <name>BusyLabel</name>
     <message>
         <source>Loading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregando…</translation>
     </message>
 </context>
 <context>
     <name>CardPicker</name>
     <message>
         <source>Cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartas</translation>
     </message>
 </context>
 <context>
     <name>CardPickerDialog</name>
     <message>
         <source>Select card</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha a carta</translation>
     </message>
     <message>
         <source>River card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta do river</translation>
     </message>
     <message>
         <source>Turn card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta do turn</translation>
     </message>
     <message>
         <source>Flop card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta do flop</translation>
     </message>
     <message>
         <source>Clear card</source>
-        <translation type="unfinished"></translation>
+        <translation>Remover carta</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>CardPickerTile</name>
     <message>
         <source>Already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Já usada</translation>
     </message>
 </context>
 <context>
     <name>ChancePicker</name>
     <message>
         <source>Choose River Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha a carta do river</translation>
     </message>
     <message>
         <source>Choose Turn Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha a carta do turn</translation>
     </message>
     <message>
         <source>Random</source>
-        <translation type="unfinished"></translation>
+        <translation>Aleatória</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
 </context>
 <context>
     <name>Chip</name>
     <message>
         <source>×</source>
-        <translation type="unfinished"></translation>
+        <translation>×</translation>
+    </message>
+</context>
+<context>
+    <name>ClearStatsDialog</name>
+    <message>
+        <source>Clear Play vs. Solution Stats</source>
+        <translation>Limpar estatísticas do jogo vs solver</translation>
+    </message>
+    <message>
+        <source>Clear all Play vs. Solution statistics (today + total)?</source>
+        <translation>Limpar todas as estatísticas do jogo vs solver (hoje + total)?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>ComboRow</name>
     <message>
         <source>EV:</source>
-        <translation type="unfinished"></translation>
+        <translation>EV:</translation>
     </message>
 </context>
 <context>
     <name>ComputeCard</name>
     <message>
         <source>Compute</source>
-        <translation type="unfinished"></translation>
+        <translation>Processamento</translation>
     </message>
     <message>
         <source>Threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Threads</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Máx.</translation>
     </message>
     <message>
         <source>Precision</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisão</translation>
     </message>
     <message>
         <source>The solver computes in Float32, whatever is chosen here.</source>
-        <translation type="unfinished"></translation>
+        <translation>O solver calcula em Float32, seja qual for a escolha aqui.</translation>
     </message>
 </context>
 <context>
     <name>ConfigurationCard</name>
     <message>
         <source>flop</source>
-        <translation type="unfinished"></translation>
+        <translation>flop</translation>
     </message>
     <message>
         <source>turn</source>
-        <translation type="unfinished"></translation>
+        <translation>turn</translation>
     </message>
     <message>
         <source>river</source>
-        <translation type="unfinished"></translation>
+        <translation>river</translation>
     </message>
     <message>
         <source>OOP: don&apos;t donk on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: sem donk no %1</translation>
     </message>
     <message>
         <source>OOP: add all-in on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: adicionar all-in no %1</translation>
     </message>
     <message>
         <source>IP: add all-in on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>IP: adicionar all-in no %1</translation>
     </message>
     <message>
         <source>OOP: add all-in if jam &lt; %1% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: adicionar all-in se &lt; %1% do pote</translation>
     </message>
     <message>
         <source>IP: add all-in if jam &lt; %1% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>IP: adicionar all-in se &lt; %1% do pote</translation>
     </message>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuração</translation>
     </message>
     <message>
         <source>Street</source>
-        <translation type="unfinished"></translation>
+        <translation>Street</translation>
     </message>
     <message>
         <source>Pot / Stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Pote / stack</translation>
     </message>
     <message>
         <source>%1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Target</source>
-        <translation type="unfinished"></translation>
+        <translation>Alvo</translation>
     </message>
     <message>
         <source>%1% (= %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% (= %2)</translation>
     </message>
     <message>
         <source>Rake</source>
-        <translation type="unfinished"></translation>
+        <translation>Rake</translation>
     </message>
     <message>
         <source>%1% (cap %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% (cap %2)</translation>
     </message>
     <message>
         <source>Bet sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sizing dos bets</translation>
     </message>
     <message>
         <source>F %1/%2 • T %3/%4 • R %5/%6</source>
-        <translation type="unfinished"></translation>
+        <translation>F %1/%2 • T %3/%4 • R %5/%6</translation>
     </message>
     <message>
         <source>Options enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Opções ativas</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Controles</translation>
     </message>
     <message>
         <source>Solving...</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculando…</translation>
     </message>
     <message>
         <source>Start Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar cálculo</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>View Results →</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver resultados →</translation>
     </message>
 </context>
 <context>
-    <name>DeleteProfileDialog</name>
+    <name>CustomActions</name>
     <message>
-        <source>Delete settings profile</source>
-        <translation type="unfinished"></translation>
+        <source>Are you sure you want to delete this folder?</source>
+        <translation>Excluir esta pasta?</translation>
     </message>
     <message>
-        <source>Are you sure you want to delete this saved profile?</source>
-        <translation type="unfinished"></translation>
+        <source>Are you sure you want to delete this range?</source>
+        <translation>Excluir este range?</translation>
+    </message>
+    <message>
+        <source>This will also delete %1 range(s). This cannot be undone.</source>
+        <translation>Ranges que também serão excluídos: %1. Esta ação não pode ser desfeita.</translation>
     </message>
     <message>
         <source>This cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta ação não pode ser desfeita.</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <source>Save current range…</source>
+        <translation>Salvar range atual…</translation>
+    </message>
+    <message>
+        <source>Import range…</source>
+        <translation>Importar range…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Adicionar pasta…</translation>
+    </message>
+    <message>
+        <source>Delete selected…</source>
+        <translation>Excluir seleção…</translation>
+    </message>
+    <message>
+        <source>Save OOP range</source>
+        <translation>Salvar range OOP</translation>
+    </message>
+    <message>
+        <source>Save IP range</source>
+        <translation>Salvar range IP</translation>
+    </message>
+    <message>
+        <source>Name this range:</source>
+        <translation>Nome do range:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN vs BB (default)</source>
+        <translation>ex.: BTN vs BB (padrão)</translation>
+    </message>
+    <message>
+        <source>Add folder (OOP)</source>
+        <translation>Adicionar pasta (OOP)</translation>
+    </message>
+    <message>
+        <source>Add folder (IP)</source>
+        <translation>Adicionar pasta (IP)</translation>
+    </message>
+    <message>
+        <source>Folder name:</source>
+        <translation>Nome da pasta:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN vs BB</source>
+        <translation>ex.: BTN vs BB</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>Delete range</source>
+        <translation>Excluir</translation>
+    </message>
+</context>
+<context>
+    <name>DeleteDialog</name>
+    <message>
+        <source>This cannot be undone.</source>
+        <translation>Esta ação não pode ser desfeita.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>DeveloperActions</name>
+    <message>
+        <source>Override</source>
+        <translation>Substituir</translation>
+    </message>
+    <message>
+        <source>Export standard…</source>
+        <translation>Exportar padrão…</translation>
+    </message>
+    <message>
+        <source>Export population…</source>
+        <translation>Exportar população…</translation>
+    </message>
+    <message>
+        <source>Clear overrides…</source>
+        <translation>Limpar substituições…</translation>
+    </message>
+    <message>
+        <source>Export Standard Ranges</source>
+        <translation>Exportar ranges padrão</translation>
+    </message>
+    <message>
+        <source>Export Population Ranges</source>
+        <translation>Exportar ranges da população</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>Clear standard overrides</source>
+        <translation>Limpar substituições: padrão</translation>
+    </message>
+    <message>
+        <source>Clear population overrides</source>
+        <translation>Limpar substituições: população</translation>
+    </message>
+    <message>
+        <source>Clear all locally overridden standard ranges for %1?</source>
+        <translation>Limpar todas as substituições locais dos ranges padrão de %1?</translation>
+    </message>
+    <message>
+        <source>Clear all locally overridden population ranges for %1?</source>
+        <translation>Limpar todas as substituições locais dos ranges da população de %1?</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Limpar</translation>
+    </message>
+</context>
+<context>
+    <name>DrillBar</name>
+    <message>
+        <source>Stop drill</source>
+        <translation>Parar treino</translation>
+    </message>
+    <message>
+        <source>Drill spot</source>
+        <translation>Treinar spot</translation>
     </message>
 </context>
 <context>
     <name>FileProgress</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>GameSettingsCard</name>
     <message>
         <source>Game Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Parâmetros do jogo</translation>
     </message>
     <message>
         <source>Starting Pot</source>
-        <translation type="unfinished"></translation>
+        <translation>Pote inicial</translation>
     </message>
     <message>
         <source>e.g., 100</source>
-        <translation type="unfinished"></translation>
+        <translation>ex.: 100</translation>
     </message>
     <message>
         <source>Effective Stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Stack efetivo</translation>
     </message>
     <message>
         <source>Rake (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rake (%)</translation>
     </message>
     <message>
         <source>e.g., 5.0</source>
-        <translation type="unfinished"></translation>
+        <translation>ex.: 5.0</translation>
     </message>
     <message>
         <source>Rake Cap</source>
-        <translation type="unfinished"></translation>
+        <translation>Cap do rake</translation>
     </message>
     <message>
         <source>e.g., 0</source>
-        <translation type="unfinished"></translation>
+        <translation>ex.: 0</translation>
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorabilidade-alvo (%)</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
-        <translation type="unfinished"></translation>
+        <translation>ex.: 0.10</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>GameTreePanel</name>
     <message>
         <source>Game Tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Árvore do jogo</translation>
     </message>
 </context>
 <context>
     <name>HandBuckets</name>
     <message>
         <source>air</source>
-        <translation type="unfinished"></translation>
+        <translation>air</translation>
     </message>
     <message>
         <source>back door flush draw</source>
-        <translation type="unfinished"></translation>
+        <translation>backdoor flush draw</translation>
     </message>
     <message>
         <source>bottom pair</source>
-        <translation type="unfinished"></translation>
+        <translation>bottom pair</translation>
     </message>
     <message>
         <source>dry pair</source>
-        <translation type="unfinished"></translation>
+        <translation>underpair</translation>
     </message>
     <message>
         <source>flush</source>
-        <translation type="unfinished"></translation>
+        <translation>flush</translation>
     </message>
     <message>
         <source>flush draw</source>
-        <translation type="unfinished"></translation>
+        <translation>flush draw</translation>
     </message>
     <message>
         <source>full house</source>
-        <translation type="unfinished"></translation>
+        <translation>full house</translation>
     </message>
     <message>
         <source>gutter</source>
-        <translation type="unfinished"></translation>
+        <translation>gutshot</translation>
     </message>
     <message>
         <source>middle pair</source>
-        <translation type="unfinished"></translation>
+        <translation>middle pair</translation>
     </message>
     <message>
         <source>missed FD</source>
-        <translation type="unfinished"></translation>
+        <translation>FD perdido</translation>
     </message>
     <message>
         <source>missed OESD</source>
-        <translation type="unfinished"></translation>
+        <translation>OESD perdido</translation>
     </message>
     <message>
         <source>missed gutter</source>
-        <translation type="unfinished"></translation>
+        <translation>gutshot perdido</translation>
     </message>
     <message>
         <source>open ended straight draw</source>
-        <translation type="unfinished"></translation>
+        <translation>OESD</translation>
     </message>
     <message>
         <source>overpair</source>
-        <translation type="unfinished"></translation>
+        <translation>overpair</translation>
     </message>
     <message>
         <source>quads</source>
-        <translation type="unfinished"></translation>
+        <translation>quadra</translation>
     </message>
     <message>
         <source>set</source>
-        <translation type="unfinished"></translation>
+        <translation>set</translation>
     </message>
     <message>
         <source>straight</source>
-        <translation type="unfinished"></translation>
+        <translation>sequência</translation>
     </message>
     <message>
         <source>straight flush</source>
-        <translation type="unfinished"></translation>
+        <translation>straight flush</translation>
     </message>
     <message>
         <source>top pair</source>
-        <translation type="unfinished"></translation>
+        <translation>top pair</translation>
     </message>
     <message>
         <source>trips</source>
-        <translation type="unfinished"></translation>
+        <translation>trips</translation>
     </message>
     <message>
         <source>two pair</source>
-        <translation type="unfinished"></translation>
+        <translation>dois pares</translation>
+    </message>
+</context>
+<context>
+    <name>HandDetails</name>
+    <message>
+        <source>Hand details</source>
+        <translation>Detalhes da mão</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Flop</source>
+        <translation>Flop</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Turn</translation>
+    </message>
+    <message>
+        <source>River</source>
+        <translation>River</translation>
+    </message>
+    <message>
+        <source>Hands</source>
+        <translation>Mãos</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumo</translation>
     </message>
 </context>
 <context>
     <name>HandDetailsCard</name>
     <message>
         <source>Loading hand combos…</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregando combos…</translation>
     </message>
     <message>
         <source>No hand combos to display for this node.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum combo para mostrar neste nó.</translation>
     </message>
     <message>
         <source>No combos match the current filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum combo corresponde aos filtros.</translation>
     </message>
     <message>
         <source>Hand Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalhes das mãos</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Search (JJ, 56s, JcJd, ...)</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar (JJ, 56s, JcJd, …)</translation>
     </message>
     <message>
         <source>Filter: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro: %1</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar</translation>
+    </message>
+</context>
+<context>
+    <name>HandLog</name>
+    <message>
+        <source>Hand Log</source>
+        <translation>Registro de mãos</translation>
+    </message>
+    <message>
+        <source>%1 hands</source>
+        <translation>Mãos: %1</translation>
+    </message>
+    <message>
+        <source>Hands that you finish are listed here.</source>
+        <translation>As mãos concluídas aparecem aqui.</translation>
+    </message>
+</context>
+<context>
+    <name>HandLogRow</name>
+    <message>
+        <source>EV -%1</source>
+        <translation>EV -%1</translation>
+    </message>
+    <message>
+        <source>Perfect</source>
+        <translation>Perfeito</translation>
     </message>
 </context>
 <context>
     <name>HandMatrix</name>
     <message>
         <source>Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Mãos</translation>
     </message>
     <message>
         <source>%1, weight %2%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, peso %2%</translation>
+    </message>
+</context>
+<context>
+    <name>HandSummary</name>
+    <message>
+        <source>Winner: %1</source>
+        <translation>Vencedor: %1</translation>
+    </message>
+    <message>
+        <source>Won: %1</source>
+        <translation>Ganho: %1</translation>
+    </message>
+    <message>
+        <source>Rake: %1</source>
+        <translation>Rake: %1</translation>
+    </message>
+    <message>
+        <source>EV lost: %1</source>
+        <translation>EV perdido: %1</translation>
+    </message>
+    <message>
+        <source>Incorrect: %1</source>
+        <translation>Errado: %1</translation>
+    </message>
+    <message>
+        <source>Correct: %1</source>
+        <translation>Correto: %1</translation>
     </message>
 </context>
 <context>
     <name>HeroBand</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>A modern, high-performance holdem solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Um solver de hold’em moderno e de alto desempenho</translation>
     </message>
     <message>
         <source>New Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Novo cálculo</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir arquivo</translation>
     </message>
 </context>
 <context>
-    <name>HomePage</name>
+    <name>ImportRange</name>
     <message>
-        <source>Play vs. Solution</source>
-        <translation type="unfinished"></translation>
+        <source>Import failed: %1</source>
+        <translation>Falha na importação: %1</translation>
     </message>
     <message>
-        <source>No hands played yet.</source>
-        <translation type="unfinished"></translation>
+        <source>unknown error</source>
+        <translation>erro desconhecido</translation>
     </message>
     <message>
-        <source>Solve Activity</source>
-        <translation type="unfinished"></translation>
+        <source>Import failed: file contained no recognizable hands.</source>
+        <translation>Falha na importação: nenhuma mão reconhecida no arquivo.</translation>
     </message>
     <message>
-        <source>Last solve: %1</source>
-        <translation type="unfinished"></translation>
+        <source>Import Range</source>
+        <translation>Importar range</translation>
     </message>
     <message>
-        <source>No solve in this session yet.</source>
-        <translation type="unfinished"></translation>
+        <source>Range text (*.txt)</source>
+        <translation>Texto do range (*.txt)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>Name this range:</source>
+        <translation>Nome do range:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN open (custom)</source>
+        <translation>ex.: BTN open (próprio)</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryColumn</name>
+    <message>
+        <source>No ranges yet.</source>
+        <translation>Ainda sem ranges.</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryRow</name>
+    <message>
+        <source>Open folder</source>
+        <translation>Pasta aberta</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Pasta</translation>
     </message>
 </context>
 <context>
     <name>LicensesCard</name>
     <message>
         <source>Licenses</source>
-        <translation type="unfinished"></translation>
+        <translation>Licenças</translation>
     </message>
     <message>
         <source>Qt Framework</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt Framework</translation>
     </message>
     <message>
         <source>Runtime (dynamic linking)</source>
-        <translation type="unfinished"></translation>
+        <translation>Runtime (vinculação dinâmica)</translation>
     </message>
     <message>
         <source>LGPL v3</source>
-        <translation type="unfinished"></translation>
+        <translation>LGPL v3</translation>
     </message>
     <message>
         <source>oneTBB</source>
-        <translation type="unfinished"></translation>
+        <translation>oneTBB</translation>
     </message>
     <message>
         <source>Threading</source>
-        <translation type="unfinished"></translation>
+        <translation>Multithreading</translation>
     </message>
     <message>
         <source>Apache 2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Apache 2.0</translation>
     </message>
     <message>
         <source>Third-party notices and license texts are included in the &apos;licenses&apos; folder next to the executable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os avisos de terceiros e os textos das licenças estão na pasta “licenses”, ao lado do executável.</translation>
     </message>
     <message>
         <source>Open licenses folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir pasta de licenças</translation>
     </message>
     <message>
         <source>Open notices</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir avisos</translation>
     </message>
 </context>
 <context>
     <name>LoadProfileDialog</name>
     <message>
         <source>Please select a profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecione um perfil.</translation>
     </message>
     <message>
         <source>Load Settings Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregar perfil de configurações</translation>
     </message>
     <message>
         <source>Choose a saved profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha um perfil salvo:</translation>
     </message>
     <message>
         <source>No saved profiles yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ainda não há perfis salvos.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregar</translation>
+    </message>
+    <message>
+        <source>Delete settings profile</source>
+        <translation>Excluir perfil de configurações</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this saved profile?</source>
+        <translation>Excluir este perfil salvo?</translation>
     </message>
 </context>
 <context>
     <name>LockModeButtons</name>
     <message>
         <source>Standard mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo padrão</translation>
     </message>
     <message>
         <source>Node-lock mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo node-lock</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
 </context>
 <context>
     <name>MessageBox</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>NameDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>NodeBox</name>
     <message>
         <source>Pot</source>
-        <translation type="unfinished"></translation>
+        <translation>Pote</translation>
     </message>
     <message>
         <source>Stack (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stack (%1)</translation>
     </message>
     <message>
         <source>To call</source>
-        <translation type="unfinished"></translation>
+        <translation>Para pagar</translation>
     </message>
 </context>
 <context>
     <name>NodeLockPanel</name>
     <message>
         <source>Node-Locking</source>
-        <translation type="unfinished"></translation>
+        <translation>Node-lock</translation>
     </message>
     <message>
         <source>Node-locking is only available on decision nodes.</source>
-        <translation type="unfinished"></translation>
+        <translation>O node-lock só está disponível em nós de decisão.</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>0..1</source>
-        <translation type="unfinished"></translation>
+        <translation>0..1</translation>
     </message>
     <message>
         <source>Reset weights</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar pesos</translation>
     </message>
     <message>
         <source>Re-solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Recalcular</translation>
     </message>
     <message>
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dica: selecione uma ação acima e depois clique em uma mão na matriz para travá-la.</translation>
     </message>
 </context>
 <context>
     <name>NodeView</name>
     <message>
         <source>Random river card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta aleatória no river</translation>
     </message>
     <message>
         <source>Random turn card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta aleatória no turn</translation>
+    </message>
+</context>
+<context>
+    <name>PlayActionButton</name>
+    <message>
+        <source>Key %1</source>
+        <translation>Tecla %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPanel</name>
+    <message>
+        <source>Play vs. Solution</source>
+        <translation>Jogar vs solver</translation>
+    </message>
+    <message>
+        <source>Role: %1</source>
+        <translation>Papel: %1</translation>
+    </message>
+    <message>
+        <source>Choose a role to start</source>
+        <translation>Escolha um papel para começar</translation>
+    </message>
+    <message>
+        <source>No hands can be dealt here. Solve the spot again to play it.</source>
+        <translation>Não é possível distribuir mãos aqui. Recalcule o spot para jogá-lo.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPrompt</name>
+    <message>
+        <source>%1 loses %2 EV. Best: %3</source>
+        <translation>%1 perde %2 EV. Melhor: %3</translation>
+    </message>
+    <message>
+        <source>Perfect</source>
+        <translation>Perfeito</translation>
+    </message>
+    <message>
+        <source>Another hand</source>
+        <translation>Outra mão</translation>
+    </message>
+</context>
+<context>
+    <name>PlaySeat</name>
+    <message>
+        <source>%1: no cards</source>
+        <translation>%1: sem cartas</translation>
+    </message>
+    <message>
+        <source>%1: opponent&apos;s cards, face down</source>
+        <translation>%1: cartas do oponente, viradas para baixo</translation>
+    </message>
+    <message>
+        <source>Stack: %1</source>
+        <translation>Stack: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlaySession</name>
+    <message>
+        <source>Wrong — best: %1 (EV -%2)</source>
+        <translation>Errado — melhor: %1 (EV -%2)</translation>
+    </message>
+    <message>
+        <source>Correct</source>
+        <translation>Correto</translation>
+    </message>
+</context>
+<context>
+    <name>PlayTable</name>
+    <message>
+        <source>Table</source>
+        <translation>Mesa</translation>
+    </message>
+    <message>
+        <source>Dealer button</source>
+        <translation>Botão do dealer</translation>
+    </message>
+    <message>
+        <source>Pot: %1</source>
+        <translation>Pote: %1</translation>
+    </message>
+    <message>
+        <source>Click Turn/River to change</source>
+        <translation>Clique no turn/river para mudar</translation>
+    </message>
+    <message>
+        <source>OOP action: %1</source>
+        <translation>Ação do OOP: %1</translation>
     </message>
 </context>
 <context>
     <name>PlayingCard</name>
     <message>
         <source>Face-down card</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta virada para baixo</translation>
     </message>
     <message>
         <source>Empty card slot</source>
-        <translation type="unfinished"></translation>
+        <translation>Espaço de carta vazio</translation>
     </message>
     <message>
         <source>?</source>
-        <translation type="unfinished"></translation>
+        <translation>?</translation>
     </message>
 </context>
 <context>
     <name>ProgressCard</name>
     <message>
         <source>Iteration %1 | exploitability=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Iteração %1 | explorabilidade: %2</translation>
     </message>
     <message>
         <source>Ready to solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto para calcular</translation>
     </message>
     <message>
         <source>Finalizing…</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalizando…</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progresso</translation>
     </message>
     <message>
         <source>Solver converged — finalizing results…</source>
-        <translation type="unfinished"></translation>
+        <translation>O solver convergiu — finalizando os resultados…</translation>
     </message>
     <message>
         <source>Window %1/%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Janela %1/%2</translation>
     </message>
     <message>
         <source>Iterations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Iterações: %1</translation>
     </message>
     <message>
         <source>Metrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Métricas</translation>
     </message>
     <message>
         <source>Elapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Decorrido</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Restante</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade</translation>
     </message>
     <message>
         <source>it/s</source>
-        <translation type="unfinished"></translation>
+        <translation>it/s</translation>
     </message>
     <message>
         <source>Exploitability</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorabilidade</translation>
     </message>
     <message>
         <source>Measuring...</source>
-        <translation type="unfinished"></translation>
+        <translation>Medindo…</translation>
     </message>
 </context>
 <context>
     <name>ProgressRing</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>ProjectFiles</name>
     <message>
         <source>Velmora Project (*.velmoraproj)</source>
-        <translation type="unfinished"></translation>
+        <translation>Projeto Velmora (*.velmoraproj)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos os arquivos (*)</translation>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar projeto</translation>
     </message>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir projeto</translation>
     </message>
     <message>
         <source>unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>erro desconhecido</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
 </context>
 <context>
     <name>ProjectHeader</name>
     <message>
         <source>Project Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuração do projeto</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>Setup Required</source>
-        <translation type="unfinished"></translation>
+        <translation>A configurar</translation>
     </message>
     <message>
         <source>Solve RAM: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM para o cálculo: %1</translation>
     </message>
     <message>
         <source>Available RAM: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM disponível: %1</translation>
     </message>
     <message>
         <source>Continue to Solve →</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>ProjectPage</name>
-    <message>
-        <source>Import failed: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>unknown error</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import failed: file contained no recognizable hands.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import Range</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Range text (*.txt)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ir para o cálculo →</translation>
     </message>
 </context>
 <context>
     <name>QuickActionsCard</name>
     <message>
         <source>Quick Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Ações rápidas</translation>
     </message>
     <message>
         <source>New Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Novo cálculo</translation>
     </message>
     <message>
         <source>Configure board, ranges, tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurar board, ranges, árvore</translation>
     </message>
     <message>
         <source>Quick Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Cálculo rápido</translation>
     </message>
     <message>
         <source>Use default settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar configurações padrão</translation>
     </message>
     <message>
         <source>Import Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar range</translation>
     </message>
     <message>
         <source>Load from file</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregar de um arquivo</translation>
     </message>
 </context>
 <context>
     <name>RangeCard</name>
     <message>
         <source>OOP Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range OOP</translation>
     </message>
     <message>
         <source>IP Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range IP</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>RangeColumn</name>
-    <message>
-        <source>Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
-        <source>Combos</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Share</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1%</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import range…</source>
-        <translation type="unfinished"></translation>
+        <source>%1 combos (%2%)</source>
+        <translation>Combos: %1 (%2%)</translation>
     </message>
 </context>
 <context>
     <name>RangeEditor</name>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range</translation>
     </message>
     <message>
         <source>%1 hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Mãos: %1</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar</translation>
     </message>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation type="unfinished"></translation>
+        <translation>ex.: AA, KK, AKs, QQ+ ou 50%</translation>
+    </message>
+</context>
+<context>
+    <name>RangeLibraries</name>
+    <message>
+        <source>Standard Ranges</source>
+        <translation>Ranges padrão</translation>
+    </message>
+    <message>
+        <source>Population Ranges</source>
+        <translation>Ranges da população</translation>
+    </message>
+    <message>
+        <source>Custom Ranges</source>
+        <translation>Meus ranges</translation>
+    </message>
+    <message>
+        <source>Please enter a name.</source>
+        <translation>Digite um nome.</translation>
+    </message>
+    <message>
+        <source>No range content to import.</source>
+        <translation>Nenhum range para importar.</translation>
+    </message>
+    <message>
+        <source>Import failed.</source>
+        <translation>Falha na importação.</translation>
+    </message>
+    <message>
+        <source>Export failed: %1</source>
+        <translation>Falha na exportação: %1</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>erro desconhecido</translation>
+    </message>
+    <message>
+        <source>Failed to load bundled standard presets (resource file missing/empty).</source>
+        <translation>Não foi possível carregar os ranges padrão incluídos (arquivo de recursos ausente ou vazio).</translation>
+    </message>
+    <message>
+        <source>Failed to load bundled presets: </source>
+        <translation>Não foi possível carregar os ranges incluídos: </translation>
     </message>
 </context>
 <context>
     <name>RangeTextField</name>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation type="unfinished"></translation>
+        <translation>ex.: AA, KK, AKs, QQ+ ou 50%</translation>
     </message>
 </context>
 <context>
     <name>RecentRunsCard</name>
     <message>
         <source>Recent Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Cálculos recentes</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar</translation>
     </message>
     <message>
         <source>No runs yet — click Start Solve to record a run here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ainda sem cálculos — clique em “Iniciar cálculo” para registrar um aqui.</translation>
     </message>
 </context>
 <context>
     <name>ResultsHeader</name>
     <message>
         <source>Strategy View</source>
-        <translation type="unfinished"></translation>
+        <translation>Estratégia</translation>
     </message>
     <message>
         <source>%1 to act</source>
-        <translation type="unfinished"></translation>
+        <translation>Vez do %1</translation>
     </message>
     <message>
         <source>EV (OOP)</source>
-        <translation type="unfinished"></translation>
+        <translation>EV (OOP)</translation>
     </message>
     <message>
         <source>EV (IP)</source>
-        <translation type="unfinished"></translation>
+        <translation>EV (IP)</translation>
     </message>
     <message>
         <source>Exploitability</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorab.</translation>
+    </message>
+    <message>
+        <source>Range view</source>
+        <translation>Ver range</translation>
+    </message>
+    <message>
+        <source>Play vs solution</source>
+        <translation>Jogar vs solver</translation>
+    </message>
+</context>
+<context>
+    <name>RoleChoice</name>
+    <message>
+        <source>Play as OOP</source>
+        <translation>Jogar como OOP</translation>
+    </message>
+    <message>
+        <source>Play as both</source>
+        <translation>Jogar com ambos</translation>
+    </message>
+    <message>
+        <source>Play as IP</source>
+        <translation>Jogar como IP</translation>
     </message>
 </context>
 <context>
     <name>RunHistory</name>
     <message>
         <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Iterações: %1 • Alvo: %2% (≈ %3) • Threads: %4</translation>
     </message>
 </context>
 <context>
     <name>RunRow</name>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Em andamento</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Concluído</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelado</translation>
     </message>
 </context>
 <context>
-    <name>SaveProfileDialog</name>
+    <name>SeatLibrary</name>
     <message>
         <source>Please enter a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite um nome.</translation>
     </message>
     <message>
-        <source>Save Settings Profile</source>
-        <translation type="unfinished"></translation>
+        <source>Current range is empty.</source>
+        <translation>O range atual está vazio.</translation>
     </message>
     <message>
-        <source>Profile name:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>e.g., 100bb rake-free (fast)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation type="unfinished"></translation>
+        <source>Please enter a folder name.</source>
+        <translation>Digite um nome para a pasta.</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurações</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar padrões</translation>
     </message>
     <message>
         <source>Save Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar configurações</translation>
     </message>
 </context>
 <context>
     <name>SettingsProfilesCard</name>
     <message>
         <source>Load settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregar perfil</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar perfil</translation>
+    </message>
+    <message>
+        <source>Please enter a name.</source>
+        <translation>Digite um nome.</translation>
+    </message>
+    <message>
+        <source>Save Settings Profile</source>
+        <translation>Salvar perfil de configurações</translation>
+    </message>
+    <message>
+        <source>Profile name:</source>
+        <translation>Nome do perfil:</translation>
+    </message>
+    <message>
+        <source>e.g., 100bb rake-free (fast)</source>
+        <translation>ex.: 100bb sem rake (rápido)</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>♠</source>
-        <translation type="unfinished"></translation>
+        <translation>♠</translation>
     </message>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>Poker Solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Solver de poker</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Início</translation>
     </message>
     <message>
         <source>Overview &amp; quick actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Visão geral e ações rápidas</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Projeto</translation>
     </message>
     <message>
         <source>Board, ranges, tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Board, ranges, árvore</translation>
     </message>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Cálculo</translation>
     </message>
     <message>
         <source>Run solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Rodar o solver</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados</translation>
     </message>
     <message>
         <source>Browse strategies</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorar estratégias</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurações</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferências</translation>
     </message>
     <message>
         <source>v0.1.0 dev</source>
-        <translation type="unfinished"></translation>
+        <translation>v0.1.0 dev</translation>
     </message>
 </context>
 <context>
     <name>SizingCard</name>
     <message>
         <source>OOP</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP</translation>
     </message>
     <message>
         <source>IP</source>
-        <translation type="unfinished"></translation>
+        <translation>IP</translation>
     </message>
     <message>
         <source>Flop</source>
-        <translation type="unfinished"></translation>
+        <translation>Flop</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>River</translation>
     </message>
     <message>
         <source>OOP Sizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Sizing do OOP</translation>
     </message>
     <message>
         <source>IP Sizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Sizing do IP</translation>
     </message>
     <message>
         <source>Bet sizes (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bets (%)</translation>
     </message>
     <message>
         <source>Raise sizes (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Raises (%)</translation>
     </message>
     <message>
         <source>Add All-In</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar all-in</translation>
     </message>
     <message>
         <source>Don&apos;t donk</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem donk</translation>
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar all-in se menor que</translation>
     </message>
     <message>
         <source>e.g. 30</source>
-        <translation type="unfinished"></translation>
+        <translation>ex.: 30</translation>
     </message>
     <message>
         <source>% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>% do pote</translation>
+    </message>
+</context>
+<context>
+    <name>SolveActivityCard</name>
+    <message>
+        <source>Solve Activity</source>
+        <translation>Atividade de cálculo</translation>
+    </message>
+    <message>
+        <source>Last 52 weeks</source>
+        <translation>Últimas 52 semanas</translation>
     </message>
 </context>
 <context>
     <name>SolvePage</name>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Cálculo</translation>
     </message>
     <message>
         <source>Run the CFR solver and monitor progress in real-time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rode o solver CFR e acompanhe o progresso em tempo real.</translation>
     </message>
     <message>
         <source>Finalizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalizando</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Em andamento</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
 </context>
 <context>
     <name>StatusChip</name>
     <message>
         <source>Finalizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalizando</translation>
     </message>
     <message>
         <source>Solving</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculando</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>%1 %2%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2%</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>StrategyColumn</name>
     <message>
         <source>Strategy by Hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Estratégia por mão</translation>
     </message>
 </context>
 <context>
     <name>StrategyPanel</name>
     <message>
         <source>Action Frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequência das ações</translation>
     </message>
 </context>
 <context>
     <name>SystemCard</name>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor</translation>
     </message>
     <message>
         <source>Dunmarrow Core</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow Core</translation>
     </message>
     <message>
         <source>Threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Threads</translation>
     </message>
     <message>
         <source>%1 available</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponíveis: %1</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Memória</translation>
     </message>
     <message>
         <source>%1 (%2 free)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (livre: %2)</translation>
     </message>
 </context>
 <context>
     <name>TopBar</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Início</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Projeto</translation>
     </message>
     <message>
         <source>Start a new project (or load one) from Home to enable Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Crie (ou carregue) um projeto em “Início” para liberar “Projeto”</translation>
     </message>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Cálculo</translation>
     </message>
     <message>
         <source>Fill board, ranges, and sizings to enable Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Preencha board, ranges e sizings para liberar “Cálculo”</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados</translation>
     </message>
     <message>
         <source>Run a solve to enable Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Faça um cálculo para liberar “Resultados”</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurações</translation>
+    </message>
+</context>
+<context>
+    <name>TrainerStatsCard</name>
+    <message>
+        <source>Play vs. Solution</source>
+        <translation>Jogar vs solver</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Limpar</translation>
+    </message>
+    <message>
+        <source>Clear Play vs. Solution Stats</source>
+        <translation>Limpar estatísticas do jogo vs solver</translation>
+    </message>
+    <message>
+        <source>Hands (Today / Total)</source>
+        <translation>Mãos (hoje/total)</translation>
+    </message>
+    <message>
+        <source>Accuracy (Today / Total)</source>
+        <translation>Acerto (hoje/total)</translation>
+    </message>
+    <message>
+        <source>Avg EV Loss (Today / Total)</source>
+        <translation>Perda média EV (hoje/total)</translation>
+    </message>
+    <message>
+        <source>EV</source>
+        <translation>EV</translation>
     </message>
 </context>
 <context>
     <name>TreeLevel</name>
     <message>
         <source>Available actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Ações disponíveis</translation>
     </message>
     <message>
         <source>%1 options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opções: %1</translation>
     </message>
     <message>
         <source>Deal %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta: %1</translation>
     </message>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>river</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>turn</translation>
     </message>
 </context>
 <context>
     <name>TreeNode</name>
     <message>
         <source>Terminal</source>
-        <translation type="unfinished"></translation>
+        <translation>Fim</translation>
     </message>
     <message>
         <source>Deal</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta</translation>
     </message>
     <message>
         <source>Pot: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pote: %1</translation>
     </message>
     <message>
         <source>Freq: %1%</source>
-        <translation type="unfinished"></translation>
+        <translation>Freq.: %1%</translation>
     </message>
     <message>
         <source>EV: %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>EV: %1%2</translation>
     </message>
 </context>
 <context>
     <name>TreeWalk</name>
     <message>
         <source>Root</source>
-        <translation type="unfinished"></translation>
+        <translation>Raiz</translation>
     </message>
 </context>
 <context>
     <name>UpdateManager</name>
     <message>
         <source>Update URL is not configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>O URL de atualização não está configurado.</translation>
     </message>
     <message>
         <source>Update check failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao verificar atualizações: %1</translation>
     </message>
     <message>
         <source>Invalid update response (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Resposta de atualização inválida (HTTP %1).</translation>
     </message>
     <message>
         <source>No download URL available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum URL de download disponível.</translation>
     </message>
 </context>
 <context>
     <name>UpdatesCard</name>
     <message>
         <source>Last checked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Última verificação: %1</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Atualizações</translation>
     </message>
     <message>
         <source>Current version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versão atual: %1</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>desconhecida</translation>
     </message>
     <message>
         <source>Update available: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Atualização disponível: %1</translation>
     </message>
     <message>
         <source>Checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificando…</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar atualizações</translation>
     </message>
     <message>
         <source>Download update</source>
-        <translation type="unfinished"></translation>
+        <translation>Baixar atualização</translation>
     </message>
 </context>
 <context>
     <name>card_names</name>
     <message>
         <source>spades</source>
-        <translation type="unfinished"></translation>
+        <translation>espadas</translation>
     </message>
     <message>
         <source>hearts</source>
-        <translation type="unfinished"></translation>
+        <translation>copas</translation>
     </message>
     <message>
         <source>diamonds</source>
-        <translation type="unfinished"></translation>
+        <translation>ouros</translation>
     </message>
     <message>
         <source>clubs</source>
-        <translation type="unfinished"></translation>
+        <translation>paus</translation>
     </message>
     <message>
         <source>Ace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ás</translation>
     </message>
     <message>
         <source>King</source>
-        <translation type="unfinished"></translation>
+        <translation>Rei</translation>
     </message>
     <message>
         <source>Queen</source>
-        <translation type="unfinished"></translation>
+        <translation>Dama</translation>
     </message>
     <message>
         <source>Jack</source>
-        <translation type="unfinished"></translation>
+        <translation>Valete</translation>
     </message>
     <message>
         <source>Ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Dez</translation>
     </message>
     <message>
         <source>Nine</source>
-        <translation type="unfinished"></translation>
+        <translation>Nove</translation>
     </message>
     <message>
         <source>Eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Oito</translation>
     </message>
     <message>
         <source>Seven</source>
-        <translation type="unfinished"></translation>
+        <translation>Sete</translation>
     </message>
     <message>
         <source>Six</source>
-        <translation type="unfinished"></translation>
+        <translation>Seis</translation>
     </message>
     <message>
         <source>Five</source>
-        <translation type="unfinished"></translation>
+        <translation>Cinco</translation>
     </message>
     <message>
         <source>Four</source>
-        <translation type="unfinished"></translation>
+        <translation>Quatro</translation>
     </message>
     <message>
         <source>Three</source>
-        <translation type="unfinished"></translation>
+        <translation>Três</translation>
     </message>
     <message>
         <source>Two</source>
-        <translation type="unfinished"></translation>
+        <translation>Dois</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>range_library_names</name>
+    <message>
+        <source>6-max</source>
+        <translation>6-max</translation>
+    </message>
+    <message>
+        <source>Heads up</source>
+        <translation>Heads-up</translation>
+    </message>
+    <message>
+        <source>No rake</source>
+        <translation>Sem rake</translation>
+    </message>
+    <message>
+        <source>50nl rake</source>
+        <translation>Rake NL50</translation>
+    </message>
+    <message>
+        <source>100nl rake</source>
+        <translation>Rake NL100</translation>
+    </message>
+    <message>
+        <source>200nl rake</source>
+        <translation>Rake NL200</translation>
+    </message>
+    <message>
+        <source>500nl rake</source>
+        <translation>Rake NL500</translation>
+    </message>
+    <message>
+        <source>RFI</source>
+        <translation>RFI</translation>
+    </message>
+    <message>
+        <source>vs RFI</source>
+        <translation>vs RFI</translation>
+    </message>
+    <message>
+        <source>vs 3bet</source>
+        <translation>vs 3bet</translation>
+    </message>
+    <message>
+        <source>vs 4bet</source>
+        <translation>vs 4bet</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Call</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Fold</translation>
+    </message>
+    <message>
+        <source>3bet</source>
+        <translation>3bet</translation>
+    </message>
+    <message>
+        <source>4bet</source>
+        <translation>4bet</translation>
+    </message>
+    <message>
+        <source>Limp</source>
+        <translation>Limp</translation>
+    </message>
+    <message>
+        <source>Limp-call</source>
+        <translation>Limp-call</translation>
+    </message>
+    <message>
+        <source>Limp-3b</source>
+        <translation>Limp-3b</translation>
+    </message>
+    <message>
+        <source>Call raise</source>
+        <translation>Call raise</translation>
+    </message>
+    <message>
+        <source>Check back</source>
+        <translation>Check back</translation>
+    </message>
+    <message>
+        <source>3b</source>
+        <translation>3b</translation>
+    </message>
+    <message>
+        <source>4b</source>
+        <translation>4b</translation>
+    </message>
+    <message>
+        <source>Call 3b</source>
+        <translation>Call 3b</translation>
+    </message>
+    <message>
+        <source>Call 4b</source>
+        <translation>Call 4b</translation>
+    </message>
+    <message>
+        <source>3b cold call</source>
+        <translation>3b cold call</translation>
+    </message>
+    <message>
+        <source>Bomb pot</source>
+        <translation>Bomb pot</translation>
+    </message>
+    <message>
+        <source>Weaker regs</source>
+        <translation>Regs mais fracos</translation>
+    </message>
+    <message>
+        <source>Tighter reg</source>
+        <translation>Reg mais tight</translation>
+    </message>
+    <message>
+        <source>Looser reg</source>
+        <translation>Reg mais loose</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Outros</translation>
+    </message>
+    <message>
+        <source>Nit</source>
+        <translation>Nit</translation>
+    </message>
+    <message>
+        <source>Overfolder</source>
+        <translation>Overfolder</translation>
+    </message>
+    <message>
+        <source>Passive</source>
+        <translation>Passivo</translation>
+    </message>
+    <message>
+        <source>Passive tight</source>
+        <translation>Passivo tight</translation>
+    </message>
+    <message>
+        <source>Passive neutral</source>
+        <translation>Passivo neutro</translation>
+    </message>
+    <message>
+        <source>Passive loose</source>
+        <translation>Passivo loose</translation>
+    </message>
+    <message>
+        <source>Extreme loose</source>
+        <translation>Loose extremo</translation>
+    </message>
+    <message>
+        <source>Loose aggressive</source>
+        <translation>Loose agressivo</translation>
+    </message>
+    <message>
+        <source>Standard LAG</source>
+        <translation>LAG padrão</translation>
+    </message>
+    <message>
+        <source>Maniac</source>
+        <translation>Maníaco</translation>
+    </message>
+    <message>
+        <source>vs %1 RFI</source>
+        <translation>vs %1 RFI</translation>
+    </message>
+    <message>
+        <source>%1 vs %2 3bet</source>
+        <translation>%1 vs %2 3bet</translation>
+    </message>
+    <message>
+        <source>%1 3bet vs %2 4bet</source>
+        <translation>%1 3bet vs %2 4bet</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 (VPIP %2)</source>
+        <translation>%1 (VPIP %2)</translation>
+    </message>
+</context>
+<context>
+    <name>solve_activity</name>
+    <message>
+        <source>Mon</source>
+        <translation>seg</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>ter</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>qua</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>qui</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>sex</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>sáb</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>dom</translation>
+    </message>
+    <message>
+        <source>Jan</source>
+        <translation>jan</translation>
+    </message>
+    <message>
+        <source>Feb</source>
+        <translation>fev</translation>
+    </message>
+    <message>
+        <source>Mar</source>
+        <translation>mar</translation>
+    </message>
+    <message>
+        <source>Apr</source>
+        <translation>abr</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>mai</translation>
+    </message>
+    <message>
+        <source>Jun</source>
+        <translation>jun</translation>
+    </message>
+    <message>
+        <source>Jul</source>
+        <translation>jul</translation>
+    </message>
+    <message>
+        <source>Aug</source>
+        <translation>ago</translation>
+    </message>
+    <message>
+        <source>Sep</source>
+        <translation>set</translation>
+    </message>
+    <message>
+        <source>Oct</source>
+        <translation>out</translation>
+    </message>
+    <message>
+        <source>Nov</source>
+        <translation>nov</translation>
+    </message>
+    <message>
+        <source>Dec</source>
+        <translation>dez</translation>
+    </message>
+    <message>
+        <source>%1 (future)</source>
+        <translation>%1 (futuro)</translation>
+    </message>
+    <message>
+        <source>Solves: %1</source>
+        <translation>Cálculos: %1</translation>
+    </message>
+    <message>
+        <source>Avg iters: %1</source>
+        <translation>Iter. médias: %1</translation>
+    </message>
+    <message>
+        <source>Avg expl: %1</source>
+        <translation>Explorab. média: %1</translation>
     </message>
 </context>
 </TS>

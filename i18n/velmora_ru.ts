@@ -5,1638 +5,2372 @@
     <name>AccentSwatch</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>ActionFigures</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>%1 combos</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 комбо</translation>
     </message>
     <message>
         <source>%1% equity</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% эквити</translation>
     </message>
     <message>
         <source>%1 EV</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 EV</translation>
+    </message>
+</context>
+<context>
+    <name>ActivityGrid</name>
+    <message>
+        <source>Solve Activity</source>
+        <translation>Активность расчётов</translation>
+    </message>
+    <message>
+        <source>Last 52 weeks</source>
+        <translation>Последние 52 недели</translation>
     </message>
 </context>
 <context>
     <name>AppController</name>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Готово</translation>
     </message>
     <message>
         <source>Starting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Запуск…</translation>
     </message>
     <message>
         <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation type="unfinished"></translation>
+        <translation>Не хватает RAM для расчёта (даже без прежних результатов)</translation>
     </message>
     <message>
         <source>Already running</source>
-        <translation type="unfinished"></translation>
+        <translation>Расчёт уже идёт</translation>
     </message>
     <message>
         <source>No previous solve config (solve once first)</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет прежней конфигурации (сначала выполните расчёт)</translation>
     </message>
     <message>
         <source>Cancelling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена…</translation>
     </message>
     <message>
         <source>Another file is still being saved or opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Ещё сохраняется или открывается другой файл</translation>
     </message>
     <message>
         <source>Loaded project (%1 strategy nodes, %2 combo nodes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Проект загружен (узлы стратегии: %1, узлы комбо: %2)</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ГБ</translation>
     </message>
     <message>
         <source>Failed to open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть файл</translation>
     </message>
     <message>
         <source>Unrecognized project format</source>
-        <translation type="unfinished"></translation>
+        <translation>Неизвестный формат проекта</translation>
     </message>
     <message>
         <source>Unsupported project version</source>
-        <translation type="unfinished"></translation>
+        <translation>Версия проекта не поддерживается</translation>
     </message>
     <message>
         <source>Invalid JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверный JSON</translation>
     </message>
     <message>
         <source>Failed to save file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить файл: %1</translation>
     </message>
     <message>
         <source>Failed to open file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть файл: %1</translation>
     </message>
 </context>
 <context>
     <name>AppearanceCard</name>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Внешний вид</translation>
     </message>
     <message>
         <source>Dark Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Тёмная тема</translation>
     </message>
     <message>
         <source>Use dark color scheme throughout the interface</source>
-        <translation type="unfinished"></translation>
+        <translation>Тёмные цвета во всех окнах программы</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык</translation>
     </message>
     <message>
         <source>Change the app language (takes effect immediately)</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык программы (меняется сразу)</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation>Как в системе</translation>
     </message>
     <message>
         <source>Accent Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Цвет акцента</translation>
     </message>
     <message>
         <source>Customize the app highlight color (buttons, accents, clubs/check).</source>
-        <translation type="unfinished"></translation>
+        <translation>Цвет выделения в программе (кнопки, акценты, трефы/check).</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Зелёный</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Синий</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Фиолетовый</translation>
     </message>
     <message>
         <source>Gold</source>
-        <translation type="unfinished"></translation>
+        <translation>Золотой</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Оранжевый</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Красный</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Сбросить</translation>
     </message>
 </context>
 <context>
     <name>BoardCard</name>
     <message>
         <source>Board</source>
-        <translation type="unfinished"></translation>
+        <translation>Борд</translation>
     </message>
 </context>
 <context>
     <name>BoardDisplay</name>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>Ривер</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Тёрн</translation>
     </message>
     <message>
         <source>Flop</source>
-        <translation type="unfinished"></translation>
+        <translation>Флоп</translation>
     </message>
     <message>
         <source>Preflop</source>
-        <translation type="unfinished"></translation>
+        <translation>Префлоп</translation>
     </message>
     <message>
         <source>Board</source>
-        <translation type="unfinished"></translation>
+        <translation>Борд</translation>
     </message>
 </context>
 <context>
     <name>BucketRow</name>
     <message>
         <source>%1 combos</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 комбо</translation>
     </message>
 </context>
 <context>
     <name>BucketsCard</name>
     <message>
         <source>Buckets</source>
-        <translation type="unfinished"></translation>
+        <translation>Категории</translation>
     </message>
     <message>
         <source>%1 shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Показано: %1</translation>
     </message>
 </context>
 <context>
     <name>BusyLabel</name>
     <message>
         <source>Loading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузка…</translation>
     </message>
 </context>
 <context>
     <name>CardPicker</name>
     <message>
         <source>Cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Карты</translation>
     </message>
 </context>
 <context>
     <name>CardPickerDialog</name>
     <message>
         <source>Select card</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите карту</translation>
     </message>
     <message>
         <source>River card</source>
-        <translation type="unfinished"></translation>
+        <translation>Карта ривера</translation>
     </message>
     <message>
         <source>Turn card</source>
-        <translation type="unfinished"></translation>
+        <translation>Карта тёрна</translation>
     </message>
     <message>
         <source>Flop card</source>
-        <translation type="unfinished"></translation>
+        <translation>Карта флопа</translation>
     </message>
     <message>
         <source>Clear card</source>
-        <translation type="unfinished"></translation>
+        <translation>Убрать карту</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
     <name>CardPickerTile</name>
     <message>
         <source>Already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Уже занята</translation>
     </message>
 </context>
 <context>
     <name>ChancePicker</name>
     <message>
         <source>Choose River Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите карту ривера</translation>
     </message>
     <message>
         <source>Choose Turn Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите карту тёрна</translation>
     </message>
     <message>
         <source>Random</source>
-        <translation type="unfinished"></translation>
+        <translation>Случайная</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть</translation>
     </message>
 </context>
 <context>
     <name>Chip</name>
     <message>
         <source>×</source>
-        <translation type="unfinished"></translation>
+        <translation>×</translation>
+    </message>
+</context>
+<context>
+    <name>ClearStatsDialog</name>
+    <message>
+        <source>Clear Play vs. Solution Stats</source>
+        <translation>Сброс статистики игры с солвером</translation>
+    </message>
+    <message>
+        <source>Clear all Play vs. Solution statistics (today + total)?</source>
+        <translation>Сбросить всю статистику игры с солвером (за сегодня и за всё время)?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>ComboRow</name>
     <message>
         <source>EV:</source>
-        <translation type="unfinished"></translation>
+        <translation>EV:</translation>
     </message>
 </context>
 <context>
     <name>ComputeCard</name>
     <message>
         <source>Compute</source>
-        <translation type="unfinished"></translation>
+        <translation>Вычисления</translation>
     </message>
     <message>
         <source>Threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Потоки</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Макс.</translation>
     </message>
     <message>
         <source>Precision</source>
-        <translation type="unfinished"></translation>
+        <translation>Точность</translation>
     </message>
     <message>
         <source>The solver computes in Float32, whatever is chosen here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Солвер считает в Float32 независимо от этого выбора.</translation>
     </message>
 </context>
 <context>
     <name>ConfigurationCard</name>
     <message>
         <source>flop</source>
-        <translation type="unfinished"></translation>
+        <translation>флопе</translation>
     </message>
     <message>
         <source>turn</source>
-        <translation type="unfinished"></translation>
+        <translation>тёрне</translation>
     </message>
     <message>
         <source>river</source>
-        <translation type="unfinished"></translation>
+        <translation>ривере</translation>
     </message>
     <message>
         <source>OOP: don&apos;t donk on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: без донк-бета на %1</translation>
     </message>
     <message>
         <source>OOP: add all-in on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: добавить all-in на %1</translation>
     </message>
     <message>
         <source>IP: add all-in on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>IP: добавить all-in на %1</translation>
     </message>
     <message>
         <source>OOP: add all-in if jam &lt; %1% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP: добавить all-in, если он &lt; %1% банка</translation>
     </message>
     <message>
         <source>IP: add all-in if jam &lt; %1% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>IP: добавить all-in, если он &lt; %1% банка</translation>
     </message>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Конфигурация</translation>
     </message>
     <message>
         <source>Street</source>
-        <translation type="unfinished"></translation>
+        <translation>Улица</translation>
     </message>
     <message>
         <source>Pot / Stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Банк / стек</translation>
     </message>
     <message>
         <source>%1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Target</source>
-        <translation type="unfinished"></translation>
+        <translation>Цель</translation>
     </message>
     <message>
         <source>%1% (= %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% (= %2)</translation>
     </message>
     <message>
         <source>Rake</source>
-        <translation type="unfinished"></translation>
+        <translation>Рейк</translation>
     </message>
     <message>
         <source>%1% (cap %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% (кап %2)</translation>
     </message>
     <message>
         <source>Bet sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Сайзинги</translation>
     </message>
     <message>
         <source>F %1/%2 • T %3/%4 • R %5/%6</source>
-        <translation type="unfinished"></translation>
+        <translation>Ф %1/%2 • Т %3/%4 • Р %5/%6</translation>
     </message>
     <message>
         <source>Options enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Включённые опции</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет</translation>
     </message>
     <message>
         <source>Controls</source>
-        <translation type="unfinished"></translation>
+        <translation>Управление</translation>
     </message>
     <message>
         <source>Solving...</source>
-        <translation type="unfinished"></translation>
+        <translation>Идёт расчёт…</translation>
     </message>
     <message>
         <source>Start Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Начать расчёт</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>View Results →</source>
-        <translation type="unfinished"></translation>
+        <translation>Результаты →</translation>
     </message>
 </context>
 <context>
-    <name>DeleteProfileDialog</name>
+    <name>CustomActions</name>
     <message>
-        <source>Delete settings profile</source>
-        <translation type="unfinished"></translation>
+        <source>Are you sure you want to delete this folder?</source>
+        <translation>Удалить эту папку?</translation>
     </message>
     <message>
-        <source>Are you sure you want to delete this saved profile?</source>
-        <translation type="unfinished"></translation>
+        <source>Are you sure you want to delete this range?</source>
+        <translation>Удалить этот диапазон?</translation>
+    </message>
+    <message>
+        <source>This will also delete %1 range(s). This cannot be undone.</source>
+        <translation>Будет удалено диапазонов: %1. Отменить это нельзя.</translation>
     </message>
     <message>
         <source>This cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Отменить это нельзя.</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <source>Save current range…</source>
+        <translation>Сохранить диапазон…</translation>
+    </message>
+    <message>
+        <source>Import range…</source>
+        <translation>Импорт диапазона…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Добавить папку…</translation>
+    </message>
+    <message>
+        <source>Delete selected…</source>
+        <translation>Удалить выбранное…</translation>
+    </message>
+    <message>
+        <source>Save OOP range</source>
+        <translation>Сохранить диапазон OOP</translation>
+    </message>
+    <message>
+        <source>Save IP range</source>
+        <translation>Сохранить диапазон IP</translation>
+    </message>
+    <message>
+        <source>Name this range:</source>
+        <translation>Название диапазона:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN vs BB (default)</source>
+        <translation>напр. BTN vs BB (базовый)</translation>
+    </message>
+    <message>
+        <source>Add folder (OOP)</source>
+        <translation>Добавить папку (OOP)</translation>
+    </message>
+    <message>
+        <source>Add folder (IP)</source>
+        <translation>Добавить папку (IP)</translation>
+    </message>
+    <message>
+        <source>Folder name:</source>
+        <translation>Название папки:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN vs BB</source>
+        <translation>напр. BTN vs BB</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Delete range</source>
+        <translation>Удаление</translation>
+    </message>
+</context>
+<context>
+    <name>DeleteDialog</name>
+    <message>
+        <source>This cannot be undone.</source>
+        <translation>Отменить это нельзя.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>DeveloperActions</name>
+    <message>
+        <source>Override</source>
+        <translation>Заменить</translation>
+    </message>
+    <message>
+        <source>Export standard…</source>
+        <translation>Экспорт стандартных…</translation>
+    </message>
+    <message>
+        <source>Export population…</source>
+        <translation>Экспорт поля…</translation>
+    </message>
+    <message>
+        <source>Clear overrides…</source>
+        <translation>Сбросить замены…</translation>
+    </message>
+    <message>
+        <source>Export Standard Ranges</source>
+        <translation>Экспорт стандартных диапазонов</translation>
+    </message>
+    <message>
+        <source>Export Population Ranges</source>
+        <translation>Экспорт диапазонов поля</translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Clear standard overrides</source>
+        <translation>Сброс замен: стандартные</translation>
+    </message>
+    <message>
+        <source>Clear population overrides</source>
+        <translation>Сброс замен: поле</translation>
+    </message>
+    <message>
+        <source>Clear all locally overridden standard ranges for %1?</source>
+        <translation>Сбросить все локальные замены стандартных диапазонов для %1?</translation>
+    </message>
+    <message>
+        <source>Clear all locally overridden population ranges for %1?</source>
+        <translation>Сбросить все локальные замены диапазонов поля для %1?</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Сбросить</translation>
+    </message>
+</context>
+<context>
+    <name>DrillBar</name>
+    <message>
+        <source>Stop drill</source>
+        <translation>Закончить отработку</translation>
+    </message>
+    <message>
+        <source>Drill spot</source>
+        <translation>Отработать спот</translation>
     </message>
 </context>
 <context>
     <name>FileProgress</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>GameSettingsCard</name>
     <message>
         <source>Game Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Параметры игры</translation>
     </message>
     <message>
         <source>Starting Pot</source>
-        <translation type="unfinished"></translation>
+        <translation>Начальный банк</translation>
     </message>
     <message>
         <source>e.g., 100</source>
-        <translation type="unfinished"></translation>
+        <translation>напр. 100</translation>
     </message>
     <message>
         <source>Effective Stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Эффективный стек</translation>
     </message>
     <message>
         <source>Rake (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Рейк (%)</translation>
     </message>
     <message>
         <source>e.g., 5.0</source>
-        <translation type="unfinished"></translation>
+        <translation>напр. 5.0</translation>
     </message>
     <message>
         <source>Rake Cap</source>
-        <translation type="unfinished"></translation>
+        <translation>Кап рейка</translation>
     </message>
     <message>
         <source>e.g., 0</source>
-        <translation type="unfinished"></translation>
+        <translation>напр. 0</translation>
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Целевая эксплуатируемость (%)</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
-        <translation type="unfinished"></translation>
+        <translation>напр. 0.10</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>GameTreePanel</name>
     <message>
         <source>Game Tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Дерево игры</translation>
     </message>
 </context>
 <context>
     <name>HandBuckets</name>
     <message>
         <source>air</source>
-        <translation type="unfinished"></translation>
+        <translation>воздух</translation>
     </message>
     <message>
         <source>back door flush draw</source>
-        <translation type="unfinished"></translation>
+        <translation>бэкдорное флеш-дро</translation>
     </message>
     <message>
         <source>bottom pair</source>
-        <translation type="unfinished"></translation>
+        <translation>нижняя пара</translation>
     </message>
     <message>
         <source>dry pair</source>
-        <translation type="unfinished"></translation>
+        <translation>андерпара</translation>
     </message>
     <message>
         <source>flush</source>
-        <translation type="unfinished"></translation>
+        <translation>флеш</translation>
     </message>
     <message>
         <source>flush draw</source>
-        <translation type="unfinished"></translation>
+        <translation>флеш-дро</translation>
     </message>
     <message>
         <source>full house</source>
-        <translation type="unfinished"></translation>
+        <translation>фулл-хаус</translation>
     </message>
     <message>
         <source>gutter</source>
-        <translation type="unfinished"></translation>
+        <translation>гатшот</translation>
     </message>
     <message>
         <source>middle pair</source>
-        <translation type="unfinished"></translation>
+        <translation>средняя пара</translation>
     </message>
     <message>
         <source>missed FD</source>
-        <translation type="unfinished"></translation>
+        <translation>незакрытое ФД</translation>
     </message>
     <message>
         <source>missed OESD</source>
-        <translation type="unfinished"></translation>
+        <translation>незакрытое OESD</translation>
     </message>
     <message>
         <source>missed gutter</source>
-        <translation type="unfinished"></translation>
+        <translation>незакрытый гатшот</translation>
     </message>
     <message>
         <source>open ended straight draw</source>
-        <translation type="unfinished"></translation>
+        <translation>двустороннее стрит-дро</translation>
     </message>
     <message>
         <source>overpair</source>
-        <translation type="unfinished"></translation>
+        <translation>оверпара</translation>
     </message>
     <message>
         <source>quads</source>
-        <translation type="unfinished"></translation>
+        <translation>каре</translation>
     </message>
     <message>
         <source>set</source>
-        <translation type="unfinished"></translation>
+        <translation>сет</translation>
     </message>
     <message>
         <source>straight</source>
-        <translation type="unfinished"></translation>
+        <translation>стрит</translation>
     </message>
     <message>
         <source>straight flush</source>
-        <translation type="unfinished"></translation>
+        <translation>стрит-флеш</translation>
     </message>
     <message>
         <source>top pair</source>
-        <translation type="unfinished"></translation>
+        <translation>топ-пара</translation>
     </message>
     <message>
         <source>trips</source>
-        <translation type="unfinished"></translation>
+        <translation>трипс</translation>
     </message>
     <message>
         <source>two pair</source>
-        <translation type="unfinished"></translation>
+        <translation>две пары</translation>
+    </message>
+</context>
+<context>
+    <name>HandDetails</name>
+    <message>
+        <source>Hand details</source>
+        <translation>Детали раздачи</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Flop</source>
+        <translation>Флоп</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Тёрн</translation>
+    </message>
+    <message>
+        <source>River</source>
+        <translation>Ривер</translation>
+    </message>
+    <message>
+        <source>Hands</source>
+        <translation>Руки</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Итог</translation>
     </message>
 </context>
 <context>
     <name>HandDetailsCard</name>
     <message>
         <source>Loading hand combos…</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузка комбо…</translation>
     </message>
     <message>
         <source>No hand combos to display for this node.</source>
-        <translation type="unfinished"></translation>
+        <translation>В этом узле нет комбо.</translation>
     </message>
     <message>
         <source>No combos match the current filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет комбо, подходящих под фильтры.</translation>
     </message>
     <message>
         <source>Hand Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Руки подробно</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск</translation>
     </message>
     <message>
         <source>Search (JJ, 56s, JcJd, ...)</source>
-        <translation type="unfinished"></translation>
+        <translation>Поиск (JJ, 56s, JcJd, …)</translation>
     </message>
     <message>
         <source>Filter: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Фильтр: %1</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Сбросить</translation>
+    </message>
+</context>
+<context>
+    <name>HandLog</name>
+    <message>
+        <source>Hand Log</source>
+        <translation>История раздач</translation>
+    </message>
+    <message>
+        <source>%1 hands</source>
+        <translation>Раздачи: %1</translation>
+    </message>
+    <message>
+        <source>Hands that you finish are listed here.</source>
+        <translation>Здесь появятся сыгранные раздачи.</translation>
+    </message>
+</context>
+<context>
+    <name>HandLogRow</name>
+    <message>
+        <source>EV -%1</source>
+        <translation>EV -%1</translation>
+    </message>
+    <message>
+        <source>Perfect</source>
+        <translation>Идеально</translation>
     </message>
 </context>
 <context>
     <name>HandMatrix</name>
     <message>
         <source>Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Руки</translation>
     </message>
     <message>
         <source>%1, weight %2%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, вес %2%</translation>
+    </message>
+</context>
+<context>
+    <name>HandSummary</name>
+    <message>
+        <source>Winner: %1</source>
+        <translation>Победитель: %1</translation>
+    </message>
+    <message>
+        <source>Won: %1</source>
+        <translation>Выигрыш: %1</translation>
+    </message>
+    <message>
+        <source>Rake: %1</source>
+        <translation>Рейк: %1</translation>
+    </message>
+    <message>
+        <source>EV lost: %1</source>
+        <translation>Потеря EV: %1</translation>
+    </message>
+    <message>
+        <source>Incorrect: %1</source>
+        <translation>Ошибка: %1</translation>
+    </message>
+    <message>
+        <source>Correct: %1</source>
+        <translation>Верно: %1</translation>
     </message>
 </context>
 <context>
     <name>HeroBand</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>A modern, high-performance holdem solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Современный быстрый солвер для холдема</translation>
     </message>
     <message>
         <source>New Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый расчёт</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть файл</translation>
     </message>
 </context>
 <context>
-    <name>HomePage</name>
+    <name>ImportRange</name>
     <message>
-        <source>Play vs. Solution</source>
-        <translation type="unfinished"></translation>
+        <source>Import failed: %1</source>
+        <translation>Ошибка импорта: %1</translation>
     </message>
     <message>
-        <source>No hands played yet.</source>
-        <translation type="unfinished"></translation>
+        <source>unknown error</source>
+        <translation>неизвестная ошибка</translation>
     </message>
     <message>
-        <source>Solve Activity</source>
-        <translation type="unfinished"></translation>
+        <source>Import failed: file contained no recognizable hands.</source>
+        <translation>Ошибка импорта: в файле не найдено ни одной руки.</translation>
     </message>
     <message>
-        <source>Last solve: %1</source>
-        <translation type="unfinished"></translation>
+        <source>Import Range</source>
+        <translation>Импорт диапазона</translation>
     </message>
     <message>
-        <source>No solve in this session yet.</source>
-        <translation type="unfinished"></translation>
+        <source>Range text (*.txt)</source>
+        <translation>Текст диапазона (*.txt)</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Name this range:</source>
+        <translation>Название диапазона:</translation>
+    </message>
+    <message>
+        <source>e.g., BTN open (custom)</source>
+        <translation>напр. BTN open (свой)</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryColumn</name>
+    <message>
+        <source>No ranges yet.</source>
+        <translation>Диапазонов пока нет.</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryRow</name>
+    <message>
+        <source>Open folder</source>
+        <translation>Открытая папка</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
     </message>
 </context>
 <context>
     <name>LicensesCard</name>
     <message>
         <source>Licenses</source>
-        <translation type="unfinished"></translation>
+        <translation>Лицензии</translation>
     </message>
     <message>
         <source>Qt Framework</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt Framework</translation>
     </message>
     <message>
         <source>Runtime (dynamic linking)</source>
-        <translation type="unfinished"></translation>
+        <translation>Среда выполнения (динамическая компоновка)</translation>
     </message>
     <message>
         <source>LGPL v3</source>
-        <translation type="unfinished"></translation>
+        <translation>LGPL v3</translation>
     </message>
     <message>
         <source>oneTBB</source>
-        <translation type="unfinished"></translation>
+        <translation>oneTBB</translation>
     </message>
     <message>
         <source>Threading</source>
-        <translation type="unfinished"></translation>
+        <translation>Многопоточность</translation>
     </message>
     <message>
         <source>Apache 2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>Apache 2.0</translation>
     </message>
     <message>
         <source>Third-party notices and license texts are included in the &apos;licenses&apos; folder next to the executable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сведения о стороннем ПО и тексты лицензий находятся в папке «licenses» рядом с исполняемым файлом.</translation>
     </message>
     <message>
         <source>Open licenses folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть папку лицензий</translation>
     </message>
     <message>
         <source>Open notices</source>
-        <translation type="unfinished"></translation>
+        <translation>Сведения о ПО</translation>
     </message>
 </context>
 <context>
     <name>LoadProfileDialog</name>
     <message>
         <source>Please select a profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите профиль.</translation>
     </message>
     <message>
         <source>Load Settings Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузка профиля настроек</translation>
     </message>
     <message>
         <source>Choose a saved profile:</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите сохранённый профиль:</translation>
     </message>
     <message>
         <source>No saved profiles yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранённых профилей пока нет.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузить</translation>
+    </message>
+    <message>
+        <source>Delete settings profile</source>
+        <translation>Удаление профиля настроек</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this saved profile?</source>
+        <translation>Удалить этот сохранённый профиль?</translation>
     </message>
 </context>
 <context>
     <name>LockModeButtons</name>
     <message>
         <source>Standard mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Обычный режим</translation>
     </message>
     <message>
         <source>Node-lock mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим нодлока</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
 </context>
 <context>
     <name>MessageBox</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>NameDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
     <name>NodeBox</name>
     <message>
         <source>Pot</source>
-        <translation type="unfinished"></translation>
+        <translation>Банк</translation>
     </message>
     <message>
         <source>Stack (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Стек (%1)</translation>
     </message>
     <message>
         <source>To call</source>
-        <translation type="unfinished"></translation>
+        <translation>Для колла</translation>
     </message>
 </context>
 <context>
     <name>NodeLockPanel</name>
     <message>
         <source>Node-Locking</source>
-        <translation type="unfinished"></translation>
+        <translation>Нодлок</translation>
     </message>
     <message>
         <source>Node-locking is only available on decision nodes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нодлок доступен только в узлах решений.</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Вес</translation>
     </message>
     <message>
         <source>0..1</source>
-        <translation type="unfinished"></translation>
+        <translation>0..1</translation>
     </message>
     <message>
         <source>Reset weights</source>
-        <translation type="unfinished"></translation>
+        <translation>Сброс весов</translation>
     </message>
     <message>
         <source>Re-solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Пересчёт</translation>
     </message>
     <message>
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Совет: выберите действие выше и щёлкните руку в матрице, чтобы зафиксировать её.</translation>
     </message>
 </context>
 <context>
     <name>NodeView</name>
     <message>
         <source>Random river card</source>
-        <translation type="unfinished"></translation>
+        <translation>Случайная карта ривера</translation>
     </message>
     <message>
         <source>Random turn card</source>
-        <translation type="unfinished"></translation>
+        <translation>Случайная карта тёрна</translation>
+    </message>
+</context>
+<context>
+    <name>PlayActionButton</name>
+    <message>
+        <source>Key %1</source>
+        <translation>Клавиша %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPanel</name>
+    <message>
+        <source>Play vs. Solution</source>
+        <translation>Игра с солвером</translation>
+    </message>
+    <message>
+        <source>Role: %1</source>
+        <translation>Роль: %1</translation>
+    </message>
+    <message>
+        <source>Choose a role to start</source>
+        <translation>Выберите роль, чтобы начать</translation>
+    </message>
+    <message>
+        <source>No hands can be dealt here. Solve the spot again to play it.</source>
+        <translation>Здесь нельзя раздать руки. Рассчитайте спот заново, чтобы сыграть его.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPrompt</name>
+    <message>
+        <source>%1 loses %2 EV. Best: %3</source>
+        <translation>%1 теряет %2 EV. Лучше: %3</translation>
+    </message>
+    <message>
+        <source>Perfect</source>
+        <translation>Идеально</translation>
+    </message>
+    <message>
+        <source>Another hand</source>
+        <translation>Ещё раздача</translation>
+    </message>
+</context>
+<context>
+    <name>PlaySeat</name>
+    <message>
+        <source>%1: no cards</source>
+        <translation>%1: карт нет</translation>
+    </message>
+    <message>
+        <source>%1: opponent&apos;s cards, face down</source>
+        <translation>%1: карты соперника, закрыты</translation>
+    </message>
+    <message>
+        <source>Stack: %1</source>
+        <translation>Стек: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlaySession</name>
+    <message>
+        <source>Wrong — best: %1 (EV -%2)</source>
+        <translation>Ошибка — лучше: %1 (EV -%2)</translation>
+    </message>
+    <message>
+        <source>Correct</source>
+        <translation>Верно</translation>
+    </message>
+</context>
+<context>
+    <name>PlayTable</name>
+    <message>
+        <source>Table</source>
+        <translation>Стол</translation>
+    </message>
+    <message>
+        <source>Dealer button</source>
+        <translation>Кнопка дилера</translation>
+    </message>
+    <message>
+        <source>Pot: %1</source>
+        <translation>Банк: %1</translation>
+    </message>
+    <message>
+        <source>Click Turn/River to change</source>
+        <translation>Нажмите на тёрн/ривер для замены</translation>
+    </message>
+    <message>
+        <source>OOP action: %1</source>
+        <translation>Действие OOP: %1</translation>
     </message>
 </context>
 <context>
     <name>PlayingCard</name>
     <message>
         <source>Face-down card</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрытая карта</translation>
     </message>
     <message>
         <source>Empty card slot</source>
-        <translation type="unfinished"></translation>
+        <translation>Пустое место для карты</translation>
     </message>
     <message>
         <source>?</source>
-        <translation type="unfinished"></translation>
+        <translation>?</translation>
     </message>
 </context>
 <context>
     <name>ProgressCard</name>
     <message>
         <source>Iteration %1 | exploitability=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Итерация %1 | эксплуатируемость: %2</translation>
     </message>
     <message>
         <source>Ready to solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Всё готово к расчёту</translation>
     </message>
     <message>
         <source>Finalizing…</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершение…</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Ход расчёта</translation>
     </message>
     <message>
         <source>Solver converged — finalizing results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Решение сошлось — подготовка результатов…</translation>
     </message>
     <message>
         <source>Window %1/%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Окно %1/%2</translation>
     </message>
     <message>
         <source>Iterations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Итерации: %1</translation>
     </message>
     <message>
         <source>Metrics</source>
-        <translation type="unfinished"></translation>
+        <translation>Показатели</translation>
     </message>
     <message>
         <source>Elapsed</source>
-        <translation type="unfinished"></translation>
+        <translation>Прошло</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Осталось</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Скорость</translation>
     </message>
     <message>
         <source>it/s</source>
-        <translation type="unfinished"></translation>
+        <translation>ит/с</translation>
     </message>
     <message>
         <source>Exploitability</source>
-        <translation type="unfinished"></translation>
+        <translation>Эксплуатируемость</translation>
     </message>
     <message>
         <source>Measuring...</source>
-        <translation type="unfinished"></translation>
+        <translation>Измерение…</translation>
     </message>
 </context>
 <context>
     <name>ProgressRing</name>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>ProjectFiles</name>
     <message>
         <source>Velmora Project (*.velmoraproj)</source>
-        <translation type="unfinished"></translation>
+        <translation>Проект Velmora (*.velmoraproj)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Все файлы (*)</translation>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить проект</translation>
     </message>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть проект</translation>
     </message>
     <message>
         <source>unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>неизвестная ошибка</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить</translation>
     </message>
 </context>
 <context>
     <name>ProjectHeader</name>
     <message>
         <source>Project Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройка проекта</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Готово</translation>
     </message>
     <message>
         <source>Setup Required</source>
-        <translation type="unfinished"></translation>
+        <translation>Нужна настройка</translation>
     </message>
     <message>
         <source>Solve RAM: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM для расчёта: %1</translation>
     </message>
     <message>
         <source>Available RAM: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Доступно RAM: %1</translation>
     </message>
     <message>
         <source>Continue to Solve →</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>ProjectPage</name>
-    <message>
-        <source>Import failed: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>unknown error</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import failed: file contained no recognizable hands.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import Range</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Range text (*.txt)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>К расчёту →</translation>
     </message>
 </context>
 <context>
     <name>QuickActionsCard</name>
     <message>
         <source>Quick Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Быстрые действия</translation>
     </message>
     <message>
         <source>New Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Новый расчёт</translation>
     </message>
     <message>
         <source>Configure board, ranges, tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Борд, диапазоны и дерево</translation>
     </message>
     <message>
         <source>Quick Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Быстрый расчёт</translation>
     </message>
     <message>
         <source>Use default settings</source>
-        <translation type="unfinished"></translation>
+        <translation>С настройками по умолчанию</translation>
     </message>
     <message>
         <source>Import Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Импорт диапазона</translation>
     </message>
     <message>
         <source>Load from file</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузить из файла</translation>
     </message>
 </context>
 <context>
     <name>RangeCard</name>
     <message>
         <source>OOP Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Диапазон OOP</translation>
     </message>
     <message>
         <source>IP Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Диапазон IP</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Вес</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>RangeColumn</name>
-    <message>
-        <source>Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
-        <source>Combos</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Share</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1%</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import range…</source>
-        <translation type="unfinished"></translation>
+        <source>%1 combos (%2%)</source>
+        <translation>%1 комбо (%2%)</translation>
     </message>
 </context>
 <context>
     <name>RangeEditor</name>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Диапазон</translation>
     </message>
     <message>
         <source>%1 hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Руки: %1</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить</translation>
     </message>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation type="unfinished"></translation>
+        <translation>напр. AA, KK, AKs, QQ+ или 50%</translation>
+    </message>
+</context>
+<context>
+    <name>RangeLibraries</name>
+    <message>
+        <source>Standard Ranges</source>
+        <translation>Стандартные диапазоны</translation>
+    </message>
+    <message>
+        <source>Population Ranges</source>
+        <translation>Диапазоны поля</translation>
+    </message>
+    <message>
+        <source>Custom Ranges</source>
+        <translation>Свои диапазоны</translation>
+    </message>
+    <message>
+        <source>Please enter a name.</source>
+        <translation>Введите название.</translation>
+    </message>
+    <message>
+        <source>No range content to import.</source>
+        <translation>Нет данных диапазона для импорта.</translation>
+    </message>
+    <message>
+        <source>Import failed.</source>
+        <translation>Ошибка импорта.</translation>
+    </message>
+    <message>
+        <source>Export failed: %1</source>
+        <translation>Ошибка экспорта: %1</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>неизвестная ошибка</translation>
+    </message>
+    <message>
+        <source>Failed to load bundled standard presets (resource file missing/empty).</source>
+        <translation>Не удалось загрузить стандартные диапазоны из программы (файл ресурсов отсутствует или пуст).</translation>
+    </message>
+    <message>
+        <source>Failed to load bundled presets: </source>
+        <translation>Не удалось загрузить встроенные диапазоны: </translation>
     </message>
 </context>
 <context>
     <name>RangeTextField</name>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation type="unfinished"></translation>
+        <translation>напр. AA, KK, AKs, QQ+ или 50%</translation>
     </message>
 </context>
 <context>
     <name>RecentRunsCard</name>
     <message>
         <source>Recent Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Последние расчёты</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Очистить</translation>
     </message>
     <message>
         <source>No runs yet — click Start Solve to record a run here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Расчётов пока нет. Нажмите «Начать расчёт», и он появится здесь.</translation>
     </message>
 </context>
 <context>
     <name>ResultsHeader</name>
     <message>
         <source>Strategy View</source>
-        <translation type="unfinished"></translation>
+        <translation>Стратегия</translation>
     </message>
     <message>
         <source>%1 to act</source>
-        <translation type="unfinished"></translation>
+        <translation>Ход: %1</translation>
     </message>
     <message>
         <source>EV (OOP)</source>
-        <translation type="unfinished"></translation>
+        <translation>EV (OOP)</translation>
     </message>
     <message>
         <source>EV (IP)</source>
-        <translation type="unfinished"></translation>
+        <translation>EV (IP)</translation>
     </message>
     <message>
         <source>Exploitability</source>
-        <translation type="unfinished"></translation>
+        <translation>Эксплуат.</translation>
+    </message>
+    <message>
+        <source>Range view</source>
+        <translation>К диапазону</translation>
+    </message>
+    <message>
+        <source>Play vs solution</source>
+        <translation>Игра с солвером</translation>
+    </message>
+</context>
+<context>
+    <name>RoleChoice</name>
+    <message>
+        <source>Play as OOP</source>
+        <translation>Играть за OOP</translation>
+    </message>
+    <message>
+        <source>Play as both</source>
+        <translation>Играть за обоих</translation>
+    </message>
+    <message>
+        <source>Play as IP</source>
+        <translation>Играть за IP</translation>
     </message>
 </context>
 <context>
     <name>RunHistory</name>
     <message>
         <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Итерации: %1 • Цель: %2% (≈ %3) • Потоки: %4</translation>
     </message>
 </context>
 <context>
     <name>RunRow</name>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполняется</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершён</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Отменён</translation>
     </message>
 </context>
 <context>
-    <name>SaveProfileDialog</name>
+    <name>SeatLibrary</name>
     <message>
         <source>Please enter a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Введите название.</translation>
     </message>
     <message>
-        <source>Save Settings Profile</source>
-        <translation type="unfinished"></translation>
+        <source>Current range is empty.</source>
+        <translation>Текущий диапазон пуст.</translation>
     </message>
     <message>
-        <source>Profile name:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>e.g., 100bb rake-free (fast)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation type="unfinished"></translation>
+        <source>Please enter a folder name.</source>
+        <translation>Введите название папки.</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>Reset to Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Сбросить настройки</translation>
     </message>
     <message>
         <source>Save Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить настройки</translation>
     </message>
 </context>
 <context>
     <name>SettingsProfilesCard</name>
     <message>
         <source>Load settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Загрузить профиль</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить профиль</translation>
+    </message>
+    <message>
+        <source>Please enter a name.</source>
+        <translation>Введите название.</translation>
+    </message>
+    <message>
+        <source>Save Settings Profile</source>
+        <translation>Сохранение профиля настроек</translation>
+    </message>
+    <message>
+        <source>Profile name:</source>
+        <translation>Название профиля:</translation>
+    </message>
+    <message>
+        <source>e.g., 100bb rake-free (fast)</source>
+        <translation>напр. 100bb без рейка (быстро)</translation>
     </message>
 </context>
 <context>
     <name>Sidebar</name>
     <message>
         <source>♠</source>
-        <translation type="unfinished"></translation>
+        <translation>♠</translation>
     </message>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>Poker Solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Покерный солвер</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Главная</translation>
     </message>
     <message>
         <source>Overview &amp; quick actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Обзор и быстрые действия</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Проект</translation>
     </message>
     <message>
         <source>Board, ranges, tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Борд, диапазоны, дерево</translation>
     </message>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Расчёт</translation>
     </message>
     <message>
         <source>Run solver</source>
-        <translation type="unfinished"></translation>
+        <translation>Запуск солвера</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Результаты</translation>
     </message>
     <message>
         <source>Browse strategies</source>
-        <translation type="unfinished"></translation>
+        <translation>Просмотр стратегий</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Параметры</translation>
     </message>
     <message>
         <source>v0.1.0 dev</source>
-        <translation type="unfinished"></translation>
+        <translation>v0.1.0 dev</translation>
     </message>
 </context>
 <context>
     <name>SizingCard</name>
     <message>
         <source>OOP</source>
-        <translation type="unfinished"></translation>
+        <translation>OOP</translation>
     </message>
     <message>
         <source>IP</source>
-        <translation type="unfinished"></translation>
+        <translation>IP</translation>
     </message>
     <message>
         <source>Flop</source>
-        <translation type="unfinished"></translation>
+        <translation>Флоп</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Тёрн</translation>
     </message>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>Ривер</translation>
     </message>
     <message>
         <source>OOP Sizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Сайзинги OOP</translation>
     </message>
     <message>
         <source>IP Sizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Сайзинги IP</translation>
     </message>
     <message>
         <source>Bet sizes (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ставки (%)</translation>
     </message>
     <message>
         <source>Raise sizes (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Рейзы (%)</translation>
     </message>
     <message>
         <source>Add All-In</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить all-in</translation>
     </message>
     <message>
         <source>Don&apos;t donk</source>
-        <translation type="unfinished"></translation>
+        <translation>Без донк-бета</translation>
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation type="unfinished"></translation>
+        <translation>Добавить all-in, если он меньше</translation>
     </message>
     <message>
         <source>e.g. 30</source>
-        <translation type="unfinished"></translation>
+        <translation>напр. 30</translation>
     </message>
     <message>
         <source>% pot</source>
-        <translation type="unfinished"></translation>
+        <translation>% банка</translation>
+    </message>
+</context>
+<context>
+    <name>SolveActivityCard</name>
+    <message>
+        <source>Solve Activity</source>
+        <translation>Активность расчётов</translation>
+    </message>
+    <message>
+        <source>Last 52 weeks</source>
+        <translation>Последние 52 недели</translation>
     </message>
 </context>
 <context>
     <name>SolvePage</name>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Расчёт</translation>
     </message>
     <message>
         <source>Run the CFR solver and monitor progress in real-time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Запуск CFR-солвера и ход расчёта в реальном времени.</translation>
     </message>
     <message>
         <source>Finalizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершение</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполняется</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Готово</translation>
     </message>
 </context>
 <context>
     <name>StatusChip</name>
     <message>
         <source>Finalizing</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершение</translation>
     </message>
     <message>
         <source>Solving</source>
-        <translation type="unfinished"></translation>
+        <translation>Идёт расчёт</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Готово</translation>
     </message>
     <message>
         <source>%1 %2%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2%</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
     <name>StrategyColumn</name>
     <message>
         <source>Strategy by Hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Стратегия по рукам</translation>
     </message>
 </context>
 <context>
     <name>StrategyPanel</name>
     <message>
         <source>Action Frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Частоты действий</translation>
     </message>
 </context>
 <context>
     <name>SystemCard</name>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Система</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Движок</translation>
     </message>
     <message>
         <source>Dunmarrow Core</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow Core</translation>
     </message>
     <message>
         <source>Threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Потоки</translation>
     </message>
     <message>
         <source>%1 available</source>
-        <translation type="unfinished"></translation>
+        <translation>Доступно: %1</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Память</translation>
     </message>
     <message>
         <source>%1 (%2 free)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (свободно %2)</translation>
     </message>
 </context>
 <context>
     <name>TopBar</name>
     <message>
         <source>Dunmarrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunmarrow</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Главная</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Проект</translation>
     </message>
     <message>
         <source>Start a new project (or load one) from Home to enable Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Создайте или загрузите проект на вкладке «Главная», чтобы открыть «Проект»</translation>
     </message>
     <message>
         <source>Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Расчёт</translation>
     </message>
     <message>
         <source>Fill board, ranges, and sizings to enable Solve</source>
-        <translation type="unfinished"></translation>
+        <translation>Задайте борд, диапазоны и сайзинги, чтобы открыть «Расчёт»</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Результаты</translation>
     </message>
     <message>
         <source>Run a solve to enable Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполните расчёт, чтобы открыть «Результаты»</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
+    </message>
+</context>
+<context>
+    <name>TrainerStatsCard</name>
+    <message>
+        <source>Play vs. Solution</source>
+        <translation>Игра с солвером</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <source>Clear Play vs. Solution Stats</source>
+        <translation>Сбросить статистику игры с солвером</translation>
+    </message>
+    <message>
+        <source>Hands (Today / Total)</source>
+        <translation>Раздачи (сегодня/всего)</translation>
+    </message>
+    <message>
+        <source>Accuracy (Today / Total)</source>
+        <translation>Точность (сегодня/всего)</translation>
+    </message>
+    <message>
+        <source>Avg EV Loss (Today / Total)</source>
+        <translation>Ср. потеря EV (сегодня/всего)</translation>
+    </message>
+    <message>
+        <source>EV</source>
+        <translation>EV</translation>
     </message>
 </context>
 <context>
     <name>TreeLevel</name>
     <message>
         <source>Available actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Доступные действия</translation>
     </message>
     <message>
         <source>%1 options</source>
-        <translation type="unfinished"></translation>
+        <translation>Варианты: %1</translation>
     </message>
     <message>
         <source>Deal %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Сдача: %1</translation>
     </message>
     <message>
         <source>River</source>
-        <translation type="unfinished"></translation>
+        <translation>ривер</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>тёрн</translation>
     </message>
 </context>
 <context>
     <name>TreeNode</name>
     <message>
         <source>Terminal</source>
-        <translation type="unfinished"></translation>
+        <translation>Конец</translation>
     </message>
     <message>
         <source>Deal</source>
-        <translation type="unfinished"></translation>
+        <translation>Сдача</translation>
     </message>
     <message>
         <source>Pot: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Банк: %1</translation>
     </message>
     <message>
         <source>Freq: %1%</source>
-        <translation type="unfinished"></translation>
+        <translation>Част.: %1%</translation>
     </message>
     <message>
         <source>EV: %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>EV: %1%2</translation>
     </message>
 </context>
 <context>
     <name>TreeWalk</name>
     <message>
         <source>Root</source>
-        <translation type="unfinished"></translation>
+        <translation>Корень</translation>
     </message>
 </context>
 <context>
     <name>UpdateManager</name>
     <message>
         <source>Update URL is not configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес обновлений не настроен.</translation>
     </message>
     <message>
         <source>Update check failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось проверить обновления: %1</translation>
     </message>
     <message>
         <source>Invalid update response (HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Неверный ответ сервера обновлений (HTTP %1).</translation>
     </message>
     <message>
         <source>No download URL available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет адреса для загрузки.</translation>
     </message>
 </context>
 <context>
     <name>UpdatesCard</name>
     <message>
         <source>Last checked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Последняя проверка: %1</translation>
     </message>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Обновления</translation>
     </message>
     <message>
         <source>Current version: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Текущая версия: %1</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>неизвестна</translation>
     </message>
     <message>
         <source>Update available: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Доступно обновление: %1</translation>
     </message>
     <message>
         <source>Checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверка…</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверить обновления</translation>
     </message>
     <message>
         <source>Download update</source>
-        <translation type="unfinished"></translation>
+        <translation>Скачать обновление</translation>
     </message>
 </context>
 <context>
     <name>card_names</name>
     <message>
         <source>spades</source>
-        <translation type="unfinished"></translation>
+        <translation>пик</translation>
     </message>
     <message>
         <source>hearts</source>
-        <translation type="unfinished"></translation>
+        <translation>червей</translation>
     </message>
     <message>
         <source>diamonds</source>
-        <translation type="unfinished"></translation>
+        <translation>бубен</translation>
     </message>
     <message>
         <source>clubs</source>
-        <translation type="unfinished"></translation>
+        <translation>треф</translation>
     </message>
     <message>
         <source>Ace</source>
-        <translation type="unfinished"></translation>
+        <translation>Туз</translation>
     </message>
     <message>
         <source>King</source>
-        <translation type="unfinished"></translation>
+        <translation>Король</translation>
     </message>
     <message>
         <source>Queen</source>
-        <translation type="unfinished"></translation>
+        <translation>Дама</translation>
     </message>
     <message>
         <source>Jack</source>
-        <translation type="unfinished"></translation>
+        <translation>Валет</translation>
     </message>
     <message>
         <source>Ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Десятка</translation>
     </message>
     <message>
         <source>Nine</source>
-        <translation type="unfinished"></translation>
+        <translation>Девятка</translation>
     </message>
     <message>
         <source>Eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Восьмёрка</translation>
     </message>
     <message>
         <source>Seven</source>
-        <translation type="unfinished"></translation>
+        <translation>Семёрка</translation>
     </message>
     <message>
         <source>Six</source>
-        <translation type="unfinished"></translation>
+        <translation>Шестёрка</translation>
     </message>
     <message>
         <source>Five</source>
-        <translation type="unfinished"></translation>
+        <translation>Пятёрка</translation>
     </message>
     <message>
         <source>Four</source>
-        <translation type="unfinished"></translation>
+        <translation>Четвёрка</translation>
     </message>
     <message>
         <source>Three</source>
-        <translation type="unfinished"></translation>
+        <translation>Тройка</translation>
     </message>
     <message>
         <source>Two</source>
-        <translation type="unfinished"></translation>
+        <translation>Двойка</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>range_library_names</name>
+    <message>
+        <source>6-max</source>
+        <translation>6-max</translation>
+    </message>
+    <message>
+        <source>Heads up</source>
+        <translation>Хедз-ап</translation>
+    </message>
+    <message>
+        <source>No rake</source>
+        <translation>Без рейка</translation>
+    </message>
+    <message>
+        <source>50nl rake</source>
+        <translation>Рейк NL50</translation>
+    </message>
+    <message>
+        <source>100nl rake</source>
+        <translation>Рейк NL100</translation>
+    </message>
+    <message>
+        <source>200nl rake</source>
+        <translation>Рейк NL200</translation>
+    </message>
+    <message>
+        <source>500nl rake</source>
+        <translation>Рейк NL500</translation>
+    </message>
+    <message>
+        <source>RFI</source>
+        <translation>RFI</translation>
+    </message>
+    <message>
+        <source>vs RFI</source>
+        <translation>vs RFI</translation>
+    </message>
+    <message>
+        <source>vs 3bet</source>
+        <translation>vs 3bet</translation>
+    </message>
+    <message>
+        <source>vs 4bet</source>
+        <translation>vs 4bet</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Call</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Fold</translation>
+    </message>
+    <message>
+        <source>3bet</source>
+        <translation>3bet</translation>
+    </message>
+    <message>
+        <source>4bet</source>
+        <translation>4bet</translation>
+    </message>
+    <message>
+        <source>Limp</source>
+        <translation>Limp</translation>
+    </message>
+    <message>
+        <source>Limp-call</source>
+        <translation>Limp-call</translation>
+    </message>
+    <message>
+        <source>Limp-3b</source>
+        <translation>Limp-3b</translation>
+    </message>
+    <message>
+        <source>Call raise</source>
+        <translation>Call raise</translation>
+    </message>
+    <message>
+        <source>Check back</source>
+        <translation>Check back</translation>
+    </message>
+    <message>
+        <source>3b</source>
+        <translation>3b</translation>
+    </message>
+    <message>
+        <source>4b</source>
+        <translation>4b</translation>
+    </message>
+    <message>
+        <source>Call 3b</source>
+        <translation>Call 3b</translation>
+    </message>
+    <message>
+        <source>Call 4b</source>
+        <translation>Call 4b</translation>
+    </message>
+    <message>
+        <source>3b cold call</source>
+        <translation>3b cold call</translation>
+    </message>
+    <message>
+        <source>Bomb pot</source>
+        <translation>Bomb pot</translation>
+    </message>
+    <message>
+        <source>Weaker regs</source>
+        <translation>Слабые реги</translation>
+    </message>
+    <message>
+        <source>Tighter reg</source>
+        <translation>Тайтовый рег</translation>
+    </message>
+    <message>
+        <source>Looser reg</source>
+        <translation>Лузовый рег</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Другие</translation>
+    </message>
+    <message>
+        <source>Nit</source>
+        <translation>Нит</translation>
+    </message>
+    <message>
+        <source>Overfolder</source>
+        <translation>Оверфолдер</translation>
+    </message>
+    <message>
+        <source>Passive</source>
+        <translation>Пассивный</translation>
+    </message>
+    <message>
+        <source>Passive tight</source>
+        <translation>Тайтово-пассивный</translation>
+    </message>
+    <message>
+        <source>Passive neutral</source>
+        <translation>Средне-пассивный</translation>
+    </message>
+    <message>
+        <source>Passive loose</source>
+        <translation>Лузово-пассивный</translation>
+    </message>
+    <message>
+        <source>Extreme loose</source>
+        <translation>Суперлузовый</translation>
+    </message>
+    <message>
+        <source>Loose aggressive</source>
+        <translation>Лузово-агрессивный</translation>
+    </message>
+    <message>
+        <source>Standard LAG</source>
+        <translation>Стандартный ЛАГ</translation>
+    </message>
+    <message>
+        <source>Maniac</source>
+        <translation>Маньяк</translation>
+    </message>
+    <message>
+        <source>vs %1 RFI</source>
+        <translation>vs %1 RFI</translation>
+    </message>
+    <message>
+        <source>%1 vs %2 3bet</source>
+        <translation>%1 vs %2 3bet</translation>
+    </message>
+    <message>
+        <source>%1 3bet vs %2 4bet</source>
+        <translation>%1 3bet vs %2 4bet</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 (VPIP %2)</source>
+        <translation>%1 (VPIP %2)</translation>
+    </message>
+</context>
+<context>
+    <name>solve_activity</name>
+    <message>
+        <source>Mon</source>
+        <translation>Пн</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>Вт</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>Ср</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>Чт</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>Пт</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Сб</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>Вс</translation>
+    </message>
+    <message>
+        <source>Jan</source>
+        <translation>Янв</translation>
+    </message>
+    <message>
+        <source>Feb</source>
+        <translation>Фев</translation>
+    </message>
+    <message>
+        <source>Mar</source>
+        <translation>Мар</translation>
+    </message>
+    <message>
+        <source>Apr</source>
+        <translation>Апр</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>Май</translation>
+    </message>
+    <message>
+        <source>Jun</source>
+        <translation>Июн</translation>
+    </message>
+    <message>
+        <source>Jul</source>
+        <translation>Июл</translation>
+    </message>
+    <message>
+        <source>Aug</source>
+        <translation>Авг</translation>
+    </message>
+    <message>
+        <source>Sep</source>
+        <translation>Сен</translation>
+    </message>
+    <message>
+        <source>Oct</source>
+        <translation>Окт</translation>
+    </message>
+    <message>
+        <source>Nov</source>
+        <translation>Ноя</translation>
+    </message>
+    <message>
+        <source>Dec</source>
+        <translation>Дек</translation>
+    </message>
+    <message>
+        <source>%1 (future)</source>
+        <translation>%1 (в будущем)</translation>
+    </message>
+    <message>
+        <source>Solves: %1</source>
+        <translation>Расчёты: %1</translation>
+    </message>
+    <message>
+        <source>Avg iters: %1</source>
+        <translation>Ср. число ит.: %1</translation>
+    </message>
+    <message>
+        <source>Avg expl: %1</source>
+        <translation>Ср. эксплуат.: %1</translation>
     </message>
 </context>
 </TS>

@@ -11,8 +11,10 @@
 
 namespace {
 
-QString categoryName() {
-  return QCoreApplication::translate("HandBuckets", "top pair");
+constexpr char kEnglish[] = "Reset to Defaults";
+
+QString shownText() {
+  return QCoreApplication::translate("SettingsPage", kEnglish);
 }
 
 class LanguageManagerTest : public ::testing::Test {
@@ -46,14 +48,14 @@ TEST_F(LanguageManagerTest, EachCatalogueIsThere) {
   for (const char* code : {"de", "es", "fr", "it", "pl", "pt_BR", "ru"}) {
     languages.setLanguage(code);
     EXPECT_EQ(log_.messages().last(), QString("Language set to %1 (translator loaded )").arg(code));
-    EXPECT_NE(categoryName(), "top pair") << code;
-    names.append(categoryName());
+    EXPECT_NE(shownText(), kEnglish) << code;
+    names.append(shownText());
     EXPECT_EQ(QLocale().language(), QLocale(code).language());
   }
   EXPECT_EQ(names.removeDuplicates(), 0);
   languages.setLanguage("en");
   EXPECT_EQ(log_.messages().last(), "Language set to en (translator not loaded )");
-  EXPECT_EQ(categoryName(), "top pair");
+  EXPECT_EQ(shownText(), kEnglish);
   EXPECT_EQ(QSettings().value("ui/language"), "en");
 }
 
@@ -68,13 +70,13 @@ TEST_F(LanguageManagerTest, OnlyAChangeIsStoredAndTold) {
   EXPECT_EQ(changed.count(), 1);
   EXPECT_EQ(languages.currentLanguage(), "xx");
   EXPECT_EQ(QSettings().value("ui/language"), "xx");
-  EXPECT_EQ(categoryName(), "top pair");
+  EXPECT_EQ(shownText(), kEnglish);
 }
 
 TEST_F(LanguageManagerTest, TheStoredLanguageIsInForceFromTheStart) {
   QSettings().setValue("ui/language", "ru");
   EXPECT_EQ(LanguageManager(nullptr).currentLanguage(), "ru");
-  EXPECT_NE(categoryName(), "top pair");
+  EXPECT_NE(shownText(), kEnglish);
   // A first start follows the system, which speaks no language of ours here.
   QSettings().remove("ui/language");
   EXPECT_EQ(LanguageManager(nullptr).currentLanguage(), "system");
