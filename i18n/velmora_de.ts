@@ -1368,7 +1368,7 @@
     </message>
     <message>
         <source>Configure board, ranges, tree</source>
-        <translation>Board, Ranges und Baum festlegen</translation>
+        <translation>Board, Ranges, Baum wählen</translation>
     </message>
     <message>
         <source>Quick Solve</source>
@@ -1902,11 +1902,11 @@
     </message>
     <message>
         <source>Accuracy (Today / Total)</source>
-        <translation>Genauigkeit (heute / gesamt)</translation>
+        <translation>Genau (heute / gesamt)</translation>
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Ø EV-Verlust (heute / gesamt)</translation>
+        <translation>Ø Verlust (heute / ges.)</translation>
     </message>
     <message>
         <source>EV</source>

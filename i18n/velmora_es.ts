@@ -1284,7 +1284,7 @@
     </message>
     <message>
         <source>Exploitability</source>
-        <translation>Explotabilidad</translation>
+        <translation>Explotab.</translation>
     </message>
     <message>
         <source>Measuring...</source>
@@ -1368,7 +1368,7 @@
     </message>
     <message>
         <source>Configure board, ranges, tree</source>
-        <translation>Configurar board, rangos y árbol</translation>
+        <translation>Elegir board, rangos, árbol</translation>
     </message>
     <message>
         <source>Quick Solve</source>
@@ -1906,7 +1906,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>EV perdido medio (hoy / total)</translation>
+        <translation>EV perdido (hoy / total)</translation>
     </message>
     <message>
         <source>EV</source>

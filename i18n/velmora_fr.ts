@@ -1368,7 +1368,7 @@
     </message>
     <message>
         <source>Configure board, ranges, tree</source>
-        <translation>Configurer board, ranges et arbre</translation>
+        <translation>Choisir board, ranges, arbre</translation>
     </message>
     <message>
         <source>Quick Solve</source>
@@ -1906,7 +1906,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Perte d’EV moy. (jour / total)</translation>
+        <translation>Perte EV (jour / total)</translation>
     </message>
     <message>
         <source>EV</source>

@@ -1898,15 +1898,15 @@
     </message>
     <message>
         <source>Hands (Today / Total)</source>
-        <translation>Mani (oggi/totale)</translation>
+        <translation>Mani (oggi/tot.)</translation>
     </message>
     <message>
         <source>Accuracy (Today / Total)</source>
-        <translation>Accuratezza (oggi/totale)</translation>
+        <translation>Precisione (oggi/tot.)</translation>
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>EV perso medio (oggi/totale)</translation>
+        <translation>EV perso (oggi/tot.)</translation>
     </message>
     <message>
         <source>EV</source>

@@ -1284,7 +1284,7 @@
     </message>
     <message>
         <source>Exploitability</source>
-        <translation>Eksploatowalność</translation>
+        <translation>Eksploat.</translation>
     </message>
     <message>
         <source>Measuring...</source>
@@ -1906,7 +1906,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Śr. strata EV (dziś/razem)</translation>
+        <translation>Strata EV (dziś/razem)</translation>
     </message>
     <message>
         <source>EV</source>

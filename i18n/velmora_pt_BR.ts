@@ -1284,7 +1284,7 @@
     </message>
     <message>
         <source>Exploitability</source>
-        <translation>Explorabilidade</translation>
+        <translation>Explorab.</translation>
     </message>
     <message>
         <source>Measuring...</source>
@@ -1368,7 +1368,7 @@
     </message>
     <message>
         <source>Configure board, ranges, tree</source>
-        <translation>Configurar board, ranges, árvore</translation>
+        <translation>Definir board, ranges, árvore</translation>
     </message>
     <message>
         <source>Quick Solve</source>
@@ -1906,7 +1906,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Perda média EV (hoje/total)</translation>
+        <translation>Perda EV (hoje/total)</translation>
     </message>
     <message>
         <source>EV</source>

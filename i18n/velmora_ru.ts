@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>Options enabled</source>
-        <translation>Включённые опции</translation>
+        <translation>Опции</translation>
     </message>
     <message>
         <source>None</source>
@@ -1284,7 +1284,7 @@
     </message>
     <message>
         <source>Exploitability</source>
-        <translation>Эксплуатируемость</translation>
+        <translation>Эксплуат.</translation>
     </message>
     <message>
         <source>Measuring...</source>
@@ -1898,15 +1898,15 @@
     </message>
     <message>
         <source>Hands (Today / Total)</source>
-        <translation>Раздачи (сегодня/всего)</translation>
+        <translation>Раздачи (день/всего)</translation>
     </message>
     <message>
         <source>Accuracy (Today / Total)</source>
-        <translation>Точность (сегодня/всего)</translation>
+        <translation>Точность (день/всего)</translation>
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Ср. потеря EV (сегодня/всего)</translation>
+        <translation>Потеря EV (день/всего)</translation>
     </message>
     <message>
         <source>EV</source>

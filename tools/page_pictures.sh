@@ -5,8 +5,9 @@
 #   tools/page_pictures.sh [OUTDIR] [PROGRAM]
 #
 # OUTDIR is build/pictures if not given, PROGRAM build/release/app/dunmarrow. SIZES and MODES narrow
-# down what is taken; SOLVE=1 also waits for the quick solve to end, for the Results page. With
-# QT_QUICK_BACKEND=software the pictures show what that renderer draws.
+# down what is taken; UI_LANGUAGE is the code of another language than English; SOLVE=1 also waits
+# for the quick solve to end, for the Results page. With QT_QUICK_BACKEND=software the pictures show
+# what that renderer draws.
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 source tools/setup.sh
@@ -40,8 +41,8 @@ start() {
   read -r display <&3
   export DISPLAY=":$display"
   mkdir -p "$home/config/Dunmarrow" "$home/tmp"
-  printf '[ui]\ndarkMode=%s\n' "$([[ $mode == dark ]] && echo true || echo false)" \
-    >"$home/config/Dunmarrow/Dunmarrow.conf"
+  printf '[ui]\ndarkMode=%s\nlanguage=%s\n' "$([[ $mode == dark ]] && echo true || echo false)" \
+    "${UI_LANGUAGE:-en}" >"$home/config/Dunmarrow/Dunmarrow.conf"
   env XDG_CONFIG_HOME="$home/config" TMPDIR="$home/tmp" "$program" &
   app=$!
   for _ in {1..100}; do
