@@ -5,3 +5,4 @@
 const standard = 0
 const population = 1
 const custom = 2
+const count = 3

@@ -63,7 +63,10 @@ TEST_F(Program, WritesItsLifeIntoBothLogs) {
       time + "\\[INFO\\] log_appDir=" + quoted(appDirLog()) + "\n" +              //
       time + "\\[INFO\\] log_temp=" + quoted(tempLog()) + "\n" +                  //
       time + "\\[INFO\\] QuickControlsStyle=Basic\n" +                            //
+      time + "\\[INFO\\] Language set to system [^\n]*\n" +                     //
       time + "\\[INFO\\] \\[devtools\\] compiled_in=1 [^\n]*\n" +                 //
+      time + "\\[INFO\\] \\[ranges\\] Loaded STANDARD presets [^\n]*\n" +          //
+      time + "\\[INFO\\] \\[ranges\\] Loaded POPULATION presets [^\n]*\n" +        //
       time + "\\[INFO\\] QML loaded\\. rootObjects=1\n" +                         //
       "FATAL: Vectored exception code=0xb addr=0\r\nFATAL: C signal received sig=11\r\n";
   const QString log = QString::fromUtf8(bytesOf(appDirLog()));

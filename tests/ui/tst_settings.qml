@@ -69,12 +69,22 @@ MainWindowCase {
         settings.languageManager.setLanguage("en")
         tryCompare(box, "currentIndex", 1)
         verify(Find.button(settings, "Reset to Defaults"))
-        // A choice in the box puts a language in force.
+        // A choice in the box puts a language in force, by keys and by clicks; all pages follow.
         click(box)
         tryVerify(() => box.popup.opened)
         keyClick(Qt.Key_Down)
         keyClick(Qt.Key_Return)
         compare(settings.languageManager.currentLanguage, "es")
+        for (let round = 0; round < 2; ++round) {
+            for (const [index, code] of Languages.CODES.entries()) {
+                mouseClick(box)
+                tryVerify(() => box.popup.opened)
+                mouseClick(box.popup.contentItem.itemAtIndex(index))
+                tryVerify(() => !box.popup.visible)
+                compare(settings.languageManager.currentLanguage, code)
+                compare(box.currentIndex, index)
+            }
+        }
     }
 
     function test_a_check_for_updates_says_how_it_goes() {

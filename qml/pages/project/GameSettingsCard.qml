@@ -13,6 +13,9 @@ Card {
     required property ProjectState project
     readonly property real gameSettingsInputColumnWidth: 60
 
+    /// Targets to choose with a click, in percent of the pot.
+    readonly property list<real> _targets: [1.0, 0.5, 0.1]
+
     component Setting: RowLayout {
         id: setting
 
@@ -111,16 +114,17 @@ Card {
             spacing: root.theme.spaceXs
 
             Repeater {
-                model: [1.0, 0.5, 0.1]
+                model: root._targets.length
 
                 SmallButton {
-                    required property real modelData
+                    required property int index
+                    readonly property real target: root._targets[index]
 
                     theme: root.theme
                     type: root.type
-                    text: qsTr("%1%").arg(modelData)
+                    text: qsTr("%1%").arg(target)
                     Accessible.name: qsTr("Target Exploitability (%)") + " " + text
-                    onClicked: root.project.targetExploitability = modelData
+                    onClicked: root.project.targetExploitability = target
                 }
             }
         }

@@ -13,6 +13,7 @@ Repeater {
     required property ProjectState project
     required property string seat  ///< "oop" or "ip"
     required property string seatName
+    required property var streetTitles
     property string title
     property string suffix
     property string placeholder
@@ -20,8 +21,8 @@ Repeater {
     delegate: SizingCell {
         id: cell
 
-        required property var modelData
-        readonly property string key: ProjectKeys.propertyName(root.seat, modelData.key, root.suffix)
+        required property int index
+        readonly property string key: ProjectKeys.propertyName(root.seat, ProjectKeys.streets[index], root.suffix)
 
         implicitHeight: field.implicitHeight
 
@@ -32,7 +33,7 @@ Repeater {
             theme: root.theme
             type: root.type
             mono: true
-            label: root.seatName + " " + cell.modelData.title + " " + root.title
+            label: root.seatName + " " + root.streetTitles[cell.index] + " " + root.title
             placeholderText: root.placeholder
             value: root.project[cell.key]
             onCommitted: text => root.project.set(cell.key, text)

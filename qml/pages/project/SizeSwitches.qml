@@ -12,14 +12,15 @@ Repeater {
     required property ProjectState project
     required property string seat  ///< "oop" or "ip"
     required property string seatName
+    required property var streetTitles
     property string title
     property string suffix
 
     delegate: SizingCell {
         id: cell
 
-        required property var modelData
-        readonly property string key: ProjectKeys.propertyName(root.seat, modelData.key, root.suffix)
+        required property int index
+        readonly property string key: ProjectKeys.propertyName(root.seat, ProjectKeys.streets[index], root.suffix)
 
         implicitHeight: toggle.implicitHeight
 
@@ -29,7 +30,7 @@ Repeater {
             anchors.centerIn: parent
             theme: root.theme
             value: root.project[cell.key]
-            text: root.seatName + " " + cell.modelData.title + " " + root.title
+            text: root.seatName + " " + root.streetTitles[cell.index] + " " + root.title
             onSwitched: on => root.project.set(cell.key, on)
         }
     }

@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Layouts
 import QtQuick.Controls
 import Velmora
+import "../../logic/project_keys.js" as ProjectKeys
 
 /// The bet and raise sizes of one seat, street by street.
 Card {
@@ -14,12 +15,9 @@ Card {
     required property string seat  ///< "oop" or "ip"
 
     readonly property string seatName: seat === "oop" ? qsTr("OOP") : qsTr("IP")
-    /// The columns.
-    readonly property var streets: [
-        { key: "flop", title: qsTr("Flop") },
-        { key: "turn", title: qsTr("Turn") },
-        { key: "river", title: qsTr("River") }
-    ]
+    /// The heads of the columns, one for each of the keys' streets. The rows count columns and look
+    /// their titles up: a change of the language then builds nothing anew.
+    readonly property var streetTitles: [qsTr("Flop"), qsTr("Turn"), qsTr("River")]
     readonly property bool _jamEnabled: project[seat + "AddAllInIfJamLtEnabled"]
 
     /// The label of a table row.
@@ -47,12 +45,12 @@ Card {
             }
 
             Repeater {
-                model: root.streets
+                model: ProjectKeys.streets.length
 
                 SizingCell {
                     id: heading
 
-                    required property var modelData
+                    required property int index
 
                     implicitHeight: headingLabel.implicitHeight
 
@@ -60,7 +58,7 @@ Card {
                         id: headingLabel
 
                         anchors.centerIn: parent
-                        text: heading.modelData.title
+                        text: root.streetTitles[heading.index]
                         color: root.theme.textMuted
                         font.pixelSize: root.type.labelMd
                         font.weight: root.type.weightSemibold
@@ -73,7 +71,8 @@ Card {
             }
 
             SizeFields {
-                model: root.streets
+                model: ProjectKeys.streets.length
+                streetTitles: root.streetTitles
                 theme: root.theme
                 type: root.type
                 project: root.project
@@ -89,7 +88,8 @@ Card {
             }
 
             SizeFields {
-                model: root.streets
+                model: ProjectKeys.streets.length
+                streetTitles: root.streetTitles
                 theme: root.theme
                 type: root.type
                 project: root.project
@@ -105,7 +105,8 @@ Card {
             }
 
             SizeSwitches {
-                model: root.streets
+                model: ProjectKeys.streets.length
+                streetTitles: root.streetTitles
                 theme: root.theme
                 project: root.project
                 seat: root.seat
@@ -120,7 +121,8 @@ Card {
             }
 
             SizeSwitches {
-                model: root.seat === "oop" ? root.streets : []
+                model: root.seat === "oop" ? ProjectKeys.streets.length : 0
+                streetTitles: root.streetTitles
                 theme: root.theme
                 project: root.project
                 seat: root.seat

@@ -35,19 +35,19 @@ Rectangle {
             spacing: root.theme.spaceXs
 
             Repeater {
-                model: [Categories.standard, Categories.population, Categories.custom]
+                model: Categories.count
 
                 SmallButton {
-                    required property int modelData
+                    required property int index
 
                     Layout.fillWidth: true
                     theme: root.theme
                     type: root.type
-                    text: root.libraries.categoryLabel(modelData)
+                    text: root.libraries.categoryLabel(index)
                     checkable: true
                     autoExclusive: true
-                    checked: root.library.rangeCategory === modelData
-                    onClicked: root.library.rangeCategory = modelData
+                    checked: root.library.rangeCategory === index
+                    onClicked: root.library.rangeCategory = index
                 }
             }
         }

@@ -82,7 +82,7 @@ FocusScope {
                     id: table
 
                     width: left.width
-                    height: Math.min(width * pictureRatio, left.height - left.detailsHeight)
+                    height: left.height - left.detailsHeight
                     theme: root.theme
                     type: root.type
                     walk: root.walk

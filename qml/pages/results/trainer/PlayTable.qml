@@ -24,6 +24,7 @@ Item {
     readonly property var _meta: play.playMeta
     /// For text on the table, which is dark in both modes.
     readonly property color _feltInk: theme.withOpacity(theme.cardFace, 0.85)
+    readonly property color _ground: "#0B0F14"
     /// From the middle of the table to where the dealer button leaves room, in pixels.
     readonly property int _besideDealer: _dealerX + 13 + (_small ? theme.spaceSm : theme.spaceMd)
     readonly property int _dealerX: _small ? 56 : 86
@@ -43,6 +44,13 @@ Item {
     implicitHeight: implicitWidth * pictureRatio
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Table")
+
+    // The picture's own ground, where the room is higher than the picture.
+    Rectangle {
+        anchors.fill: parent
+        radius: root.theme.radiusSm
+        color: root._ground
+    }
 
     Image {
         id: picture
