@@ -637,7 +637,7 @@
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation>Ziel-Exploitability (%)</translation>
+        <translation>Ziel (% vom Pot)</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
@@ -1600,11 +1600,11 @@
     <name>SettingsProfilesCard</name>
     <message>
         <source>Load settings</source>
-        <translation>Einstellungen laden</translation>
+        <translation>Profil laden</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation>Einstellungen speichern</translation>
+        <translation>Profil speichern</translation>
     </message>
     <message>
         <source>Please enter a name.</source>
@@ -1730,7 +1730,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>All-in hinzufügen, wenn Jam unter</translation>
+        <translation>All-in, wenn Jam unter</translation>
     </message>
     <message>
         <source>e.g. 30</source>

@@ -637,7 +637,7 @@
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation>Explotabilidad objetivo (%)</translation>
+        <translation>Objetivo (% bote)</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
@@ -1600,11 +1600,11 @@
     <name>SettingsProfilesCard</name>
     <message>
         <source>Load settings</source>
-        <translation>Cargar ajustes</translation>
+        <translation>Cargar perfil</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation>Guardar ajustes</translation>
+        <translation>Guardar perfil</translation>
     </message>
     <message>
         <source>Please enter a name.</source>
@@ -1722,7 +1722,7 @@
     </message>
     <message>
         <source>Add All-In</source>
-        <translation>Añadir all-in</translation>
+        <translation>Con all-in</translation>
     </message>
     <message>
         <source>Don&apos;t donk</source>
@@ -1730,7 +1730,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Añadir all-in si jam menor que</translation>
+        <translation>All-in si jam menor que</translation>
     </message>
     <message>
         <source>e.g. 30</source>

@@ -637,7 +637,7 @@
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation>Exploitabilité cible (%)</translation>
+        <translation>Objectif (% du pot)</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
@@ -1600,11 +1600,11 @@
     <name>SettingsProfilesCard</name>
     <message>
         <source>Load settings</source>
-        <translation>Charger les paramètres</translation>
+        <translation>Charger profil</translation>
     </message>
     <message>
         <source>Save settings</source>
-        <translation>Enregistrer les paramètres</translation>
+        <translation>Sauver profil</translation>
     </message>
     <message>
         <source>Please enter a name.</source>
@@ -1722,7 +1722,7 @@
     </message>
     <message>
         <source>Add All-In</source>
-        <translation>Ajouter all-in</translation>
+        <translation>Avec all-in</translation>
     </message>
     <message>
         <source>Don&apos;t donk</source>
@@ -1730,7 +1730,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Ajouter all-in si jam inférieur à</translation>
+        <translation>All-in si jam inférieur à</translation>
     </message>
     <message>
         <source>e.g. 30</source>

@@ -637,7 +637,7 @@
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation>Sfruttabilità obiettivo (%)</translation>
+        <translation>Obiettivo (% piatto)</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
@@ -1722,15 +1722,15 @@
     </message>
     <message>
         <source>Add All-In</source>
-        <translation>Aggiungi all-in</translation>
+        <translation>Con all-in</translation>
     </message>
     <message>
         <source>Don&apos;t donk</source>
-        <translation>Niente donk</translation>
+        <translation>No donk</translation>
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Aggiungi all-in se inferiore al</translation>
+        <translation>All-in se inferiore al</translation>
     </message>
     <message>
         <source>e.g. 30</source>

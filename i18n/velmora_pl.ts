@@ -637,7 +637,7 @@
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation>Docelowa eksploatowalność (%)</translation>
+        <translation>Cel (% puli)</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
@@ -1722,7 +1722,7 @@
     </message>
     <message>
         <source>Add All-In</source>
-        <translation>Dodaj all-in</translation>
+        <translation>Z all-inem</translation>
     </message>
     <message>
         <source>Don&apos;t donk</source>
@@ -1730,7 +1730,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Dodaj all-in, jeśli mniejszy niż</translation>
+        <translation>All-in, jeśli poniżej</translation>
     </message>
     <message>
         <source>e.g. 30</source>

@@ -637,7 +637,7 @@
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation>Explorabilidade-alvo (%)</translation>
+        <translation>Alvo (% do pote)</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
@@ -1600,7 +1600,7 @@
     <name>SettingsProfilesCard</name>
     <message>
         <source>Load settings</source>
-        <translation>Carregar perfil</translation>
+        <translation>Abrir perfil</translation>
     </message>
     <message>
         <source>Save settings</source>
@@ -1722,7 +1722,7 @@
     </message>
     <message>
         <source>Add All-In</source>
-        <translation>Adicionar all-in</translation>
+        <translation>Com all-in</translation>
     </message>
     <message>
         <source>Don&apos;t donk</source>
@@ -1730,7 +1730,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Adicionar all-in se menor que</translation>
+        <translation>All-in se menor que</translation>
     </message>
     <message>
         <source>e.g. 30</source>

@@ -637,7 +637,7 @@
     </message>
     <message>
         <source>Target Exploitability (%)</source>
-        <translation>Целевая эксплуатируемость (%)</translation>
+        <translation>Цель, % банка</translation>
     </message>
     <message>
         <source>e.g., 0.10</source>
@@ -1600,7 +1600,7 @@
     <name>SettingsProfilesCard</name>
     <message>
         <source>Load settings</source>
-        <translation>Загрузить профиль</translation>
+        <translation>Открыть профиль</translation>
     </message>
     <message>
         <source>Save settings</source>
@@ -1722,15 +1722,15 @@
     </message>
     <message>
         <source>Add All-In</source>
-        <translation>Добавить all-in</translation>
+        <translation>С all-in</translation>
     </message>
     <message>
         <source>Don&apos;t donk</source>
-        <translation>Без донк-бета</translation>
+        <translation>Без донка</translation>
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Добавить all-in, если он меньше</translation>
+        <translation>All-in, если меньше</translation>
     </message>
     <message>
         <source>e.g. 30</source>

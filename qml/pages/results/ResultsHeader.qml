@@ -67,7 +67,7 @@ RowLayout {
     }
 
     SecondaryButton {
-        Layout.preferredWidth: 140
+        Layout.preferredWidth: Math.max(140, implicitWidth)
         theme: root.theme
         type: root.type
         text: root.play.playMode ? qsTr("Range view") : qsTr("Play vs solution")
