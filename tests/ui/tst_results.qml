@@ -53,6 +53,10 @@ MainWindowCase {
         take("Check")
         compare(walk.currentMeta.nodeType, "chance")
         compare(view.currentActions[0].name, "Random river card")
+        shell.translator.setLanguage("de")
+        verify(view.currentActions[0].name !== "Random river card")
+        shell.translator.setLanguage("en")
+        compare(view.currentActions[0].name, "Random river card")
 
         // A club is not in the tree where the diamond stands for it, and shows all the same.
         mouseClick(Find.all(results, item => item.toggleExpand !== undefined && item.nodeType === "chance")[0])

@@ -76,6 +76,9 @@ QtObject {
         target: root.controller
     }
 
+    // Names that come by calls tell nobody of another language.
+    readonly property string _language: Qt.uiLanguage
+
     function toggleHandFilter(hand: string) {
         selectedHandClass = selectedHandClass === hand ? "" : hand
     }
@@ -159,6 +162,10 @@ QtObject {
         _combosTimer.restart()
     }
 
+    on_LanguageChanged: {
+        if (!loading && !paused)
+            _showAnswers()
+    }
     onNodeChanged: look()
     onPausedChanged: look()
     onSelectedBucketChanged: refreshHandMatrix()
