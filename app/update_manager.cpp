@@ -113,7 +113,7 @@ void UpdateManager::checkNow() {
   request.setRawHeader("Accept", "application/json");
   QNetworkReply* const reply = network_.get(request);
   reply_ = reply;
-  QTimer::singleShot(timeLimit_, reply, [reply] {
+  QTimer::singleShot(timeLimit_, Qt::PreciseTimer, reply, [reply] {
     if (reply->isRunning()) reply->abort();
   });
   connect(reply, &QNetworkReply::readyRead, reply, [reply] {

@@ -6,6 +6,10 @@
 
 // What the two files of ranges hold, as trees, and back.
 
+function isBlank(text) {
+    return text.trim() === ""
+}
+
 /// The charts of a seat, "oop" or "ip", from their parsed file; none without one.
 function standardTree(seat, file, overrides) {
     if (file === undefined)

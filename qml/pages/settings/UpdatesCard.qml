@@ -20,7 +20,7 @@ SettingsCard {
         wrapMode: Text.Wrap
     }
 
-    function _checkedText(time: date): string {
+    function _checkedText(time: var): string {
         return isNaN(time.getTime()) ? "" : qsTr("Last checked: %1").arg(time.toLocaleString(Qt.locale(), Locale.ShortFormat))
     }
 

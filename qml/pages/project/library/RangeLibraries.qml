@@ -97,7 +97,7 @@ QtObject {
     function _readBundled(name: string, label: string): string {
         for (const folder of [":/Velmora/qml/data/", ":/qt/qml/Velmora/qml/data/"]) {
             const text = controller.readTextResource(folder + name)
-            if (text.trim() !== "") {
+            if (!Files.isBlank(text)) {
                 console.info("[ranges] Loaded " + label + " presets via AppController from", folder + name,
                              "bytes=" + text.length)
                 return text
