@@ -48,11 +48,12 @@ class Signature {
 void sign(const velmora::Game& game, const velmora::DiscountedCfr& solver, Signature& signature) {
   signature.add(solver.measure_exploitability(game));
   for (const float value : solver.cf_values(game)) signature.add(value);
-  velmora::FloatList expanded;
+  velmora::ScratchStack scratch;
   for (std::size_t i = 0; i < solver.states().size(); ++i) {
     const velmora::NodeState& state = solver.states().node(i);
     if (!state.active) continue;
-    const float* const sums = solver.states().strategy_sums(state, expanded);
+    const velmora::ScratchStack::Frame frame(scratch);
+    const float* const sums = solver.states().strategy_sums(state, scratch);
     for (std::size_t a = 0; a < state.num_actions; ++a) {
       for (std::size_t h = 0; h < state.num_hands; ++h) {
         signature.add(sums[a * state.row_length() + h]);
@@ -82,6 +83,44 @@ std::vector<BenchSpot> bench_spots() {
   spots[4].config.rake_cap = 10;
   spots[5].config.effective_stack = 250;
   return spots;
+}
+
+velmora_app::SolveConfig quick_spot() {
+  SolveConfig config = spot("QsJh2h", "flop", 400);
+  config.oop_range =
+      "88+,A8s+,A5s,A4s,A3s-A2s:0.5,AJo+,ATo,K9s+,KQo,KJo:0.75,KTo:0.25,Q9s+,QJo:0.5,J8s+,JTo:0.25,"
+      "T8s+,T7s:0.45,97s+,96s:0.45,87s,86s:0.75,85s:0.45,75s+:0.75,65s:0.75,64s:0.5,54s:0.75,"
+      "53s:0.5,43s:0.5,32s:0.45,A9o:0.5,K8s:0.5,Q8s:0.5,77:0.5,66:0.5,55:0.25";
+  config.ip_range =
+      "AA:0.25,99-22,AJs-A6s,A5s-A4s:0.5,A3s-A2s,AQo-A7o,K2s+,K9o+,Q4s+,Q3s-Q2s:0.5,Q9o+,J6s+,J9o+,"
+      "T6s+,T9o,96s+,95s:0.5,98o,86s+,85s:0.5,75s+,74s:0.5,64s+,63s:0.5,54s,53s:0.5,43s,QQ:0.25,"
+      "JJ:0.25,TT:0.5,A5o:0.5,A4o:0.5,J5s:0.5,T5s:0.5";
+  config.rake_percent = 5;
+  config.rake_cap = 30;
+  const auto size = [](velmora_app::StreetSizingText& oop, velmora_app::StreetSizingText& ip,
+                       const char* bet) {
+    oop.bet_sizes = ip.bet_sizes = bet;
+    oop.raise_sizes = ip.raise_sizes = "45";
+  };
+  size(config.oop_flop, config.ip_flop, "52");
+  size(config.oop_turn, config.ip_turn, "55");
+  size(config.oop_river, config.ip_river, "70");
+  return config;
+}
+
+velmora_app::SolveConfig two_size_spot() {
+  SolveConfig config = quick_spot();
+  config.board = "Ts8d4c";
+  config.effective_stack = 500;
+  config.rake_percent = 0;
+  config.oop_range = "99-22,ATs-A2s,KTs+,QTs+,J9s+,T8s+,97s+,87s,76s,65s,AJo-ATo,KQo";
+  config.ip_range = "TT+,A9s+,KTs+,QTs+,JTs,T9s,98s,AQo+,KQo";
+  for (auto* sizing : {&config.oop_flop, &config.oop_turn, &config.oop_river, &config.ip_flop,
+                       &config.ip_turn, &config.ip_river}) {
+    sizing->bet_sizes = "33,75";
+    sizing->raise_sizes = "50";
+  }
+  return config;
 }
 
 BenchReport run_bench(std::uint64_t threads, const std::function<void(const BenchLine&)>& on_line) {

@@ -17,6 +17,11 @@ struct BenchSpot {
 /// without: every kind of node and every kernel.
 std::vector<BenchSpot> bench_spots();
 
+/// The quick solve of the window: a flop of half a million nodes.
+velmora_app::SolveConfig quick_spot();
+/// A flop with two bet sizes a street and narrower ranges.
+velmora_app::SolveConfig two_size_spot();
+
 struct BenchLine {
   std::string name;
   std::uint32_t iterations = 0;

@@ -9,6 +9,7 @@
 #include <unordered_map>
 
 #include "hand_eval.h"
+#include "rows.h"
 #include "worker_pool.h"
 
 namespace velmora {
@@ -190,6 +191,133 @@ StrengthList rank_hands(const std::vector<Pocket>& pockets, const LiveHandList& 
   return list;
 }
 
+/// Fills the sweep lists of one board after the other into the arrays.
+class SweepWriter {
+ public:
+  /// Places in the three arrays.
+  struct Place {
+    std::size_t hands = 0;
+    std::size_t groups = 0;
+    std::size_t blocked = 0;
+  };
+
+  SweepWriter(CachedArtifacts& tables, Place place) : tables_(tables), place_(place) {}
+
+  void write(BySeat<SweepHands>& hands, const BySeat<LiveHandList>& live) {
+    for (const Seat seat : {kOop, kIp}) {
+      const std::size_t row = padded(tables_.pockets[seat].size());
+      const Place first = place_;
+      std::size_t h = 0;
+      for (const LiveHand& hand : live[seat]) {
+        for (; h < hand.hand; ++h) add_blocked(h);
+        ++h;
+        add_hand(hand.hand, hand.card_a, hand.card_b, seat);
+      }
+      for (; h < row; ++h) add_blocked(h);
+      hands[seat].by_hand = hands_since(first);
+      hands[seat].blocked = {tables_.sweep_tables.blocked.data() + first.blocked,
+                             place_.blocked - first.blocked};
+    }
+  }
+
+  void write(RunoutOrder& order, const BySeat<LiveHandList>& live,
+             const BySeat<StrengthList>& lists) {
+    write(order.hands, live);
+    for (const Seat seat : {kOop, kIp}) {
+      const Place first = place_;
+      for (std::size_t i = 1; i + 1 < lists[seat].size(); ++i) {
+        const StrengthEntry& entry = lists[seat][i];
+        add_hand(entry.hand, entry.card_a, entry.card_b, seat);
+      }
+      order.hands[seat].by_strength = hands_since(first);
+    }
+    // The sentinel at the end is stronger than every hand.
+    constexpr std::uint32_t kEnd = 0xFFFFFFFF;
+    const Place first = place_;
+    BySeat<std::size_t> next = {1, 1};
+    for (;;) {
+      const std::uint32_t strength =
+          std::min(lists[kOop][next[kOop]].strength, lists[kIp][next[kIp]].strength);
+      if (strength == kEnd) break;
+      StrengthGroup& group = tables_.sweep_tables.groups[place_.groups++];
+      for (const Seat seat : {kOop, kIp}) {
+        while (lists[seat][next[seat]].strength == strength) ++next[seat];
+        group.end[seat] = static_cast<std::uint16_t>(next[seat] - 1);
+      }
+    }
+    order.groups = {tables_.sweep_tables.groups.data() + first.groups,
+                    place_.groups - first.groups};
+  }
+
+ private:
+  void add_hand(HandIndex hand, CardCode a, CardCode b, Seat seat) {
+    // A hand without a twin finds zeros behind the padded row of the other seat's hands.
+    const std::size_t nobody = padded(tables_.pockets[opponent_of(seat)].size());
+    const HandIndex twin = tables_.same_hand_index[seat][hand];
+    tables_.sweep_tables.hands[place_.hands++] = {
+        static_cast<std::uint16_t>(hand * sizeof(float)),
+        static_cast<std::uint16_t>(a * sizeof(double)),
+        static_cast<std::uint16_t>(b * sizeof(double)),
+        static_cast<std::uint16_t>((twin == kNoHand ? nobody : twin) * sizeof(float))};
+  }
+  void add_blocked(std::size_t hand) {
+    tables_.sweep_tables.blocked[place_.blocked++] =
+        static_cast<std::uint16_t>(hand * sizeof(float));
+  }
+  SweepList hands_since(const Place& first) const {
+    return {tables_.sweep_tables.hands.data() + first.hands, place_.hands - first.hands};
+  }
+
+  CachedArtifacts& tables_;
+  Place place_;
+};
+
+/// The lists of all boards: first where each one's begin, then the lists, spread over the pool.
+void fill_sweep_tables(CachedArtifacts& tables, std::span<const RunoutPair> pairs,
+                       WorkerPool* pool) {
+  tables.early_sweeps.resize(kNumCards + 1);
+  tables.runout_orders.resize(kNumPockets);
+  SweepWriter::Place size;
+  std::vector<SweepWriter::Place> places;
+  const auto reserve = [&](const BySeat<LiveHandList>& live, bool complete) {
+    places.push_back(size);
+    for (const Seat seat : {kOop, kIp}) {
+      size.hands += live[seat].size() * (complete ? 2 : 1);
+      size.groups += complete ? live[seat].size() : 0;
+      size.blocked += padded(tables.pockets[seat].size()) - live[seat].size();
+    }
+  };
+  for (CardCode card = 0; card < kNumCards; ++card) {
+    if (!tables.hands_without_card[card][kOop].empty() ||
+        !tables.hands_without_card[card][kIp].empty()) {
+      reserve(tables.hands_without_card[card], false);
+    } else {
+      places.push_back(size);
+    }
+  }
+  reserve(tables.all_hands, false);
+  for (const RunoutPair& pair : pairs) {
+    reserve(tables.hands_without_pair[pocket_index(pair.a, pair.b)], true);
+  }
+  tables.sweep_tables = {PageArray<SweepHand>(size.hands), PageArray<StrengthGroup>(size.groups),
+                         PageArray<std::uint16_t>(size.blocked)};
+
+  for (CardCode card = 0; card <= kNumCards; ++card) {
+    const BySeat<LiveHandList>& live =
+        card < kNumCards ? tables.hands_without_card[card] : tables.all_hands;
+    if (live[kOop].empty() && live[kIp].empty()) continue;
+    SweepWriter(tables, places[card]).write(tables.early_sweeps[card], live);
+  }
+  parallel_for(pool, pairs.size(), [&](std::size_t begin, std::size_t end) {
+    for (std::size_t i = begin; i < end; ++i) {
+      const std::size_t index = pocket_index(pairs[i].a, pairs[i].b);
+      SweepWriter(tables, places[kNumCards + 1 + i])
+          .write(tables.runout_orders[index], tables.hands_without_pair[index],
+                 tables.strength_tables[index]);
+    }
+  });
+}
+
 void fill_hand_lists(CachedArtifacts& tables, const Board& board) {
   CardMask flop = 0;
   for (const CardCode card : board.flop) flop |= mask_of(card);
@@ -221,6 +349,7 @@ void fill_hand_lists(CachedArtifacts& tables, const Board& board) {
       }
     }
   });
+  fill_sweep_tables(tables, pairs, pool ? &*pool : nullptr);
 }
 
 std::shared_ptr<const CachedArtifacts> compute(const Board& board, CardMask board_mask,
@@ -296,6 +425,12 @@ const BySeat<StrengthList>& CardContext::strength_table(CardCode card_a, CardCod
   return tables_->strength_tables[pocket_index(card_a, card_b)];
 }
 
+const RunoutOrder& CardContext::runout_order(CardCode card_a, CardCode card_b) const {
+  static const RunoutOrder kEmpty;
+  if (card_a >= kNumCards || card_b >= kNumCards || card_a == card_b) return kEmpty;
+  return tables_->runout_orders[pocket_index(card_a, card_b)];
+}
+
 const LiveHandList& CardContext::live_hands(Seat seat, CardCode turn, CardCode river) const {
   if (turn >= kNumCards) return tables_->all_hands[seat];
   if (river < kNumCards && river != turn) {
@@ -304,11 +439,19 @@ const LiveHandList& CardContext::live_hands(Seat seat, CardCode turn, CardCode r
   return tables_->hands_without_card[turn][seat];
 }
 
+const SweepHands& CardContext::sweep_hands(Seat seat, CardCode turn) const {
+  return tables_->early_sweeps[std::min(turn, kNumCards)][seat];
+}
+
 std::size_t CardContext::memory_bytes() const {
   const CachedArtifacts& t = *tables_;
   const SuitIsomorphism& iso = t.isomorphism;
   return bytes_of(t.pockets) + bytes_of(t.hand_weights) + bytes_of(t.matchup_shares) +
          bytes_of(t.matchup_weights) + bytes_of(t.same_hand_index) + bytes_of(t.strength_tables) +
+         bytes_of(t.runout_orders) + bytes_of(t.early_sweeps) +
+         t.sweep_tables.hands.size() * sizeof(SweepHand) +
+         t.sweep_tables.groups.size() * sizeof(StrengthGroup) +
+         t.sweep_tables.blocked.size() * sizeof(std::uint16_t) +
          bytes_of(t.all_hands) + bytes_of(t.hands_without_card) + bytes_of(t.hands_without_pair) +
          bytes_of(iso.turn_refs) + bytes_of(iso.turn_cards) + bytes_of(iso.turn_swaps) +
          bytes_of(iso.river_refs) + bytes_of(iso.river_cards) + bytes_of(iso.river_swaps);

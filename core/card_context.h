@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "cards.h"
+#include "huge_pages.h"
 #include "range.h"
 #include "suit_isomorphism.h"
 
@@ -40,6 +41,46 @@ struct LiveHand {
 };
 using LiveHandList = std::vector<LiveHand>;  ///< Ascending by hand.
 
+/// One live hand as the payoff sweeps use it: places in tables that hold several values for each
+/// hand or card, in units that the processor scales while it addresses memory.
+struct SweepHand {
+  std::uint16_t hand;    ///< Hand index times 4, the bytes of a float.
+  std::uint16_t card_a;  ///< Card code times 8, the bytes of a double.
+  std::uint16_t card_b;
+  std::uint16_t twin;  ///< The other seat's hand of the same two cards, times 4; or `no_twin`.
+
+  bool operator==(const SweepHand&) const = default;
+};
+using SweepList = std::span<const SweepHand>;
+
+/// Where the hands of one strength end in `SweepHands::by_strength`.
+struct StrengthGroup {
+  BySeat<std::uint16_t> end;
+
+  bool operator==(const StrengthGroup&) const = default;
+};
+
+/// A seat's hands on one board.
+struct SweepHands {
+  SweepList by_hand;      ///< Live hands, ascending.
+  SweepList by_strength;  ///< Ascending by strength, then by hand; on a complete board only.
+  std::span<const std::uint16_t> blocked;  ///< All other places of a padded row, times 4.
+};
+
+/// One run-out in the form that the payoff sweeps run along.
+struct RunoutOrder {
+  BySeat<SweepHands> hands;
+  /// For each strength that a hand of either seat has, ascending.
+  std::span<const StrengthGroup> groups;
+};
+
+/// What the lists of `RunoutOrder` are views into: one stretch for each run-out.
+struct SweepTables {
+  PageArray<SweepHand> hands;
+  PageArray<StrengthGroup> groups;
+  PageArray<std::uint16_t> blocked;
+};
+
 /// The computed tables of a spot; tables by seat have OOP first, per-hand lists go by hand index:
 /// the position of a pocket in the seat's `pockets`.
 struct CachedArtifacts {
@@ -51,7 +92,10 @@ struct CachedArtifacts {
   /// Index of the same two cards in the other seat's list, or `kNoHand`.
   BySeat<std::vector<HandIndex>> same_hand_index;
   std::vector<BySeat<StrengthList>> strength_tables;  ///< By run-out pair; impossible ones empty.
+  std::vector<RunoutOrder> runout_orders;             ///< Likewise.
+  SweepTables sweep_tables;
   SuitIsomorphism isomorphism;
+  std::vector<BySeat<SweepHands>> early_sweeps;  ///< By turn card; the last entry has none.
   BySeat<LiveHandList> all_hands;
   std::vector<BySeat<LiveHandList>> hands_without_card;  ///< By dealt card.
   std::vector<BySeat<LiveHandList>> hands_without_pair;  ///< By dealt turn and river.
@@ -100,8 +144,13 @@ class CardContext {
   /// The lists of both seats on a run-out, cards in either order; empty lists for `kNoCard` or a
   /// run-out that is not possible.
   const BySeat<StrengthList>& strength_table(CardCode card_a, CardCode card_b) const;
+  /// The same run-out as the payoff sweeps want it.
+  const RunoutOrder& runout_order(CardCode card_a, CardCode card_b) const;
   /// The seat's hands that miss the dealt cards (`kNoCard` for none), ascending.
   const LiveHandList& live_hands(Seat seat, CardCode turn, CardCode river) const;
+
+  /// A seat's hands on a board with cards to come (`kNoCard` for the turn too).
+  const SweepHands& sweep_hands(Seat seat, CardCode turn) const;
 
   /// Allocated bytes of all tables.
   std::size_t memory_bytes() const;

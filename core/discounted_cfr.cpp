@@ -27,6 +27,8 @@ DiscountedCfr::DiscountedCfr(SolverOptions options) : options_(std::move(options
 void DiscountedCfr::prepare_states(Game& game) {
   game.set_compressed_storage(options_.compressed_storage);
   states_.prepare(game, options_.compressed_storage, pool_.get());
+  shape_ = street_shape(game, 0);
+  scratch_ = std::vector<ScratchStack>(worker_count());
 }
 
 void DiscountedCfr::run(Game& game) {
@@ -73,33 +75,17 @@ void DiscountedCfr::run(Game& game) {
   }
 }
 
-float DiscountedCfr::measure_exploitability(const Game& game) const {
-  const std::array<float, 2> best = best_cf_values(game);
-  double sum = 0;
-  if (game.settings().rake_fraction > 0 && game.settings().rake_cap > 0) {
-    // The rake is lost to both seats, so the values don't add up to 0 by themselves.
-    const std::array<float, 2> expected = cf_values(game);
-    sum = static_cast<double>(best[1] - expected[1]) + static_cast<double>(best[0] - expected[0]);
-  } else {
-    sum = static_cast<double>(best[1]) + static_cast<double>(best[0]);
-  }
-  return static_cast<float>(sum * 0.5);
-}
-
 void DiscountedCfr::run_iteration(const Game& game, std::uint32_t i) {
-  discount_ = discount_params(i);
+  const DiscountParams discount = discount_params(i);
   for (const Seat seat : {kOop, kIp}) {
     const std::vector<float>& weights = game.cards().hand_weights(opponent_of(seat));
     FloatList reach;
     FloatList values;
     const std::span<float> reach_row = reach.row(weights.size());
     std::copy(weights.begin(), weights.end(), reach_row.begin());
-    const std::span<float> result = values.row(game.num_hands(seat));
-    if (game.nodes()[0].river == kNoCard) {
-      solve_recursive(game, 0, seat, reach_row, result, 0, scratch_[seat]);
-    } else {
-      solve_river(game, 0, seat, reach_row, result, 0, scratch_[seat]);
-    }
+    float* const result = values.row(game.num_hands(seat)).data();
+    Traversal(game, states_, seat, discount, pool_.get(), scratch_)
+        .run(shape_, 0, reach_row.data(), {&result, 1});
   }
 }
 

@@ -12,6 +12,8 @@
 #include "game.h"
 #include "scratch.h"
 #include "solver_state.h"
+#include "street_shape.h"
+#include "traversal.h"
 #include "worker_pool.h"
 
 namespace velmora {
@@ -28,13 +30,6 @@ struct SolverOptions {
   std::function<void(std::uint32_t, float, double)> progress;
   /// Asked before each iteration whether to stop; may be empty.
   std::function<bool()> cancel;
-};
-
-/// Factors of one iteration.
-struct DiscountParams {
-  float alpha_t = 0;  ///< Of regrets that are not negative.
-  float beta_t = 0;   ///< Of negative regrets.
-  float gamma_t = 0;  ///< Of the strategy sums.
 };
 
 /// The discounts of the iteration with index i, from 0: exponents 1.5, 0 and 3 on the iteration
@@ -97,35 +92,22 @@ class DiscountedCfr {
   std::size_t worker_count() const { return pool_ ? pool_->size() + 1 : 1; }
 
  private:
-  /// Which strategy the measured seat plays; the other seat always plays its average.
-  enum class Response { kAverage, kBest };
-
-  // Reach goes by hand of the seat that is not traversed, results by hand of the one that is.
-  // Every row that is handed down is padded (see `rows.h`); the spans tell the length without.
-
-  void solve_recursive(const Game& game, std::size_t node, Seat seat, std::span<const float> reach,
-                       std::span<float> result, std::size_t depth, ScratchStack& scratch);
-  void solve_river(const Game& game, std::size_t node, Seat seat, std::span<const float> reach,
-                   std::span<float> result, std::size_t depth, ScratchStack& scratch);
-  template <typename Walk>
-  void solve_decision(const Game& game, std::size_t node, Seat seat, std::span<const float> reach,
-                      std::span<float> result, std::size_t depth, ScratchStack& scratch,
-                      const Walk& walk);
-
-  void measure_recursive(const Game& game, std::size_t node, Seat seat, Response response,
-                         std::span<const float> reach, std::span<float> result, std::size_t depth,
-                         ScratchStack& scratch) const;
-  std::vector<float> measure_node(const Game& game, std::size_t node, Seat seat, Response response,
-                                  std::span<const float> opponent_reach) const;
-  std::array<float, 2> measure_root(const Game& game, Response response) const;
+  /// Values of a seat's hands at a node against a reach, by response.
+  std::vector<std::vector<float>> measure_node(const Game& game, const StreetShape& shape,
+                                               std::size_t node, Seat seat,
+                                               std::span<const Response> responses,
+                                               std::span<const float> opponent_reach) const;
+  /// What each seat expects at the root, in chips, by response.
+  std::vector<std::array<float, 2>> measure_root(const Game& game,
+                                                 std::span<const Response> responses) const;
 
   SolverOptions options_;
   float exploitability_ = 0;
   std::uint32_t iterations_done_ = 0;
   SolverState states_;
-  DiscountParams discount_;
   std::unique_ptr<WorkerPool> pool_;  ///< Absent with one worker.
-  BySeat<ScratchStack> scratch_;
+  StreetShape shape_;                  ///< Of the whole tree.
+  std::vector<ScratchStack> scratch_;  ///< By worker.
 };
 
 }  // namespace velmora

@@ -1,49 +1,67 @@
-// Working memory of the traversals: one frame for each depth of the recursion, found by index, so
-// that walking down the tree allocates nothing once the frames have grown.
+// Working memory of the traversals.
 #pragma once
 
-#include <array>
 #include <cstddef>
-#include <deque>
+#include <cstdint>
 #include <memory>
+#include <type_traits>
+#include <vector>
 
 #include "rows.h"
 
 namespace velmora {
 
-/// The lists of one recursion level. A visit lengthens a list to what it needs; none ever shrinks.
-/// "Own" is the traversing seat.
-struct ScratchFrame {
-  FloatList scaled_reach;      ///< Opposing hands: reach times the deal factor.
-  FloatList child_rows;        ///< One row of own hands for each dealt card.
-  FloatList sums;              ///< Own hands.
-  FloatList swap_row;          ///< Own hands.
-  FloatList action_values;     ///< One row of own hands for each action.
-  FloatList strategy;          ///< One row of own hands for each action.
-  FloatList denominators;      ///< Own hands.
-  FloatList opp_strategy;      ///< One row of opposing hands for each action.
-  FloatList opp_denominators;  ///< Opposing hands.
-  FloatList action_reach;      ///< One row of opposing hands for each action.
-  FloatList regrets;           ///< A node's regrets, expanded from compressed storage.
-  FloatList strategy_sums;     ///< A node's strategy sums, likewise.
-};
-
-/// Frames by depth. Belongs to one thread at a time.
+/// Memory that is taken and given back in the order of a stack. It only ever grows, so walking a
+/// tree allocates nothing once it has its size. Belongs to one thread at a time.
 class ScratchStack {
  public:
-  ScratchFrame& frame_at(std::size_t depth) {
-    if (depth < kFixedFrames) return frames_[depth];
-    while (overflow_.size() <= depth - kFixedFrames) {
-      overflow_.push_back(std::make_unique<ScratchFrame>());
+  /// Gives back on destruction all that was taken since its construction.
+  class Frame {
+   public:
+    explicit Frame(ScratchStack& stack) : stack_(stack), block_(stack.block_), used_(stack.used_) {}
+    ~Frame() {
+      stack_.block_ = block_;
+      stack_.used_ = used_;
     }
-    return *overflow_[depth - kFixedFrames];
+    Frame(const Frame&) = delete;
+    Frame& operator=(const Frame&) = delete;
+
+   private:
+    ScratchStack& stack_;
+    std::size_t block_;
+    std::size_t used_;
+  };
+
+  /// Room for `count` items that hold anything, on a cache line. Throws `std::bad_alloc`.
+  template <typename T>
+  T* take(std::size_t count) {
+    static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
+    return static_cast<T*>(take_bytes(count * sizeof(T)));
   }
 
  private:
-  static constexpr std::size_t kFixedFrames = 32;
+  using Block = std::vector<char, CacheLineAllocator<char>>;
+  static constexpr std::size_t kBlockBytes = std::size_t{1} << 20;
+  static constexpr std::size_t kCacheLine = 64;
 
-  std::array<ScratchFrame, kFixedFrames> frames_;
-  std::deque<std::unique_ptr<ScratchFrame>> overflow_;
+  void* take_bytes(std::size_t bytes) {
+    const std::size_t size = (bytes + kCacheLine - 1) / kCacheLine * kCacheLine;
+    while (block_ < blocks_.size() && blocks_[block_].size() - used_ < size) {
+      ++block_;
+      used_ = 0;
+    }
+    if (block_ == blocks_.size()) {
+      blocks_.emplace_back(size > kBlockBytes ? size : kBlockBytes);
+      used_ = 0;
+    }
+    void* const room = blocks_[block_].data() + used_;
+    used_ += size;
+    return room;
+  }
+
+  std::vector<Block> blocks_;
+  std::size_t block_ = 0;  ///< The block in use, which may not be there yet.
+  std::size_t used_ = 0;   ///< Bytes of it.
 };
 
 }  // namespace velmora

@@ -91,7 +91,7 @@ void SolverState::prepare(const Game& game, bool compressed, WorkerPool* pool) {
 
   // Step 2. Shapes and places.
   nodes_ = PageArray<NodeState>(nodes.size());
-  std::size_t cells = 0;
+  BySeat<std::size_t> cells{};
   for (std::size_t i = 0; i < nodes.size(); ++i) {
     NodeState& state = nodes_[i];
     state.regrets_scale = 1.0F;
@@ -100,9 +100,9 @@ void SolverState::prepare(const Game& game, bool compressed, WorkerPool* pool) {
     state.seat = nodes[i].seat;
     state.num_actions = static_cast<std::uint32_t>(nodes[i].actions.size());
     state.num_hands = static_cast<std::uint32_t>(game.num_hands(state.seat));
-    state.first_cell = cells;
+    state.first_cell = cells[state.seat];
     state.active = true;
-    cells += state.cells();
+    cells[state.seat] += state.cells();
   }
 
   // Step 3. Tables of zeros. Fresh pages read as zeros; writing them claims them now.
@@ -113,57 +113,92 @@ void SolverState::prepare(const Game& game, bool compressed, WorkerPool* pool) {
       std::memset(table.data() + begin, 0, (end - begin) * sizeof(Cell));
     });
   };
+  const auto claim_all = [&](auto& arenas) {
+    for (const Seat seat : {kOop, kIp}) {
+      claim(arenas.regrets[seat], cells[seat] + stagger(seat, false));
+      claim(arenas.strategy_sums[seat], cells[seat] + stagger(seat, true));
+    }
+  };
   if (compressed) {
-    claim(regrets_q_, cells);
-    claim(strategy_sums_q_, cells);
+    claim_all(quantized_);
   } else {
-    claim(regrets_, cells);
-    claim(strategy_sums_, cells);
+    claim_all(plain_);
   }
 }
 
 namespace {
 
 const float* expand_table(const NodeState& state, const std::int16_t* q, float scale,
-                          FloatList& expanded) {
-  float* floats = expanded.rows(state.num_actions, state.num_hands);
+                          ScratchStack& scratch) {
+  float* const floats = scratch.take<float>(state.cells());
   dequantize_block(state.num_actions, state.num_hands, q, scale, floats);
   return floats;
 }
 
 }  // namespace
 
-const float* SolverState::regrets(const NodeState& state, FloatList& expanded) const {
-  if (!compressed_) return regrets_.data() + state.first_cell;
-  return expand_table(state, regrets_q_.data() + state.first_cell, state.regrets_scale, expanded);
+std::size_t SolverState::place(const NodeState& state, bool sums) {
+  return state.first_cell + stagger(state.seat, sums);
 }
 
-const float* SolverState::strategy_sums(const NodeState& state, FloatList& expanded) const {
-  if (!compressed_) return strategy_sums_.data() + state.first_cell;
-  return expand_table(state, strategy_sums_q_.data() + state.first_cell, state.strategy_sums_scale,
-                      expanded);
+void SolverState::list_regrets(std::size_t first, std::size_t last, MemoryAhead& ahead) const {
+  const NodeState& begin = nodes_[first];
+  const std::size_t cells = nodes_[last].first_cell + nodes_[last].cells() - begin.first_cell;
+  if (compressed_) {
+    ahead.add(quantized_.regrets[begin.seat].data() + place(begin, false),
+              cells * sizeof(std::int16_t));
+  } else {
+    ahead.add(plain_.regrets[begin.seat].data() + place(begin, false), cells * sizeof(float));
+  }
 }
 
-float* SolverState::ensure_regrets(const NodeState& state, FloatList& expanded) {
-  return const_cast<float*>(std::as_const(*this).regrets(state, expanded));
+void SolverState::list_strategy_sums(std::size_t first, std::size_t last,
+                                     MemoryAhead& ahead) const {
+  const NodeState& begin = nodes_[first];
+  const std::size_t cells = nodes_[last].first_cell + nodes_[last].cells() - begin.first_cell;
+  if (compressed_) {
+    ahead.add(quantized_.strategy_sums[begin.seat].data() + place(begin, true),
+              cells * sizeof(std::int16_t));
+  } else {
+    ahead.add(plain_.strategy_sums[begin.seat].data() + place(begin, true), cells * sizeof(float));
+  }
 }
 
-float* SolverState::ensure_strategy_sums(const NodeState& state, FloatList& expanded) {
-  return const_cast<float*>(std::as_const(*this).strategy_sums(state, expanded));
+const float* SolverState::regrets(const NodeState& state, ScratchStack& scratch) const {
+  const std::size_t cell = place(state, false);
+  if (!compressed_) return plain_.regrets[state.seat].data() + cell;
+  return expand_table(state, quantized_.regrets[state.seat].data() + cell, state.regrets_scale,
+                      scratch);
+}
+
+const float* SolverState::strategy_sums(const NodeState& state, ScratchStack& scratch) const {
+  const std::size_t cell = place(state, true);
+  if (!compressed_) return plain_.strategy_sums[state.seat].data() + cell;
+  return expand_table(state, quantized_.strategy_sums[state.seat].data() + cell,
+                      state.strategy_sums_scale, scratch);
+}
+
+float* SolverState::ensure_regrets(const NodeState& state, ScratchStack& scratch) {
+  return const_cast<float*>(std::as_const(*this).regrets(state, scratch));
+}
+
+float* SolverState::ensure_strategy_sums(const NodeState& state, ScratchStack& scratch) {
+  return const_cast<float*>(std::as_const(*this).strategy_sums(state, scratch));
 }
 
 void SolverState::store_regrets(std::size_t node, const float* regrets) {
   if (!compressed_) return;
   NodeState& state = nodes_[node];
-  quantize_block(state.num_actions, state.num_hands, regrets, regrets_q_.data() + state.first_cell,
-                 state.regrets_scale);
+  quantize_block(state.num_actions, state.num_hands, regrets,
+                 quantized_.regrets[state.seat].data() + place(state, false), state.regrets_scale);
 }
 
 void SolverState::store_strategy_sums(std::size_t node, const float* sums) {
   if (!compressed_) return;
   NodeState& state = nodes_[node];
   quantize_block(state.num_actions, state.num_hands, sums,
-                 strategy_sums_q_.data() + state.first_cell, state.strategy_sums_scale);
+                 quantized_.strategy_sums[state.seat].data() + place(state, true),
+                 state.strategy_sums_scale);
 }
 
 }  // namespace velmora

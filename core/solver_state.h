@@ -8,7 +8,9 @@
 
 #include "game.h"
 #include "huge_pages.h"
+#include "memory_ahead.h"
 #include "rows.h"
+#include "scratch.h"
 #include "worker_pool.h"
 
 namespace velmora {
@@ -17,7 +19,7 @@ namespace velmora {
 /// each action; a hand keeps its index at every node of the seat, also where a dealt card blocks
 /// it, and has regrets of 0 there.
 struct NodeState {
-  std::size_t first_cell;  ///< In all arenas.
+  std::size_t first_cell;  ///< In the arenas of the seat.
   std::uint32_t num_actions;
   std::uint32_t num_hands;    ///< Length of the acting seat's pocket list.
   float regrets_scale;        ///< Of the compressed form; 1 at the start.
@@ -37,8 +39,8 @@ void quantize_block(std::size_t num_actions, std::size_t num_hands, const float*
 void dequantize_block(std::size_t num_actions, std::size_t num_hands, const std::int16_t* q,
                       float scale, float* out_floats);
 
-/// The tables of all nodes, regrets and strategy sums in one arena each, in node order, which is
-/// the order in which the traversals walk. Plain tables are single floats. Compressed ones are
+/// The tables of all nodes, with an arena for the regrets of each seat and one for its strategy sums,
+/// in node order, which is about the order in which the traversals walk. Plain tables are single floats. Compressed ones are
 /// 16-bit integers at rest and are expanded into the visitor's scratch memory while it works on
 /// them, so reading never changes them.
 class SolverState {
@@ -53,16 +55,20 @@ class SolverState {
   /// False at a chance node with two edges to one child: its branches share tables.
   bool parallel_safe(std::size_t node) const { return parallel_safe_[node] != 0; }
 
-  /// A node's regrets in float form; `expanded` lends the room where they are compressed.
-  const float* regrets(const NodeState& state, FloatList& expanded) const;
-  const float* strategy_sums(const NodeState& state, FloatList& expanded) const;
+  /// A node's regrets in float form; `scratch` lends the room where they are compressed.
+  const float* regrets(const NodeState& state, ScratchStack& scratch) const;
+  const float* strategy_sums(const NodeState& state, ScratchStack& scratch) const;
 
   /// The same for the traversal that changes them; `store_*` takes changes back into compressed
   /// storage and does nothing for plain tables.
-  float* ensure_regrets(const NodeState& state, FloatList& expanded);
-  float* ensure_strategy_sums(const NodeState& state, FloatList& expanded);
+  float* ensure_regrets(const NodeState& state, ScratchStack& scratch);
+  float* ensure_strategy_sums(const NodeState& state, ScratchStack& scratch);
   void store_regrets(std::size_t node, const float* regrets);
   void store_strategy_sums(std::size_t node, const float* sums);
+
+  /// Lists the regrets or the strategy sums of one seat's nodes from `first` to `last`.
+  void list_regrets(std::size_t first, std::size_t last, MemoryAhead& ahead) const;
+  void list_strategy_sums(std::size_t first, std::size_t last, MemoryAhead& ahead) const;
 
   /// Bytes of the tables that `prepare` would allocate for a tree of these counts.
   static std::uint64_t table_bytes(const PlanCounts& counts, const CardContext& cards,
@@ -71,10 +77,23 @@ class SolverState {
  private:
   PageArray<NodeState> nodes_;
   std::vector<std::uint8_t> parallel_safe_;
-  PageArray<float> regrets_;
-  PageArray<float> strategy_sums_;
-  PageArray<std::int16_t> regrets_q_;
-  PageArray<std::int16_t> strategy_sums_q_;
+  template <typename Cell>
+  struct Arenas {
+    BySeat<PageArray<Cell>> regrets;
+    BySeat<PageArray<Cell>> strategy_sums;
+  };
+
+  /// Cells by which an arena begins after its first page, different for each: equal rows of two
+  /// tables that are worked on together would else fall on the same few places of the cache.
+  static std::size_t stagger(Seat seat, bool sums) {
+    return (1 + 2 * std::size_t{seat} + std::size_t{sums}) * kStaggerCells;
+  }
+  static constexpr std::size_t kStaggerCells = 272;
+  /// First cell of a node's table in its arena.
+  static std::size_t place(const NodeState& state, bool sums);
+
+  Arenas<float> plain_;
+  Arenas<std::int16_t> quantized_;
   bool compressed_ = false;
 };
 

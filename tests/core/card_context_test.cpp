@@ -281,12 +281,17 @@ TEST(CardContext, MemoryCoversEveryTable) {
         for (CardCode b = 0; b < a; ++b) {
           entries += cards.strength_table(a, b)[seat].size() * sizeof(StrengthEntry);
           entries += cards.live_hands(seat, a, b).size() * sizeof(LiveHand);
+          const RunoutOrder& order = cards.runout_order(a, b);
+          const SweepHands& sweep = order.hands[seat];
+          entries += (sweep.by_hand.size() + sweep.by_strength.size()) * sizeof(SweepHand) +
+                     sweep.blocked.size() * sizeof(std::uint16_t) +
+                     order.groups.size() * sizeof(StrengthGroup) / 2;
         }
       }
       entries += hands * sizeof(LiveHand);
     }
     const std::size_t heads =
-        2 * kNumPockets * sizeof(BySeat<StrengthList>) + kNumCards * sizeof(BySeat<LiveHandList>);
+        kNumPockets * (2 * sizeof(BySeat<StrengthList>) + sizeof(RunoutOrder)) + kNumCards * sizeof(BySeat<LiveHandList>);
     EXPECT_GE(cards.memory_bytes(), entries + heads) << text;
     EXPECT_LE(cards.memory_bytes(), (entries + heads) * 5 / 4 + 4096) << text;
   }

@@ -1,8 +1,7 @@
-// Every kernel on every instruction set of this machine, against a plain loop.
+// Every kernel on every instruction set of this machine, against the plain loops.
 #include "kernels.h"
 
 #include <cmath>
-#include <functional>
 #include <limits>
 #include <random>
 #include <vector>
@@ -11,14 +10,16 @@
 #include <gtest/gtest.h>
 
 #include "instruction_set.h"
+#include "plain_kernels.h"
 #include "rows.h"
 #include "solver_state.h"
 
 namespace {
 
-constexpr std::size_t kActions = 3;
-constexpr std::size_t kHands = 136;  // A block and a bit of the loops that sum in blocks.
-constexpr std::size_t kCells = kActions * kHands;
+namespace plain = velmora_plain;
+
+constexpr std::size_t kHands = 1336;
+constexpr std::size_t kMostActions = 8;  // More than the fused kernels take.
 
 using Row = std::vector<float>;
 
@@ -32,156 +33,155 @@ Row random_row(std::size_t n, unsigned seed, float least = -4.0F) {
   return row;
 }
 
-struct Kernel {
-  const char* name;
-  std::function<void(Row&)> run;        ///< Writes its output over the row.
-  std::function<void(Row&)> reference;  ///< A plain loop with the same rounding.
+/// The tables of a node of `actions` actions, and its children's values in rows of their own.
+struct NodeRows {
+  explicit NodeRows(std::size_t num_actions)
+      : actions(num_actions),
+        regrets(random_row(num_actions * kHands, 1)),
+        sums(random_row(num_actions * kHands, 2)),
+        values(random_row(num_actions * kHands, 3)),
+        reach(random_row(kHands, 4, 0.0F)),
+        strategy(num_actions * kHands),
+        denominators(kHands) {
+    for (std::size_t a = 0; a < actions; ++a) {
+      apart.emplace_back(values.begin() + static_cast<std::ptrdiff_t>(a * kHands),
+                         values.begin() + static_cast<std::ptrdiff_t>((a + 1) * kHands));
+    }
+    for (const Row& row : apart) rows.push_back(row.data());
+    plain::regret_match(strategy.data(), denominators.data(), regrets.data(), actions, kHands,
+                        kHands);
+  }
+
+  std::size_t actions;
+  Row regrets, sums, values, reach, strategy, denominators;
+  std::vector<Row> apart;
+  std::vector<const float*> rows;
 };
 
-std::vector<Kernel> kernels() {
-  static const Row regrets = random_row(kCells, 1);
-  static const Row values = random_row(kCells, 2);
-  static const Row strategy = random_row(kCells, 3, 0.0F);
-  static const Row row = random_row(kHands, 4);
-  return {
-      {"regret_match",
-       [](Row& out) {
-         Row denominators(kHands);
-         out.resize(kCells);
-         velmora::regret_match(out.data(), denominators.data(), regrets.data(), kActions, kHands);
-       },
-       [](Row& out) {
-         out.resize(kCells);
-         for (std::size_t h = 0; h < kHands; ++h) {
-           float sum = 0;
-           for (std::size_t a = 0; a < kActions; ++a) sum += std::fmax(regrets[a * kHands + h], 0);
-           for (std::size_t a = 0; a < kActions; ++a) {
-             out[a * kHands + h] =
-                 sum > 0 ? std::fmax(regrets[a * kHands + h], 0) / sum : 1.0F / kActions;
-           }
-         }
-       }},
-      {"weighted_action_sum",
-       [](Row& out) {
-         velmora::weighted_action_sum(out.data(), strategy.data(), values.data(), kActions, kHands);
-       },
-       [](Row& out) {
-         for (std::size_t h = 0; h < kHands; ++h) {
-           out[h] = 0;
-           for (std::size_t a = 0; a < kActions; ++a) {
-             out[h] += strategy[a * kHands + h] * values[a * kHands + h];
-           }
-         }
-       }},
-      {"update_strategy_sum",
-       [](Row& out) {
-         out = values;
-         velmora::update_strategy_sum(out.data(), strategy.data(), 0.3F, kCells);
-       },
-       [](Row& out) {
-         out = values;
-         for (std::size_t i = 0; i < kCells; ++i) out[i] = out[i] * 0.3F + strategy[i];
-       }},
-      {"update_regrets",
-       [](Row& out) {
-         out = regrets;
-         velmora::update_regrets(out.data(), values.data(), row.data(), kActions, kHands, 0.7F,
-                                 0.5F);
-       },
-       [](Row& out) {
-         out = regrets;
-         for (std::size_t i = 0; i < kCells; ++i) {
-           out[i] = (out[i] >= 0 ? 0.7F : 0.5F) * out[i] + values[i];
-           out[i] -= row[i % kHands];
-         }
-       }},
-      {"row_multiply",
-       [](Row& out) { velmora::row_multiply(out.data(), row.data(), values.data(), kHands); },
-       [](Row& out) {
-         for (std::size_t h = 0; h < kHands; ++h) out[h] = row[h] * values[h];
-       }},
-      {"scale_row", [](Row& out) { velmora::scale_row(out.data(), row.data(), 0.1F, kHands); },
-       [](Row& out) {
-         for (std::size_t h = 0; h < kHands; ++h) out[h] = row[h] * 0.1F;
-       }},
-      {"add_rows", [](Row& out) { velmora::add_rows(out.data(), values.data(), kActions, kHands); },
-       [](Row& out) {
-         for (std::size_t i = 0; i < kCells; ++i) out[i % kHands] += values[i];
-       }},
-      {"axpy_row", [](Row& out) { velmora::axpy_row(out.data(), row.data(), kHands, 1.0F); },
-       [](Row& out) {
-         for (std::size_t h = 0; h < kHands; ++h) out[h] += row[h];
-       }},
-      {"axpy_row by 0",
-       [](Row& out) {
-         const Row infinite(kHands, std::numeric_limits<float>::infinity());
-         velmora::axpy_row(out.data(), infinite.data(), kHands, 0.0F);
-       },
-       [](Row&) {}},
-      {"sum_actions",
-       [](Row& out) { velmora::sum_actions(out.data(), values.data(), kActions, kHands); },
-       [](Row& out) {
-         for (std::size_t h = 0; h < kHands; ++h) {
-           double sum = 0;
-           for (std::size_t a = 0; a < kActions; ++a) sum += double{values[a * kHands + h]};
-           out[h] = static_cast<float>(sum);
-         }
-       }},
-      {"average_strategy_rows",
-       [](Row& out) {
-         out.resize(kCells);
-         velmora::average_strategy_rows(out.data(), regrets.data(), kActions, kHands);
-       },
-       [](Row& out) {
-         out.resize(kCells);
-         for (std::size_t h = 0; h < kHands; ++h) {
-           double sum = 0;
-           for (std::size_t a = 0; a < kActions; ++a) {
-             sum += double{std::fmax(regrets[a * kHands + h], 0.0F)};
-           }
-           for (std::size_t a = 0; a < kActions; ++a) {
-             const double x = double{std::fmax(regrets[a * kHands + h], 0.0F)};
-             out[a * kHands + h] = static_cast<float>(sum > 0 ? x / sum : 1.0 / kActions);
-           }
-         }
-       }},
-      {"expected_values",
-       [](Row& out) {
-         velmora::expected_values(out.data(), strategy.data(), values.data(), kActions, kHands);
-       },
-       [](Row& out) {
-         for (std::size_t h = 0; h < kHands; ++h) {
-           double sum = 0;
-           for (std::size_t a = 0; a < kActions; ++a) {
-             sum += double{strategy[a * kHands + h]} * double{values[a * kHands + h]};
-           }
-           out[h] = static_cast<float>(sum);
-         }
-       }},
-      {"best_values",
-       [](Row& out) { velmora::best_values(out.data(), values.data(), kActions, kHands); },
-       [](Row& out) {
-         for (std::size_t h = 0; h < kHands; ++h) {
-           out[h] = std::max({values[h], values[kHands + h], values[2 * kHands + h]});
-         }
-       }},
-  };
+class Kernels : public testing::TestWithParam<velmora::InstructionSet> {
+ protected:
+  void SetUp() override { velmora::use_instruction_set(GetParam()); }
+  void TearDown() override { velmora::use_instruction_set(strongest_); }
+
+ private:
+  velmora::InstructionSet strongest_ = velmora::instruction_set();
+};
+
+TEST_P(Kernels, LearnTheSameInOneStepAndInMany) {
+  for (std::size_t A = 1; A <= kMostActions; ++A) {
+    SCOPED_TRACE(A);
+    const NodeRows node(A);
+    Row result(kHands), sums = node.sums, regrets = node.regrets;
+    plain::weighted_action_sum(result.data(), node.strategy.data(), node.values.data(), A, kHands,
+                               kHands);
+    plain::update_strategy_sum(sums.data(), node.strategy.data(), 0.3F, A * kHands);
+    plain::update_regrets(regrets.data(), node.values.data(), result.data(), A, kHands, kHands,
+                          0.7F, 0.5F);
+
+    Row strategy(A * kHands), denominators(kHands), own(kHands);
+    Row own_sums = node.sums, own_regrets = node.regrets;
+    velmora::regret_match(strategy.data(), denominators.data(), own_regrets.data(), A, kHands);
+    velmora::weighted_action_sum(own.data(), strategy.data(), node.rows.data(), A, kHands);
+    velmora::update_strategy_sum(own_sums.data(), strategy.data(), 0.3F, A * kHands);
+    velmora::update_regrets(own_regrets.data(), node.rows.data(), own.data(), A, kHands, 0.7F,
+                            0.5F);
+    EXPECT_EQ(strategy, node.strategy);
+    EXPECT_EQ(denominators, node.denominators);
+    EXPECT_EQ(own, result);
+    EXPECT_EQ(own_sums, sums);
+    EXPECT_EQ(own_regrets, regrets);
+
+    if (!velmora::has_fused_kernels(A)) continue;
+    own_sums = node.sums;
+    own_regrets = node.regrets;
+    velmora::learn_fused(own.data(), own_regrets.data(), own_sums.data(), node.rows.data(), A,
+                         kHands, 0.7F, 0.5F, 0.3F);
+    EXPECT_EQ(own, result);
+    EXPECT_EQ(own_sums, sums);
+    EXPECT_EQ(own_regrets, regrets);
+  }
 }
 
-TEST(Kernels, GiveTheSameNumbersOnEveryInstructionSet) {
-  const velmora::InstructionSet strongest = velmora::instruction_set();
-  for (const velmora::InstructionSet set : velmora::supported_instruction_sets()) {
-    velmora::use_instruction_set(set);
-    for (const Kernel& kernel : kernels()) {
-      Row result(kHands, 0.25F);
-      Row reference(kHands, 0.25F);
-      kernel.run(result);
-      kernel.reference(reference);
-      EXPECT_EQ(result, reference) << kernel.name << " on " << velmora::instruction_set_name(set);
+TEST_P(Kernels, SplitReachAndTellWhatLives) {
+  for (std::size_t A = 1; A <= kMostActions; ++A) {
+    SCOPED_TRACE(A);
+    NodeRows node(A);
+    // The last action is never taken in one table and by one hand only in the other.
+    std::fill(node.regrets.end() - kHands, node.regrets.end(), -1.0F);
+    std::fill(node.sums.end() - kHands, node.sums.end(), 0.0F);
+    for (std::size_t h = 0; A > 1 && h < kHands; ++h) node.regrets[h] = node.sums[h] = 1.0F;
+    node.sums.back() = node.reach.back() = 1.0F;
+    Row average(A * kHands), expected(A * kHands), out(A * kHands), strategy(A * kHands);
+    plain::regret_match(node.strategy.data(), node.denominators.data(), node.regrets.data(), A,
+                        kHands, kHands);
+    plain::average_strategy(average.data(), node.sums.data(), A, kHands, kHands);
+    velmora::average_strategy_rows(strategy.data(), node.sums.data(), A, kHands);
+    EXPECT_EQ(strategy, average);
+
+    for (const bool averages : {false, true}) {
+      const Row& from = averages ? average : node.strategy;
+      for (std::size_t a = 0; a < A; ++a) {
+        plain::row_multiply(&expected[a * kHands], &from[a * kHands], node.reach.data(), kHands);
+      }
+      bool live[kMostActions];
+      const auto check = [&] {
+        EXPECT_EQ(out, expected);
+        for (std::size_t a = 0; a < A; ++a) {
+          const auto row = expected.begin() + static_cast<std::ptrdiff_t>(a * kHands);
+          EXPECT_EQ(live[a], std::any_of(row, row + kHands, [](float x) { return x != 0; })) << a;
+        }
+      };
+      velmora::split_rows(out.data(), live, from.data(), node.reach.data(), A, kHands);
+      check();
+      if (!velmora::has_fused_kernels(A)) continue;
+      std::fill(out.begin(), out.end(), 9.0F);
+      if (averages) {
+        velmora::split_average_fused(out.data(), live, node.sums.data(), node.reach.data(), A,
+                                     kHands);
+      } else {
+        velmora::split_reach_fused(out.data(), live, node.regrets.data(), node.reach.data(), A,
+                                   kHands);
+      }
+      check();
     }
   }
-  velmora::use_instruction_set(strongest);
 }
+
+TEST_P(Kernels, SumAndRespond) {
+  for (std::size_t A = 1; A <= kMostActions; ++A) {
+    SCOPED_TRACE(A);
+    const NodeRows node(A);
+    Row expected(kHands), out(kHands), average(A * kHands);
+    plain::sum_actions(expected.data(), node.values.data(), A, kHands, kHands);
+    velmora::sum_actions(out.data(), node.rows.data(), A, kHands);
+    EXPECT_EQ(out, expected);
+    plain::best_values(expected.data(), node.values.data(), nullptr, A, kHands, kHands);
+    velmora::best_values(out.data(), node.rows.data(), A, kHands);
+    EXPECT_EQ(out, expected);
+    plain::average_strategy(average.data(), node.sums.data(), A, kHands, kHands);
+    plain::expected_values(expected.data(), average.data(), node.values.data(), A, kHands, kHands);
+    velmora::expected_values(out.data(), average.data(), node.rows.data(), A, kHands);
+    EXPECT_EQ(out, expected);
+    if (!velmora::has_fused_kernels(A)) continue;
+    velmora::average_values_fused(out.data(), node.sums.data(), node.rows.data(), A, kHands);
+    EXPECT_EQ(out, expected);
+  }
+}
+
+TEST_P(Kernels, ScaleAndAddRows) {
+  const NodeRows node(3);
+  Row expected = node.reach, out = node.reach;
+  for (std::size_t a = 0; a < 3; ++a) plain::add_row(expected.data(), node.rows[a], kHands);
+  velmora::add_rows(out.data(), node.values.data(), 3, kHands);
+  EXPECT_EQ(out, expected);
+  plain::scale_row(expected.data(), node.reach.data(), 0.1F, kHands);
+  velmora::scale_row(out.data(), node.reach.data(), 0.1F, kHands);
+  EXPECT_EQ(out, expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    InstructionSets, Kernels, testing::ValuesIn(velmora::supported_instruction_sets()),
+    [](const auto& set) { return std::string(velmora::instruction_set_name(set.param)); });
 
 TEST(CompressedStorage, RoundsToTheNearestStepOfTheGreatestMagnitude) {
   // Four hands, so that half of each row is padding; the padding's value must not set the scale.

@@ -1,7 +1,6 @@
 // Payoffs of terminal nodes, hand against hand.
-#include "terminal_payoff.h"
-
 #include <algorithm>
+#include <bit>
 #include <random>
 #include <vector>
 
@@ -9,8 +8,12 @@
 #include <gtest/gtest.h>
 
 #include "hand_eval.h"
-#include "river_payoffs.h"
+#include "instruction_set.h"
+#include "payoff_lanes.h"
+#include "plain_kernels.h"
+#include "rows.h"
 #include "spots.h"
+#include "street_shape.h"
 
 namespace {
 
@@ -40,6 +43,41 @@ std::vector<float> random_reach(std::size_t n, unsigned seed) {
   std::vector<float> reach(n);
   for (float& r : reach) r = random() % 4 == 0 ? 0.0F : value(random) * value(random);
   return reach;
+}
+
+/// Several reaches at one terminal node, in one call.
+std::vector<std::vector<float>> evaluate(const velmora::Game& game, const PlanNode& node, Seat seat,
+                                         const std::vector<std::vector<float>>& reaches) {
+  const velmora::StreetShape::Node shape = velmora::shape_node(game, node);
+  const std::size_t opp_row = velmora::padded(game.num_hands(velmora::opponent_of(seat)));
+  const std::size_t own_row = velmora::padded(game.num_hands(seat));
+  velmora::FloatList reach_rows;
+  velmora::FloatList result_rows;
+  float* const reach = reach_rows.rows(reaches.size(), opp_row);
+  float* const results = result_rows.rows(reaches.size(), own_row);
+  std::fill_n(results, reaches.size() * own_row, 99.0F);
+  std::vector<velmora::PayoffLane> lanes;
+  for (std::size_t i = 0; i < reaches.size(); ++i) {
+    std::copy(reaches[i].begin(), reaches[i].end(), reach + i * opp_row);
+    lanes.push_back({reach + i * opp_row, results + i * own_row, shape.shares[seat]});
+  }
+  velmora::ScratchStack scratch;
+  velmora::MemoryAhead ahead;
+  const velmora::PayoffSeat payoff_seat{game.cards(), seat};
+  if (shape.kind == velmora::StreetShape::Kind::kFold) {
+    fold_payoff(payoff_seat, node.turn, node.river, lanes, scratch, ahead);
+  } else if (shape.kind == velmora::StreetShape::Kind::kAllIn) {
+    runout_payoff(payoff_seat, node.turn, shape.raked, lanes, scratch);
+  } else if (shape.raked) {
+    showdown_payoff_raked(payoff_seat, node.turn, node.river, lanes, scratch, ahead);
+  } else {
+    showdown_payoff(payoff_seat, node.turn, node.river, lanes, scratch, ahead);
+  }
+  std::vector<std::vector<float>> values;
+  for (std::size_t i = 0; i < reaches.size(); ++i) {
+    values.emplace_back(results + i * own_row, results + i * own_row + game.num_hands(seat));
+  }
+  return values;
 }
 
 /// Chips that `own` gains against `opp` at a complete board; 0 where cards collide.
@@ -98,8 +136,7 @@ TEST(TerminalPayoff, MatchesPairByPair) {
       const auto& own = cards.pockets(seat);
       const auto& opp = cards.pockets(velmora::opponent_of(seat));
       const std::vector<float> reach = random_reach(opp.size(), 7U + seat);
-      std::vector<float> result(own.size(), 99.0F);
-      velmora::terminal_payoff(*game, node, seat, reach, result);
+      const std::vector<float> result = evaluate(*game, node, seat, {reach}).front();
       for (std::size_t h = 0; h < own.size(); ++h) {
         double expected = 0;
         for (std::size_t o = 0; o < opp.size(); ++o) {
@@ -122,25 +159,59 @@ TEST(TerminalPayoff, MatchesPairByPair) {
   }
 }
 
-TEST(TerminalPayoff, LeavesZerosWhereNothingFits) {
-  const auto game = make_game(spot_on("Ah9s5d3c2s"));
-  PlanNode node;
-  node.kind = velmora::NodeKind::kTerminal;
-  node.turn = game->cards().board().turn;
-  node.river = game->cards().board().river;
-  node.pot = 100;
-  node.last_action = velmora::ActionKind::kCheck;
-  std::vector<float> result(game->num_hands(kOop), 5.0F);
-  const std::vector<float> no_reach(game->num_hands(kIp), 0.0F);
-  const std::vector<float> short_reach(2, 1.0F);
-  for (const auto& reach : {no_reach, short_reach}) {
-    std::fill(result.begin(), result.end(), 5.0F);
-    velmora::terminal_payoff(*game, node, kOop, reach, result);
-    EXPECT_THAT(result, testing::Each(0.0F));
+/// Bits, so that a zero of the other sign counts as different.
+std::vector<std::uint32_t> bits(const std::vector<float>& row) {
+  std::vector<std::uint32_t> result;
+  for (const float x : row) result.push_back(std::bit_cast<std::uint32_t>(x));
+  return result;
+}
+
+TEST(TerminalPayoff, ManyNodesTogetherGiveTheBitsOfEachAlone) {
+  const velmora::InstructionSet strongest = velmora::instruction_set();
+  for (const char* board : {"Ah9s5d3c2s", "QhQsQdQc2s", "Ah9s5d3c", "Ah9s5d"}) {
+    for (const double cap : {0.0, 4.0}) {
+      Spot spot = spot_on(board);
+      spot.oop_range += ",88-22,K9s+,QTs+,Q9o";
+      spot.rake_fraction = 0.05;
+      spot.rake_cap = cap;
+      const auto game = make_game(spot);
+      for (const auto last : {velmora::ActionKind::kFold, velmora::ActionKind::kCall}) {
+        PlanNode node;
+        node.kind = velmora::NodeKind::kTerminal;
+        node.turn = game->cards().board().turn;
+        node.river = game->cards().board().river;
+        node.commit = 30;
+        node.pot = 160;
+        node.last_action = last;
+        for (const Seat seat : {kOop, kIp}) {
+          // Dense, sparse, empty, alive in one hand only; as many as fill batches in every way.
+          std::vector<std::vector<float>> reaches;
+          const std::size_t hands = game->num_hands(velmora::opponent_of(seat));
+          for (unsigned i = 0; i < 21; ++i) {
+            reaches.push_back(random_reach(hands, i));
+            if (i % 5 == 3) std::fill(reaches[i].begin(), reaches[i].end(), 0.0F);
+            if (i % 5 >= 3) reaches[i][i % hands] = i % 2 ? 0.0F : 0.3F;
+          }
+          for (const auto set : velmora::supported_instruction_sets()) {
+            velmora::use_instruction_set(set);
+            for (const std::size_t count : {1U, 4U, 5U, 8U, 21U}) {
+              const std::vector<std::vector<float>> some(reaches.begin(), reaches.begin() + count);
+              const auto values = evaluate(*game, node, seat, some);
+              for (std::size_t i = 0; i < count; ++i) {
+                std::vector<float> expected(game->num_hands(seat));
+                velmora_plain::terminal_payoff(*game, node, seat, reaches[i], expected);
+                ASSERT_EQ(bits(values[i]), bits(expected))
+                    << board << " cap " << cap << " seat " << int{seat} << " lane " << i << " of "
+                    << count << " on " << velmora::instruction_set_name(set)
+                    << (last == velmora::ActionKind::kFold ? " fold" : " showdown");
+              }
+            }
+          }
+          velmora::use_instruction_set(strongest);
+        }
+      }
+    }
   }
-  EXPECT_FALSE(velmora::showdown_payoff(*game, node, kOop, short_reach, result));
-  node.river = kNoCard;  // No list for a board without its river.
-  EXPECT_FALSE(velmora::showdown_payoff_raked(*game, node, kOop, no_reach, result));
 }
 
 TEST(TerminalPayoff, RakeIsCappedAndNeverUncapped) {
