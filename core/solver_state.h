@@ -66,6 +66,11 @@ class SolverState {
   void store_regrets(std::size_t node, const float* regrets);
   void store_strategy_sums(std::size_t node, const float* sums);
 
+  /// Asks for the records of `count` nodes.
+  void fetch_nodes(std::size_t first, std::size_t count) const {
+    const char* const begin = reinterpret_cast<const char*>(nodes_.data() + first);
+    for (std::size_t i = 0; i < count * sizeof(NodeState); i += 64) __builtin_prefetch(begin + i);
+  }
   /// Lists the regrets or the strategy sums of one seat's nodes from `first` to `last`.
   void list_regrets(std::size_t first, std::size_t last, MemoryAhead& ahead) const;
   void list_strategy_sums(std::size_t first, std::size_t last, MemoryAhead& ahead) const;

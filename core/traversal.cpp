@@ -124,6 +124,9 @@ void Traversal::walk(std::span<const Line> lines, std::span<const Line> next,
   std::size_t size = 0;
   for (const Line& line : lines) size += line.shape->nodes.size();
   Slot* const slots = worker.scratch.take<Slot>(size);
+  for (const Line& line : next) {
+    if (line.shape->river) states_.fetch_nodes(line.root, line.shape->nodes.size());
+  }
 
   Slot* first = slots;
   for (const Line& line : lines) {
