@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Velmora
 import "../logic/card_names.js" as CardNames
@@ -40,26 +42,32 @@ Rectangle {
         sizeScale: root.sizeScale
     }
 
-    Text {
-        visible: !root.mini
-        anchors.centerIn: parent
-        text: CardNames.suitGlyph(root.suit)
-        color: root.ink
-        font.family: root.theme.uiFamily
-        font.pixelSize: 28 * root.sizeScale
-    }
+    Repeater {
+        model: root.mini ? 0 : 1
 
-    CardCorner {
-        visible: !root.mini
-        anchors.right: parent.right
-        anchors.bottom: parent.bottom
-        anchors.rightMargin: 4 * root.sizeScale
-        anchors.bottomMargin: 3 * root.sizeScale
-        rotation: 180
-        theme: root.theme
-        rank: root.rank
-        suit: root.suit
-        ink: root.ink
-        sizeScale: root.sizeScale
+        Item {
+            anchors.fill: root
+
+            Text {
+                anchors.centerIn: parent
+                text: CardNames.suitGlyph(root.suit)
+                color: root.ink
+                font.family: root.theme.uiFamily
+                font.pixelSize: 28 * root.sizeScale
+            }
+
+            CardCorner {
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                anchors.rightMargin: 4 * root.sizeScale
+                anchors.bottomMargin: 3 * root.sizeScale
+                rotation: 180
+                theme: root.theme
+                rank: root.rank
+                suit: root.suit
+                ink: root.ink
+                sizeScale: root.sizeScale
+            }
+        }
     }
 }

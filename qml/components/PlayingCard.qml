@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Velmora
 import "../logic/card_names.js" as CardNames
@@ -54,14 +56,9 @@ Item {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
-    Shadow {
-        z: -1
-        anchors.fill: parent
+    CardShadow {
         visible: root.faceUp
-        opacity: root.theme.shadowOpacity
-        radius: root.theme.radiusSm
-        blur: 0.125
-        verticalOffset: 2
+        theme: root.theme
     }
 
     CardFace {
@@ -75,28 +72,35 @@ Item {
         sizeScale: root._scale
     }
 
-    CardBack {
-        anchors.fill: parent
-        visible: root.faceDown
-        theme: root.theme
+    // Most cards never show another side than their face, and a list has dozens of them.
+    Repeater {
+        model: root.faceDown ? 1 : 0
+
+        CardBack {
+            anchors.fill: root
+            theme: root.theme
+        }
     }
 
-    Rectangle {
-        anchors.fill: parent
-        visible: root.empty
-        color: "transparent"
-        opacity: 0.5
-        radius: root.theme.radiusSm
-        border.color: root.theme.stroke
-        border.width: 2
+    Repeater {
+        model: root.empty ? 1 : 0
 
-        Text {
-            anchors.centerIn: parent
-            visible: !root.mini
-            text: qsTr("?")
-            color: root.theme.textMuted
-            font.family: root.theme.uiFamily
-            font.pixelSize: 18 * root._scale
+        Rectangle {
+            anchors.fill: root
+            color: "transparent"
+            opacity: 0.5
+            radius: root.theme.radiusSm
+            border.color: root.theme.stroke
+            border.width: 2
+
+            Text {
+                anchors.centerIn: parent
+                visible: !root.mini
+                text: qsTr("?")
+                color: root.theme.textMuted
+                font.family: root.theme.uiFamily
+                font.pixelSize: 18 * root._scale
+            }
         }
     }
 

@@ -12,6 +12,7 @@
 
 #include "app_controller.h"
 #include "language_manager.h"
+#include "turn_clock.h"
 #include "update_manager.h"
 
 /// Readies each engine as the entry of the program does.
@@ -36,10 +37,13 @@ class Setup : public QObject {
     engine->rootContext()->setContextProperty("updates", updates_.get());
     controller_ = std::make_unique<AppController>();
     engine->rootContext()->setContextProperty("appController", controller_.get());
+    turnClock_ = std::make_unique<TurnClock>();
+    engine->rootContext()->setContextProperty("turnClock", turnClock_.get());
     engine->rootContext()->setContextProperty("testFolder", QUrl::fromLocalFile(folder_));
   }
 
   void cleanupTestCase() {
+    turnClock_.reset();
     controller_.reset();
     updates_.reset();
     languageManager_.reset();
@@ -50,6 +54,7 @@ class Setup : public QObject {
   std::unique_ptr<LanguageManager> languageManager_;
   std::unique_ptr<UpdateManager> updates_;
   std::unique_ptr<AppController> controller_;
+  std::unique_ptr<TurnClock> turnClock_;
 };
 
 int main(int argc, char* argv[]) {

@@ -12,7 +12,18 @@ Card {
     property Typography type: Fallback.type
     required property NodeView view
 
+    /// What the rows show: both change at once.
+    property var _rows: ({ buckets: [], actions: [] })
+
     padding: theme.spaceMd
+
+    Binding {
+        target: root
+        property: "_rows"
+        value: ({ buckets: root.view.buckets, actions: root.view.currentActions })
+        when: !root.view.loading
+        restoreMode: Binding.RestoreNone
+    }
 
     ColumnLayout {
         anchors.fill: parent
@@ -42,7 +53,7 @@ Card {
             Layout.fillHeight: true
             theme: root.theme
             currentIndex: -1
-            rowCount: root.view.buckets.length
+            rowCount: root._rows.buckets.length
             Accessible.name: qsTr("Buckets")
             Keys.onSpacePressed: root.view.toggleBucketFilter(root.view.buckets[currentIndex]?.name ?? "")
             Keys.onReturnPressed: root.view.toggleBucketFilter(root.view.buckets[currentIndex]?.name ?? "")
@@ -53,9 +64,9 @@ Card {
                 width: list.width
                 theme: root.theme
                 type: root.type
-                bucket: root.view.buckets[index]
-                actions: root.view.currentActions
-                selected: root.view.selectedBucket !== "" && root.view.selectedBucket === bucket.name
+                bucket: root._rows.buckets[index]
+                actions: root._rows.actions
+                selected: root.view.selectedBucket !== "" && root.view.selectedBucket === bucket?.name
                 focused: list.activeFocus && list.currentIndex === index
                 onChosen: root.view.toggleBucketFilter(bucket.name)
             }

@@ -12,11 +12,24 @@ Card {
     property Typography type: Fallback.type
     required property NodeView view
 
-    readonly property string _note: view._handCombosLoading || view.loading ? qsTr("Loading hand combos…")
+    readonly property bool _pending: view._handCombosLoading || view.loading
+    readonly property string _note: _pending ? qsTr("Loading hand combos…")
         : view._loadedHandCombos.length === 0 ? qsTr("No hand combos to display for this node.")
         : view.visibleHandCombos.length === 0 ? qsTr("No combos match the current filters.") : ""
+    /// What the rows show. They keep it while the combos of the next node are on their way, and wait
+    /// unseen: new figures in the rows that are there are quick, new rows are not.
+    property var _rows: ({ combos: [], actions: [] })
 
     padding: theme.spaceMd
+    on_PendingChanged: list.showTop()
+
+    Binding {
+        target: root
+        property: "_rows"
+        value: ({ combos: root.view.visibleHandCombos, actions: root.view.currentActions })
+        when: root._note === ""
+        restoreMode: Binding.RestoreNone
+    }
 
     ColumnLayout {
         anchors.fill: parent
@@ -76,10 +89,18 @@ Card {
         RowListView {
             id: list
 
+            function showTop() {
+                currentIndex = 0
+                positionViewAtBeginning()
+            }
+
             Layout.fillWidth: true
             Layout.fillHeight: true
             theme: root.theme
-            rowCount: root.view.loading ? 0 : root.view.visibleHandCombos.length
+            // Not hidden, which would take its place in the layout.
+            opacity: root._note === "" ? 1 : 0
+            enabled: root._note === ""
+            rowCount: root._rows.combos.length
             Accessible.name: qsTr("Hand Details")
 
             delegate: ComboRow {
@@ -88,8 +109,8 @@ Card {
                 width: list.width
                 theme: root.theme
                 type: root.type
-                combo: root.view.visibleHandCombos[index]
-                actions: root.view.currentActions
+                combo: root._rows.combos[index]
+                actions: root._rows.actions
             }
         }
     }

@@ -50,7 +50,8 @@ Rectangle {
             spacing: root.theme.spaceXs
 
             Repeater {
-                model: root.lockable ? root.actions.length : 0
+                // None while the panel is hidden: each step of a walk would make them anew.
+                model: root.locks.nodeLockMode && root.lockable ? root.actions.length : 0
 
                 SmallButton {
                     required property int index

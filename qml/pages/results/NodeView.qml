@@ -92,25 +92,29 @@ QtObject {
     function look() {
         if (paused)
             return
-        selectedHandClass = ""
-        selectedBucket = ""
-        handSearchText = ""
+        // First, so that the views keep still while the filters go.
+        loading = true
         _combosTimer.stop()
         _handCombosLoading = true
         _loadedHandCombos = []
+        selectedHandClass = ""
+        selectedBucket = ""
+        handSearchText = ""
         if (controller.treeNodeCount() === 0) {
             _showAnswers()
             return
         }
-        loading = true
         _waitTimer.restart()
         controller.prepareNodeAnswers(node)
     }
 
     /// Runs again at a change of the node, the category filter, the locks and at new results.
     function refreshHandMatrix() {
-        if (loading)
-            return
+        if (!loading)
+            _fillGrid()
+    }
+
+    function _fillGrid() {
         const strategy = controller.nodeHandStrategy(node)
         // The actions are asked for here: a binding may still hold those of the node before.
         const definitions = _definitions()
@@ -148,13 +152,13 @@ QtObject {
     }
 
     function _showAnswers() {
-        loading = false
         _waitTimer.stop()
         waiting = false
         currentActions = isChance ? [_chanceAction()] : _definitions()
-        refreshHandMatrix()
+        _fillGrid()
         buckets = controller.nodeHandBuckets(node)
         _scheduleHandCombosLoad()
+        loading = false
     }
 
     function _scheduleHandCombosLoad() {

@@ -96,33 +96,36 @@ Column {
         }
     }
 
-    Column {
-        width: parent.width
-        visible: root.chance
-        spacing: root.theme.spaceXs
+    Repeater {
+        model: root.chance ? 1 : 0
 
-        Rectangle {
-            width: parent.width
-            height: 1
-            color: root.theme.stroke
-        }
-
-        TreeNode {
+        Column {
             width: root.width
-            theme: root.theme
-            nodeType: "chance"
-            player: qsTr("Deal %1").arg(root.meta.chanceDeal === "river" ? qsTr("River") : qsTr("Turn"))
-            action: root.decided ? root.walk.chosenNameAt(root.index) : ""
-            actionType: "chance"
-            pot: root.meta.pot ?? 0
-            selected: root.last
-            onClicked: root.chooseCard()
-        }
+            spacing: root.theme.spaceXs
 
-        Rectangle {
-            width: parent.width
-            height: 1
-            color: root.theme.stroke
+            Rectangle {
+                width: parent.width
+                height: 1
+                color: root.theme.stroke
+            }
+
+            TreeNode {
+                width: root.width
+                theme: root.theme
+                nodeType: "chance"
+                player: qsTr("Deal %1").arg(root.meta.chanceDeal === "river" ? qsTr("River") : qsTr("Turn"))
+                action: root.decided ? root.walk.chosenNameAt(root.index) : ""
+                actionType: "chance"
+                pot: root.meta.pot ?? 0
+                selected: root.last
+                onClicked: root.chooseCard()
+            }
+
+            Rectangle {
+                width: parent.width
+                height: 1
+                color: root.theme.stroke
+            }
         }
     }
 }
