@@ -4,7 +4,8 @@
 
 install_missing xvfb xauth xdotool imagemagick x11-utils
 
-home=$(mktemp -d)
+# HOME_PARENT is the folder in which the program's home is made, if not that for temporary files.
+home=$(mktemp -d -p "${HOME_PARENT:-${TMPDIR:-/tmp}}")
 server='' app=''
 
 # start_program PROGRAM WIDTHxHEIGHT dark|light [FILE]: on a screen just as large as the window shall
@@ -21,8 +22,9 @@ start_program() {
   env XDG_CONFIG_HOME="$home/config" XDG_CACHE_HOME="$home/cache" TMPDIR="$home/tmp" \
     "$program" "${@:4}" &
   app=$!
-  for _ in {1..100}; do
+  for _ in {1..300}; do
     xdotool search --onlyvisible --name '^Dunmarrow$' >/dev/null 2>&1 && break
+    kill -0 "$app" 2>/dev/null || die "the program has ended"
     sleep 0.2
   done
   sleep 2
