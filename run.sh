@@ -4,7 +4,7 @@ set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")"
 source tools/setup.sh
 
-install_missing "${build_packages[@]}"
+install_build_packages
 build_preset release dunmarrow dunmarrow-cli
 
 if [[ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]]; then

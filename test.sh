@@ -4,7 +4,7 @@ set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")"
 source tools/setup.sh
 
-install_missing "${build_packages[@]}" "${test_packages[@]}"
+install_build_packages "${test_packages[@]}"
 build_preset dev
 
 # No test may see or write what belongs to the user.

@@ -1,4 +1,7 @@
 // Entry of the desktop program.
+#include <cstdio>
+#include <optional>
+
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
@@ -9,15 +12,40 @@
 #include <QQmlError>
 #include <QQuickStyle>
 #include <QStandardPaths>
+#include <QStringList>
 #include <QUrl>
 
 #include "app_controller.h"
+#include "command_line.h"
 #include "crash_lines.h"
 #include "language_manager.h"
 #include "logging.h"
 #include "update_manager.h"
 
 namespace {
+
+constexpr int kWrongUse = 2;
+
+void print(std::FILE* stream, const QString& text) {
+  std::fputs(text.toLocal8Bit().constData(), stream);
+}
+
+/// The exit code, if the line asks for something that takes no window and so no display either.
+std::optional<int> answerWithoutWindow(int argc, char* argv[]) {
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments += QString::fromLocal8Bit(argv[i]);
+  const CommandLine line = readCommandLine(arguments, QDir::currentPath());
+  if (line.help) {
+    const QCoreApplication app(argc, argv);
+    print(stdout, commandLineHelp());
+    return 0;
+  }
+  if (line.version) {
+    print(stdout, "dunmarrow " DUNMARROW_VERSION "\n");
+    return 0;
+  }
+  return std::nullopt;
+}
 
 /// Log lines from before a log file is open.
 void writeStartLine(const char* message) {
@@ -36,12 +64,21 @@ void logStart(const LogPaths& paths) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  if (const std::optional<int> exitCode = answerWithoutWindow(argc, argv)) return *exitCode;
+
   QQuickStyle::setStyle("Basic");
   QGuiApplication app(argc, argv);
+  const CommandLine commandLine =
+      readCommandLine(QCoreApplication::arguments(), QDir::currentPath());
+  if (!commandLine.error.isEmpty()) {
+    print(stderr, "dunmarrow: " + commandLine.error + "\n\n" + commandLineHelp());
+    return kWrongUse;
+  }
   QGuiApplication::setWindowIcon(QIcon(":/Velmora/qml/assets/Dunmarrow_logo.png"));
   QCoreApplication::setOrganizationName("Dunmarrow");
   QCoreApplication::setApplicationName("Dunmarrow");
-  QCoreApplication::setApplicationVersion("1.0.1");
+  QCoreApplication::setApplicationVersion(DUNMARROW_VERSION);
+  QGuiApplication::setDesktopFileName("dunmarrow");
 
   const LogPaths paths =
       logPaths(QCoreApplication::applicationDirPath(),
@@ -85,6 +122,8 @@ int main(int argc, char* argv[]) {
     return -1;
   }
   qInfo().noquote().nospace() << "QML loaded. rootObjects=" << engine.rootObjects().size();
+  // As if chosen by "Open File": the Home page shows the project, or why there is none.
+  if (!commandLine.project.isEmpty()) appController.loadProjectInBackground(commandLine.project);
   const int exitCode = QGuiApplication::exec();
   // The windows go first: they look at the controller, which goes before the engine.
   qDeleteAll(engine.rootObjects());

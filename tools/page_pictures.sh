@@ -17,46 +17,16 @@ program=${2:-build/release/app/dunmarrow}
 read -ra sizes <<<"${SIZES:-1540x1200 1366x768 1100x700}"
 read -ra modes <<<"${MODES:-dark light}"
 
-install_missing xvfb xauth xdotool imagemagick x11-utils
 [[ -x $program ]] || die "no program at $program; ./run.sh builds it"
+source tools/display.sh
 mkdir -p "$out"
 
-home=$(mktemp -d)
-server= app=
-stop() {
-  [[ -z $app ]] || kill "$app" 2>/dev/null || true
-  [[ -z $server ]] || kill "$server" 2>/dev/null || true
-  wait
-  app= server=
-}
-trap 'stop; rm -rf -- "$home"' EXIT
-
-picture() { sleep "${2:-0.8}"; import -window root "$out/$1-$mode-$size.png"; }
-click() { xdotool mousemove "$1" "$2" click 1; }
-
-# Starts the program on a screen that is just as large as its window shall be.
-start() {
-  exec 3< <(exec Xvfb -displayfd 1 -screen 0 "${size}x24" -nolisten tcp 2>/dev/null)
-  server=$!
-  read -r display <&3
-  export DISPLAY=":$display"
-  mkdir -p "$home/config/Dunmarrow" "$home/tmp"
-  printf '[ui]\ndarkMode=%s\nlanguage=%s\n' "$([[ $mode == dark ]] && echo true || echo false)" \
-    "${UI_LANGUAGE:-en}" >"$home/config/Dunmarrow/Dunmarrow.conf"
-  env XDG_CONFIG_HOME="$home/config" TMPDIR="$home/tmp" "$program" &
-  app=$!
-  for _ in {1..100}; do
-    xdotool search --onlyvisible --name '^Dunmarrow$' >/dev/null 2>&1 && break
-    sleep 0.2
-  done
-  sleep 1
-  xdotool search --onlyvisible --name '^Dunmarrow$' windowfocus
-}
+picture() { take_picture "$out/$1-$mode-$size.png" "${2:-}"; }
 
 for size in "${sizes[@]}"; do
   for mode in "${modes[@]}"; do
     say "$size, $mode"
-    start
+    start_program "$program" "$size" "$mode"
     picture home
     xdotool key ctrl+comma
     picture settings
@@ -76,12 +46,12 @@ for size in "${sizes[@]}"; do
     xdotool key F5
     picture solving 12
     if [[ -n ${SOLVE:-} ]]; then
-      until grep -q 'UI emitted resultsChanged' <(tail -n 3 "$home/tmp/dunmarrow.log"); do sleep 1; done
+      wait_for_result
       picture solved
       xdotool key ctrl+4
       picture results
     fi
-    stop
+    stop_program
   done
 done
 say "Pictures in $out"

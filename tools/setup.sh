@@ -15,6 +15,7 @@ build_packages=(
   libqt6svg6
   libgl1-mesa-dev
   libgl1-mesa-dri
+  librsvg2-bin
   qml6-module-qtquick
   qml6-module-qtquick-window
   qml6-module-qtquick-controls
@@ -28,13 +29,22 @@ build_packages=(
   qml6-module-qtqml-models
   qml6-module-qtqml-workerscript
 )
+# What newer releases have split off; installed where the system knows it.
+split_off_packages=(
+  qt6-svg-plugins
+  qml6-module-qtquick-effects
+)
 # shellcheck disable=SC2034
 test_packages=(
-  libgtest-dev
-  libgmock-dev
+  appstream
+  desktop-file-utils
   libbenchmark-dev
+  libgmock-dev
+  libgtest-dev
   locales
+  man-db
   qml6-module-qttest
+  shared-mime-info
 )
 
 say() { printf '%s\n' "$*" >&2; }
@@ -76,6 +86,17 @@ install_missing() {
   as_root apt-get update >&2
   as_root env DEBIAN_FRONTEND=noninteractive \
     apt-get install --yes --no-install-recommends "${missing[@]}" >&2 </dev/null
+}
+
+# install_build_packages [PACKAGE...]: what a build takes, and what is named.
+install_build_packages() {
+  install_missing "${build_packages[@]}" "$@"
+  local known=()
+  local package
+  for package in "${split_off_packages[@]}"; do
+    if apt-cache show "$package" &>/dev/null; then known+=("$package"); fi
+  done
+  install_missing "${known[@]}"
 }
 
 # build_preset PRESET [TARGET...]: configures and builds in build/PRESET; all targets if none given.

@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -25,10 +26,11 @@ class Program : public ::testing::Test {
     program_.setWorkingDirectory(dir_.path());
   }
 
-  void startAndWaitForWindow() {
-    program_.start(dir_.filePath("app/dunmarrow"), QStringList());
+  void startAndWaitForWindow() { startAndWaitFor({}, "QML loaded."); }
+  void startAndWaitFor(const QStringList& arguments, const QByteArray& message) {
+    program_.start(dir_.filePath("app/dunmarrow"), arguments);
     ASSERT_TRUE(program_.waitForStarted());
-    ASSERT_TRUE(waitUntil([&] { return bytesOf(tempLog()).contains("QML loaded."); }))
+    ASSERT_TRUE(waitUntil([&] { return bytesOf(tempLog()).contains(message); }))
         << bytesOf(tempLog()).toStdString() << program_.readAllStandardError().toStdString();
   }
   void killBy(int signal) {
@@ -63,10 +65,10 @@ TEST_F(Program, WritesItsLifeIntoBothLogs) {
       time + "\\[INFO\\] log_appDir=" + quoted(appDirLog()) + "\n" +              //
       time + "\\[INFO\\] log_temp=" + quoted(tempLog()) + "\n" +                  //
       time + "\\[INFO\\] QuickControlsStyle=Basic\n" +                            //
-      time + "\\[INFO\\] Language set to system [^\n]*\n" +                     //
+      time + "\\[INFO\\] Language set to system [^\n]*\n" +                       //
       time + "\\[INFO\\] \\[devtools\\] compiled_in=1 [^\n]*\n" +                 //
-      time + "\\[INFO\\] \\[ranges\\] Loaded STANDARD presets [^\n]*\n" +          //
-      time + "\\[INFO\\] \\[ranges\\] Loaded POPULATION presets [^\n]*\n" +        //
+      time + "\\[INFO\\] \\[ranges\\] Loaded STANDARD presets [^\n]*\n" +         //
+      time + "\\[INFO\\] \\[ranges\\] Loaded POPULATION presets [^\n]*\n" +       //
       time + "\\[INFO\\] QML loaded\\. rootObjects=1\n" +                         //
       "FATAL: Vectored exception code=0xb addr=0\r\nFATAL: C signal received sig=11\r\n";
   const QString log = QString::fromUtf8(bytesOf(appDirLog()));
@@ -84,4 +86,63 @@ TEST_F(Program, RunsWhereItCannotWrite) {
   EXPECT_TRUE(log.contains("[INFO] Crash handlers installed (v2)\r\n"));
   EXPECT_TRUE(log.contains("[INFO] Starting Dunmarrow\n"));
   EXPECT_TRUE(log.endsWith("FATAL: C signal received sig=6\r\n"));
+}
+
+TEST_F(Program, OpensTheFileThatItIsGiven) {
+  ASSERT_TRUE(QDir(dir_.path()).mkdir("my spots"));
+  const QString path = dir_.filePath("my spots/50% flop.velmoraproj");
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(R"({"format": "velmora_project", "version": 1, "project": {"boardText": "AsKd7h"}})");
+  file.close();
+  const QByteArray loaded = "[INFO] Loaded project: \"" + path.toUtf8() + "\" hasResults= false\n";
+  const struct {
+    QString argument;
+    QByteArray message;
+  } cases[] = {
+      {"my spots/50% flop.velmoraproj", loaded},
+      {path, loaded},
+      {QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded), loaded},
+      {"missing.velmoraproj", "[WARN] Load failed: Failed to open file\n"},
+      {"app", "[WARN] Load failed: Failed to open file\n"},
+      {"https://dunmarrow.example/a.velmoraproj",
+       "[WARN] Load failed: Invalid/non-local file URL\n"},
+  };
+  for (const auto& [argument, message] : cases) {
+    SCOPED_TRACE(argument.toStdString());
+    QFile::remove(tempLog());
+    startAndWaitFor({argument}, message);
+    killBy(SIGKILL);
+  }
+}
+
+TEST_F(Program, AnswersInTheTerminal) {
+  const struct {
+    QStringList arguments;
+    int exitCode;
+    QByteArray out;
+    QByteArray err;
+  } cases[] = {
+      {{"--version"}, 0, "dunmarrow 1.0.1\n", ""},
+      {{"-platform", "xcb", "-v"}, 0, "dunmarrow 1.0.1\n", ""},
+      {{"--help"}, 0, "[FILE]", ""},
+      {{"-platform", "offscreen", "a", "b"}, 2, "", "Only one file can be opened at the start."},
+      {{"-platform", "offscreen", "--bench"}, 2, "", "Unknown option 'bench'."},
+  };
+  QProcessEnvironment environment = program_.processEnvironment();
+  environment.insert("QT_QPA_PLATFORM", "xcb");  // For which there is no display.
+  environment.remove("DISPLAY");
+  program_.setProcessEnvironment(environment);
+  for (const auto& [arguments, exitCode, out, err] : cases) {
+    SCOPED_TRACE(arguments.join(' ').toStdString());
+    program_.start(dir_.filePath("app/dunmarrow"), arguments);
+    ASSERT_TRUE(program_.waitForFinished());
+    EXPECT_EQ(program_.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program_.exitCode(), exitCode);
+    const QByteArray written = program_.readAllStandardOutput();
+    EXPECT_TRUE(out.isEmpty() ? written.isEmpty() : written.contains(out)) << written.toStdString();
+    const QByteArray complaint = program_.readAllStandardError();
+    EXPECT_TRUE(err.isEmpty() ? complaint.isEmpty() : complaint.contains(err))
+        << complaint.toStdString();
+  }
 }
