@@ -180,7 +180,10 @@ JsonReader::JsonReader(QIODevice& device)
 }
 
 bool JsonReader::refill() {
-  if (mark_) taken_.append(mark_, end_ - mark_);
+  if (mark_) {
+    if (taken_.size() > kMaxTakenBytes) fail("A value is too long");
+    taken_.append(mark_, end_ - mark_);
+  }
   const qint64 count = device_.read(buffer_.data(), static_cast<qint64>(buffer_.size()));
   at_ = buffer_.data();
   end_ = at_ + std::max<qint64>(count, 0);
@@ -317,6 +320,7 @@ void JsonReader::scanScalar() {
     case 'n': return expect("null");
     default: break;
   }
+  if (peek() != '-' && !isDigit(peek())) fail("No value");
   if (peek() == '-') ++at_;
   if (peek() == '0') {
     ++at_;

@@ -60,9 +60,15 @@ class JsonReader {
  public:
   /// Containers within containers, as many as `QJsonDocument` reads.
   static constexpr int kMaxDepth = 1024;
+  /// Bytes of a value or a name that is taken whole, more or less. The largest that is written is
+  /// the answer about one node, a few megabytes.
+  static constexpr qsizetype kMaxTakenBytes = 32 << 20;
 
   /// At the outermost value, which must be an object or an array.
   explicit JsonReader(QIODevice& device);
+  /// True if the next value is an object, an array.
+  bool atObject() { return peekToken() == '{'; }
+  bool atArray() { return peekToken() == '['; }
 
   /// Calls `read` with the name of each member, at its value; a value that it leaves is skipped. A
   /// value that is no object has no members.
@@ -100,6 +106,8 @@ class JsonReader {
   void finish();
   /// Bytes that were taken from the device.
   qint64 bytesRead() const { return bytesRead_; }
+  /// Where the next step begins, or where the text is at fault: bytes from the start.
+  qint64 position() const { return bytesRead_ - (end_ - at_); }
 
  private:
   /// Steps into a container of this kind, or over a value of another kind.

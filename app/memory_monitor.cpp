@@ -37,7 +37,11 @@ MemoryMonitor::Sources MemoryMonitor::systemSources() {
           [](const velmora_app::SolveConfig& config) -> quint64 {
             std::string error;
             const auto estimate = velmora_app::estimate_memory(config, error);
-            return estimate ? estimate->total_bytes : 0;
+            if (!estimate) return 0;
+            // What can't be counted doesn't fit, however little of it was counted.
+            return estimate->complete
+                       ? estimate->total_bytes
+                       : std::max(estimate->total_bytes, velmora_app::total_memory_bytes());
           }};
 }
 

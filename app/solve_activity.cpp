@@ -5,6 +5,8 @@
 #include <QSettings>
 #include <QVariantMap>
 
+#include "stored_numbers.h"
+
 namespace {
 
 constexpr int kDays = 364;  ///< 52 whole weeks.
@@ -19,9 +21,9 @@ QVariantList padding(int cells) {
 }
 
 QVariantMap cellOf(const QSettings& settings, const QDate& day, const QDate& today) {
-  const int solves = settings.value(keyOf(day, "solves"), 0).toInt();
+  const int solves = shownCount(settings, keyOf(day, "solves"));
   const auto mean = [&](const char* sum) {
-    return solves > 0 ? settings.value(keyOf(day, sum), 0).toDouble() / solves : 0.0;
+    return solves > 0 ? storedSum(settings, keyOf(day, sum)) / solves : 0.0;
   };
   return {{"isPadding", false},
           {"date", day.toString(Qt::ISODate)},
@@ -38,15 +40,14 @@ void SolveActivity::record(const QDate& day, qint64 iterations, double exploitab
   const QString solves = keyOf(day, "solves");
   const QString iterationsSum = keyOf(day, "iterationsSum");
   const QString exploitabilitySum = keyOf(day, "exploitabilitySum");
-  settings.setValue(solves, settings.value(solves, 0).toInt() + 1);
-  settings.setValue(iterationsSum, settings.value(iterationsSum, 0).toLongLong() +
-                                       std::max<qint64>(iterations, 0));
-  settings.setValue(exploitabilitySum,
-                    settings.value(exploitabilitySum, 0).toDouble() + exploitability);
+  settings.setValue(solves, storedCount(settings, solves) + 1);
+  settings.setValue(iterationsSum,
+                    storedCount(settings, iterationsSum) + std::max<qint64>(iterations, 0));
+  settings.setValue(exploitabilitySum, storedSum(settings, exploitabilitySum) + exploitability);
 }
 
 int SolveActivity::solvesOn(const QDate& day) {
-  return QSettings().value(keyOf(day, "solves"), 0).toInt();
+  return shownCount(QSettings(), keyOf(day, "solves"));
 }
 
 QVariantList SolveActivity::gridOfYear(const QDate& today) {

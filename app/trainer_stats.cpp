@@ -5,6 +5,8 @@
 
 #include <QSettings>
 
+#include "stored_numbers.h"
+
 namespace {
 
 QString totalPrefix() {
@@ -16,9 +18,9 @@ QString dayPrefix(const QDate& day) {
 }
 
 void addHand(QSettings& settings, const QString& prefix, bool isMistake, double loss) {
-  const int hands = settings.value(prefix + "hands", 0).toInt();
-  const int mistakes = settings.value(prefix + "mistakes", 0).toInt();
-  const double lossSum = settings.value(prefix + "evLossSum", 0).toDouble();
+  const qint64 hands = storedCount(settings, prefix + "hands");
+  const qint64 mistakes = storedCount(settings, prefix + "mistakes");
+  const double lossSum = storedSum(settings, prefix + "evLossSum");
   settings.setValue(prefix + "hands", hands + 1);
   settings.setValue(prefix + "mistakes", mistakes + (isMistake ? 1 : 0));
   settings.setValue(prefix + "evLossSum", lossSum + loss);
@@ -27,9 +29,9 @@ void addHand(QSettings& settings, const QString& prefix, bool isMistake, double 
 /// Adds the figures of one prefix under names that start with `scope`.
 void addFigures(QVariantMap& figures, const QString& prefix, const QString& scope) {
   const QSettings settings;
-  const int hands = settings.value(prefix + "hands", 0).toInt();
-  const int mistakes = settings.value(prefix + "mistakes", 0).toInt();
-  const double lossSum = settings.value(prefix + "evLossSum", 0).toDouble();
+  const int hands = shownCount(settings, prefix + "hands");
+  const int mistakes = shownCount(settings, prefix + "mistakes");
+  const double lossSum = storedSum(settings, prefix + "evLossSum");
   figures[scope + "Hands"] = hands;
   figures[scope + "Mistakes"] = mistakes;
   figures[scope + "AccuracyPct"] = hands > 0 ? std::max(hands - mistakes, 0) * 100.0 / hands : 0.0;

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
-#include <QJsonDocument>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QSettings>
@@ -16,6 +15,7 @@ constexpr char kCachedAtKey[] = "updates/cachedAt";
 constexpr char kDefaultManifestUrl[] = "https://updates.dunmarrow.example/downloads/latest.json";
 /// A manifest is a few hundred bytes.
 constexpr qint64 kLargestManifest = 1024 * 1024;
+constexpr int kMostRedirects = 5;
 
 QString normalizeUrl(const QString& text) {
   QString url = text.trimmed();
@@ -36,12 +36,6 @@ QString initialManifestUrl() {
 }
 
 }  // namespace
-
-QVersionNumber parseVersion(const QString& text) {
-  QString version = text.trimmed();
-  if (version.startsWith('v', Qt::CaseInsensitive)) version.remove(0, 1);
-  return QVersionNumber::fromString(version.section('+', 0, 0).section('-', 0, 0).trimmed());
-}
 
 UpdateManager::UpdateManager(QObject* parent, std::chrono::milliseconds timeLimit)
     : QObject(parent), timeLimit_(timeLimit), manifestUrl_(initialManifestUrl()) {
@@ -74,24 +68,18 @@ void UpdateManager::fail(const QString& error) {
 void UpdateManager::applyStoredManifest() {
   const QSettings settings;
   const QByteArray text = settings.value(kCachedManifestKey).toString().trimmed().toUtf8();
-  if (text.isEmpty()) return;
-  const QJsonDocument manifest = QJsonDocument::fromJson(text);
-  if (!manifest.isObject()) return;
+  const auto manifest = parseManifest(text);
+  if (!manifest) return;
   const QDateTime cachedAt = settings.value(kCachedAtKey).toDateTime();
   if (cachedAt.isValid()) lastSuccessAt_ = cachedAt;
-  applyManifest(manifest.object());
+  applyManifest(*manifest);
 }
 
-void UpdateManager::applyManifest(const QJsonObject& manifest) {
-  const QString platformUrl = manifest.value("windows_url").toString().trimmed();
-  latestVersion_ = manifest.value("version").toString().trimmed();
-  releaseNotes_ = manifest.value("notes").toString();
-  downloadUrl_ =
-      QUrl(platformUrl.isEmpty() ? manifest.value("url").toString().trimmed() : platformUrl);
-  const QVersionNumber own = parseVersion(currentVersion());
-  const QVersionNumber latest = parseVersion(latestVersion_);
-  updateAvailable_ =
-      !own.isNull() && !latest.isNull() && own < latest && downloadUrl_.isValid();
+void UpdateManager::applyManifest(const UpdateManifest& manifest) {
+  latestVersion_ = manifest.version;
+  releaseNotes_ = manifest.notes;
+  downloadUrl_ = manifest.downloadUrl;
+  updateAvailable_ = isNewer(latestVersion_, currentVersion()) && downloadUrl_.isValid();
   emit stateChanged();
 }
 
@@ -111,8 +99,13 @@ void UpdateManager::checkNow() {
   QNetworkRequest request{QUrl(url)};
   request.setHeader(QNetworkRequest::ContentTypeHeader, "application/json");
   request.setRawHeader("Accept", "application/json");
+  // Never from HTTPS to plain HTTP.
+  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                       QNetworkRequest::NoLessSafeRedirectPolicy);
+  request.setMaximumRedirectsAllowed(kMostRedirects);
   QNetworkReply* const reply = network_.get(request);
   reply_ = reply;
+  reply->setReadBufferSize(kLargestManifest + 1);  // What is beyond the limit waits outside.
   QTimer::singleShot(timeLimit_, Qt::PreciseTimer, reply, [reply] {
     if (reply->isRunning()) reply->abort();
   });
@@ -131,16 +124,15 @@ void UpdateManager::finish(QNetworkReply* reply) {
     return;
   }
   const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-  const QJsonDocument manifest = QJsonDocument::fromJson(reply->readAll());
-  if (!manifest.isObject()) {
+  const auto manifest = parseManifest(reply->readAll());
+  if (!manifest) {
     fail(tr("Invalid update response (HTTP %1).").arg(status));
     return;
   }
   lastSuccessAt_ = QDateTime::currentDateTimeUtc();
-  applyManifest(manifest.object());
+  applyManifest(*manifest);
   QSettings settings;
-  settings.setValue(kCachedManifestKey,
-                    QString::fromUtf8(manifest.toJson(QJsonDocument::Compact)));
+  settings.setValue(kCachedManifestKey, QString::fromUtf8(manifest->json));
   settings.setValue(kCachedAtKey, lastSuccessAt_);
 }
 

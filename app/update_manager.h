@@ -4,19 +4,20 @@
 #include <chrono>
 
 #include <QDateTime>
-#include <QJsonObject>
 #include <QNetworkAccessManager>
 #include <QObject>
 #include <QPointer>
 #include <QString>
 #include <QUrl>
-#include <QVersionNumber>
+
+#include "update_manifest.h"
 
 class QNetworkReply;
 
-/// Reads a small JSON manifest ("version", "notes", "windows_url", "url") from a web server, compares
-/// its version with the program's own and offers the page to download from. It downloads and installs
-/// nothing. The last good manifest is kept in the settings and is in force without a network.
+/// Reads a small JSON manifest ("version", "notes", "windows_url", "url") from a web server,
+/// compares its version with the program's own and offers the page to download from. It downloads
+/// and installs nothing. The last good manifest is kept in the settings and is in force without a
+/// network.
 class UpdateManager : public QObject {
   Q_OBJECT
   Q_PROPERTY(QString currentVersion READ currentVersion CONSTANT)
@@ -62,7 +63,7 @@ class UpdateManager : public QObject {
  private:
   void setBusy(bool busy);
   void fail(const QString& error);
-  void applyManifest(const QJsonObject& manifest);
+  void applyManifest(const UpdateManifest& manifest);
   void applyStoredManifest();
   void finish(QNetworkReply* reply);
 
@@ -79,7 +80,3 @@ class UpdateManager : public QObject {
   QNetworkAccessManager network_;
   QPointer<QNetworkReply> reply_;
 };
-
-/// The dotted numbers of a version text, without a leading "v" and without what follows a "+" or "-".
-/// Null if there are none.
-QVersionNumber parseVersion(const QString& text);

@@ -35,7 +35,8 @@ QJsonValue number(float value) {
 }  // namespace
 
 QJsonObject estimate_object(const MemoryEstimate& estimate) {
-  return {{"total_bytes", count(estimate.total_bytes)},
+  return {{"complete", estimate.complete},
+          {"total_bytes", count(estimate.total_bytes)},
           {"context_bytes", count(estimate.context_bytes)},
           {"tree_bytes", count(estimate.tree_bytes)},
           {"state_bytes", count(estimate.state_bytes)},

@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QLatin1String>
 #include <QVariantMap>
 
 #include "commands.h"
+#include "json_stream.h"
 #include "range.h"
 #include "solve_config_map.h"
 
@@ -88,25 +88,54 @@ const std::vector<Rule>& spot_rules() {
   throw InputFault(path + ": " + why);
 }
 
-QJsonDocument read_json(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) refuse(path, file.errorString());
-  const QByteArray bytes = file.readAll();
-  if (file.error() != QFileDevice::NoError) refuse(path, file.errorString());
-  QJsonParseError error;
-  const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
-  if (error.error != QJsonParseError::NoError) {
-    const auto line = bytes.left(error.offset).count('\n') + 1;
-    refuse(path, QString("Invalid JSON in line %1: %2").arg(line).arg(error.errorString()));
+/// Lines of a file up to a position, counted from 1.
+qint64 line_at(QFile& file, qint64 position) {
+  qint64 line = 1;
+  file.seek(0);
+  while (file.pos() < position) {
+    const QByteArray part = file.read(std::min<qint64>(position - file.pos(), 1 << 20));
+    if (part.isEmpty()) break;
+    line += part.count('\n');
   }
-  return document;
+  return line;
+}
+
+/// Opens a file and reads its JSON step by step, so that a project with all its results takes no
+/// more memory than a spot.
+template <typename Read>
+void read_json(const QString& path, const Read& read) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) refuse(path, file.errorString());
+  std::optional<JsonReader> reader;
+  try {
+    reader.emplace(file);
+    read(*reader);
+    reader->finish();
+  } catch (const JsonFault& fault) {
+    if (file.error() != QFileDevice::NoError) refuse(path, file.errorString());
+    const qint64 line = reader ? line_at(file, reader->position()) : 1;
+    refuse(path, QString("Invalid JSON in line %1: %2").arg(line).arg(fault.what()));
+  }
+}
+
+/// True for a member of a file that tells of the spot. What else a project holds is its results.
+bool is_of_spot(const QString& member) {
+  const std::vector<Rule>& rules = spot_rules();
+  return member == "format" || member == "version" || member == "project" ||
+         std::any_of(rules.begin(), rules.end(),
+                     [&](const Rule& rule) { return rule.key == member; });
 }
 
 /// The solve configuration map of the file, whatever its form.
 QVariantMap read_map(const QString& path) {
-  const QJsonDocument document = read_json(path);
-  if (!document.isObject()) refuse(path, "A spot must be a JSON object");
-  const QJsonObject object = document.object();
+  QJsonObject object;
+  read_json(path, [&](JsonReader& reader) {
+    if (!reader.atObject()) refuse(path, "A spot must be a JSON object");
+    reader.members([&](const std::string& utf8) {
+      const QString name = QString::fromStdString(utf8);
+      if (is_of_spot(name)) object[name] = reader.value();
+    });
+  });
   if (!object.contains("format")) return object.toVariantMap();
   if (object["format"].toString() != QLatin1String("velmora_project")) {
     refuse(path, "Unrecognized project format");
@@ -171,18 +200,15 @@ SolveConfig read_spot(const QString& path) {
 }
 
 std::vector<NodeLockEntry> read_locks(const QString& path) {
-  const QJsonDocument document = read_json(path);
-  if (!document.isArray()) refuse(path, "Node locks must be a JSON list");
   static const std::vector<Rule> kRules{{"node", Type::kWhole, 0, kMaxExact},
                                         {"hand", Type::kText},
                                         {"action", Type::kWhole, 0, kMaxExact},
                                         {"frequency", Type::kNumber, 0, 1}};
   std::vector<NodeLockEntry> locks;
-  const QJsonArray entries = document.array();
-  for (qsizetype i = 0; i < entries.size(); ++i) {
-    const QString where = QString("Lock %1: ").arg(i + 1);
-    if (!entries[i].isObject()) refuse(path, where + "must be an object");
-    const QJsonObject entry = entries[i].toObject();
+  const auto read_lock = [&](JsonReader& reader) {
+    const QString where = QString("Lock %1: ").arg(locks.size() + 1);
+    if (!reader.atObject()) refuse(path, where + "must be an object");
+    const QJsonObject entry = reader.object();
     for (const Rule& rule : kRules) {
       const QString fault = violation(entry[rule.key], rule);
       if (!fault.isEmpty()) refuse(path, where + "\"" + rule.key + "\" " + fault);
@@ -194,6 +220,10 @@ std::vector<NodeLockEntry> read_locks(const QString& path) {
     locks.push_back({static_cast<std::uint64_t>(entry["node"].toDouble()), hand,
                      static_cast<std::uint64_t>(entry["action"].toDouble()),
                      static_cast<float>(entry["frequency"].toDouble())});
-  }
+  };
+  read_json(path, [&](JsonReader& reader) {
+    if (!reader.atArray()) refuse(path, "Node locks must be a JSON list");
+    reader.elements([&] { read_lock(reader); });
+  });
   return locks;
 }

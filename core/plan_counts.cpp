@@ -12,6 +12,10 @@ namespace {
 /// Betting states that a counter remembers, at most. A spot that has more of them has no tree that
 /// could be built: below a flop each stands for some two thousand nodes.
 constexpr std::size_t kMaxStates = 2'000'000;
+/// Sizes that a counter tries at all its nodes together: what bounds its time.
+constexpr std::uint64_t kMaxSizesTried = 10'000'000;
+/// Children that the recursion holds from the root to where it is: what bounds its memory.
+constexpr std::size_t kMaxHeldChildren = 1'000'000;
 
 void add_saturating(std::uint64_t& sum, std::uint64_t x) {
   sum = x > std::numeric_limits<std::uint64_t>::max() - sum
@@ -63,7 +67,27 @@ PlanCounter::PlanCounter(const GameSettings& settings, const CardContext& cards)
 
 PlanCounter::~PlanCounter() = default;
 
-PlanCounts PlanCounter::count(const PlanPoint& point, std::size_t depth) {
+PlanCounts PlanCounter::count(const PlanPoint& point) {
+  const PlanCounts counts = count_at_least(point);
+  if (!complete_) throw std::length_error("Betting tree is too large");
+  return counts;
+}
+
+PlanCounts PlanCounter::count_at_least(const PlanPoint& point) {
+  held_children_ = 0;
+  return visit(point, 0);
+}
+
+bool PlanCounter::may_expand(const PlanPoint& point) {
+  if (point.node.kind == NodeKind::kDecision && point.node.street <= kRiver) {
+    const SeatSizing& sizing = settings_.sizing[point.node.street].seats[point.node.seat];
+    sizes_tried_ += sizing.bets.size() + sizing.raises.size();
+  }
+  return ++sizes_tried_ <= kMaxSizesTried && held_children_ <= kMaxHeldChildren &&
+         memo_->counts.size() < kMaxStates;
+}
+
+PlanCounts PlanCounter::visit(const PlanPoint& point, std::size_t depth) {
   if (depth > kMaxPlanDepth) throw std::length_error("Betting tree is too deep");
   const PlanNode& node = point.node;
   const BuildContext& context = point.context;
@@ -88,13 +112,21 @@ PlanCounts PlanCounter::count(const PlanPoint& point, std::size_t depth) {
     return known->second;
   }
 
+  if (!may_expand(point)) {
+    complete_ = false;
+    return counts;
+  }
   const std::vector<PlanChild> children = expand(settings_, cards_, point);
+  held_children_ += children.size();
   if (node.kind == NodeKind::kDecision && !children.empty()) {
     counts.decision_nodes = 1;
     counts.action_rows[node.seat] = children.size();
   }
-  for (const PlanChild& child : children) counts.add(count(child.point, depth + 1));
-  if (memo_->counts.size() >= kMaxStates) throw std::length_error("Betting tree is too large");
+  for (const PlanChild& child : children) {
+    counts.add(visit(child.point, depth + 1));
+    if (!complete_) return counts;
+  }
+  held_children_ -= children.size();
   memo_->counts.emplace(key, counts);
   return counts;
 }

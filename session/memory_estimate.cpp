@@ -3,6 +3,7 @@
 #include <exception>
 #include <limits>
 
+#include "betting_rules.h"
 #include "fault_scope.h"
 #include "spot_translation.h"
 
@@ -33,9 +34,12 @@ std::optional<MemoryEstimate> estimate_memory(const SolveConfig& config, std::st
     velmora::GameSettings settings = translate_settings(config);
     translate_sizing_bare(config, settings);
     const velmora::CardContext cards(spot.board, spot.weights);
-    const velmora::PlanCounts counts = velmora::count_plan(settings, cards);
+    velmora::PlanCounter counter(settings, cards);
+    const velmora::PlanCounts counts =
+        counter.count_at_least(velmora::root_point(settings, cards.board()));
 
     MemoryEstimate estimate;
+    estimate.complete = counter.complete();
     estimate.context_bytes = cards.memory_bytes();
     estimate.node_count = counts.nodes;
     estimate.decision_node_count = counts.decision_nodes;

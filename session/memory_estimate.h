@@ -11,6 +11,9 @@ namespace velmora_app {
 
 /// All figures are bytes or counts.
 struct MemoryEstimate {
+  /// False if the betting tree is larger than can be counted. No solve takes such a spot, and the
+  /// figures are what it needs at least.
+  bool complete = true;
   std::uint64_t total_bytes = 0;    ///< What to compare with the memory of the machine.
   std::uint64_t context_bytes = 0;  ///< Card tables.
   std::uint64_t tree_bytes = 0;     ///< Betting tree.
@@ -22,8 +25,8 @@ struct MemoryEstimate {
 };
 
 /// Exact in the tables, which are nearly all of a solve. Counts the tree without building it, so
-/// it is quick and small also for a spot that no machine could hold. Empty on a fault, and then
-/// `error` holds its text. Lets no standard exception out.
+/// it takes some seconds and a few hundred megabytes at most, whatever the spot. Empty on a fault,
+/// and then `error` holds its text. Lets no standard exception out.
 std::optional<MemoryEstimate> estimate_memory(const SolveConfig& config, std::string& error);
 
 }  // namespace velmora_app

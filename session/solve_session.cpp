@@ -1,12 +1,60 @@
 #include "solve_session.h"
 
+#include <chrono>
 #include <exception>
+#include <new>
 #include <utility>
 
 #include "fault_scope.h"
 #include "solve_worker.h"
 
 namespace velmora_app {
+namespace {
+
+constexpr char kFailed[] = "Error: ";
+/// What `std::bad_alloc` says, in a text that needs no memory of its own.
+constexpr char kNoMemory[] = "std::bad_alloc";
+
+/// How often the last report is offered to a receiver without memory.
+constexpr int kMostDeliveries = 50;
+constexpr std::chrono::milliseconds kDeliveryPause(20);
+
+/// False if the receiver has no memory for a report.
+template <typename Report>
+bool deliver(const Report& report, const SolveProgress& progress) {
+  try {
+    report(progress);
+    return true;
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+/// What the last report is made of.
+struct SolveSession::Ending {
+  SolveProgress report;
+  SolveResult result;
+
+  /// Makes room for the texts of exhausted memory, which may leave none for them.
+  Ending() {
+    report.status.reserve(sizeof kFailed + sizeof kNoMemory);
+    result.error.reserve(sizeof kNoMemory);
+  }
+
+  void fail(const char* message) noexcept {
+    report.progress = 0;
+    result.success = false;
+    try {
+      report.status.assign(kFailed).append(message);
+      result.error = message;
+    } catch (const std::bad_alloc&) {
+      report.status.assign(kFailed).append(kNoMemory);
+      result.error = kNoMemory;
+    }
+  }
+};
 
 SolveSession::~SolveSession() {
   cancel();
@@ -36,8 +84,9 @@ bool SolveSession::start(const SolveConfig& config, Callback callback) {
   last_report_delivered_ = false;
   clear();
   try {
-    worker_ =
-        std::thread([this, config, callback = std::move(callback)] { work(config, callback); });
+    const FaultScope scope;
+    worker_ = std::thread([this, config, callback = std::move(callback),
+                           ending = Ending()]() mutable { work(config, callback, ending); });
   } catch (...) {
     running_ = false;
     throw;
@@ -45,21 +94,15 @@ bool SolveSession::start(const SolveConfig& config, Callback callback) {
   return true;
 }
 
-void SolveSession::work(const SolveConfig& config, const Callback& callback) {
+void SolveSession::work(const SolveConfig& config, const Callback& callback, Ending& ending) {
+  const FaultScope scope;
   worker_id_ = std::this_thread::get_id();
   const auto report = [&callback](const SolveProgress& progress) {
     if (callback) callback(progress);
   };
-  SolveProgress last;
-  SolveResult result;
-  const auto fail = [&](const std::string& message) {
-    last.progress = 0;
-    last.status = "Error: " + message;
-    result.success = false;
-    result.error = message;
-  };
+  SolveProgress& last = ending.report;
+  SolveResult& result = ending.result;
   try {
-    const FaultScope scope;
     SolvedSpot solved = run_solve(
         config, [this] { return cancel_requested_.load(); }, report, result);
     if (solved.solver) {
@@ -73,14 +116,26 @@ void SolveSession::work(const SolveConfig& config, const Callback& callback) {
       result.error = "Cancelled";
     }
   } catch (const std::exception& fault) {
-    fail(fault.what());
+    ending.fail(fault.what());
   } catch (...) {
-    fail("Unknown error");
+    ending.fail("Unknown error");
   }
-  last.result = std::move(result);
   last_report_delivered_ = true;
+  last.result = std::move(result);
   try {
-    report(last);
+    for (int attempt = 1; !deliver(report, last); ++attempt) {
+      if (attempt == kMostDeliveries) break;
+      if (last.result->success) {
+        // The receiver has no room for the result. Once that is gone it may have room for the news.
+        clear();
+        result = {};
+        result.board = std::move(last.result->board);
+        ending.fail(kNoMemory);
+        last.result = std::move(result);
+      } else {
+        std::this_thread::sleep_for(kDeliveryPause);
+      }
+    }
   } catch (...) {  // NOLINT: nobody is left to tell, and the run is over.
   }
   running_ = false;

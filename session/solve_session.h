@@ -99,7 +99,7 @@ class SolveSession {
   /// Starts a run; `callback` may be empty. Returns false and changes nothing while a run is
   /// under way. A run is over once its last report (the one with a result) has been handed over:
   /// a start after that succeeds, waiting for the few instructions that the old thread has left.
-  /// Throws `std::system_error` if no thread can be started.
+  /// Throws `std::system_error` or `std::bad_alloc` if no thread can be started.
   bool start(const SolveConfig& config, Callback callback);
   /// Asks the run to stop. The iteration in progress is completed first.
   void cancel() { cancel_requested_ = true; }
@@ -110,7 +110,9 @@ class SolveSession {
   SolvedSpot solved_spot() const;
 
  private:
-  void work(const SolveConfig& config, const Callback& callback);
+  struct Ending;
+
+  void work(const SolveConfig& config, const Callback& callback, Ending& ending);
 
   std::atomic<bool> running_ = false;
   std::atomic<bool> cancel_requested_ = false;

@@ -1,5 +1,6 @@
 .pragma library
 .import "range_library_tree.js" as Tree
+.import "stored_text.js" as StoredText
 
 // What a developer puts in place of a library's ranges: a map from path key to range text.
 
@@ -11,9 +12,9 @@ function sanitized(stored) {
         return overrides
     const entries = Array.isArray(stored) ? stored.map(entry => [entry?.key, entry?.value])
                                           : Object.entries(stored)
-    for (const [key, value] of entries) {
-        if (String(key ?? "").trim() !== "" && String(value ?? "").trim() !== "")
-            overrides[key] = String(value)
+    for (const [key, value] of entries.map(entry => entry.map(StoredText.textOf))) {
+        if (key.trim() !== "" && value.trim() !== "")
+            overrides[key] = value
     }
     return overrides
 }

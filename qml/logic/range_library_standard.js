@@ -1,5 +1,6 @@
 .pragma library
 .import "range_library_tree.js" as Tree
+.import "stored_text.js" as StoredText
 
 // The equilibrium charts: a flat list of rows named "<game> / <rake> / <scenario>" as a file, and
 // the tree that the list is shown as.
@@ -14,8 +15,8 @@ const SEPARATOR = " / "
 function validRows(rows) {
     if (!Array.isArray(rows))
         return []
-    return rows.filter(row => String(row?.name ?? "").trim() !== "")
-        .map(row => ({ name: String(row.name), value: String(row.value ?? "") }))
+    return rows.map(row => ({ name: StoredText.textOf(row?.name), value: StoredText.textOf(row?.value) }))
+        .filter(row => row.name.trim() !== "")
 }
 
 /// The texts on both sides of the first colon; undefined if one of them is missing.

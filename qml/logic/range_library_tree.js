@@ -1,5 +1,6 @@
 .pragma library
 .import "settings_profiles.js" as SettingsProfiles
+.import "stored_text.js" as StoredText
 
 // Trees of ranges. A node is a range { id, type: "range", name, value } or a folder { id, type:
 // "folder", name, children }. No function changes a tree that it is given; one that edits gives a
@@ -28,13 +29,13 @@ function sanitizeCustomTree(list) {
         return []
     const nodes = []
     for (const entry of list) {
-        const name = String(entry?.name ?? "").trim()
+        const name = StoredText.textOf(entry?.name).trim()
         if (name === "")
             continue
-        const id = String(entry.id ?? "").trim() || newNodeId()
+        const id = StoredText.textOf(entry.id).trim() || newNodeId()
         nodes.push(entry.type === "folder" || Array.isArray(entry.children)
             ? { id: id, type: "folder", name: name, children: sanitizeCustomTree(entry.children) }
-            : { id: id, type: "range", name: name, value: String(entry.value ?? "") })
+            : { id: id, type: "range", name: name, value: StoredText.textOf(entry.value) })
     }
     return nodes
 }

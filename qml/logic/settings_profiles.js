@@ -1,5 +1,6 @@
 .pragma library
 .import "project_keys.js" as Keys
+.import "stored_text.js" as StoredText
 
 // Saved game settings: everything of a spot but its board and its ranges.
 
@@ -42,8 +43,8 @@ function projectValues(data, pot) {
             values[scalars[key]] = data[key]
     }
     if (data.target_exploitability_pct === undefined && data.target_exploitability !== undefined) {
-        const currentPot = values.startingPot === undefined ? pot : Number(values.startingPot)
-        const amount = Number(data.target_exploitability)
+        const currentPot = values.startingPot === undefined ? pot : Number(StoredText.textOf(values.startingPot))
+        const amount = Number(StoredText.textOf(data.target_exploitability))
         values.targetExploitability = currentPot > 0 ? amount * 100 / currentPot : amount
     }
     for (const seat of Keys.seats) {
@@ -72,12 +73,12 @@ function sanitized(list, newId) {
     if (!Array.isArray(list))
         return []
     const isMap = value => value !== null && typeof value === "object" && !Array.isArray(value)
-    return list.filter(entry => isMap(entry) && String(entry.name ?? "").trim() !== "").map(entry => ({
-        id: String(entry.id ?? "").trim() === "" ? newId() : String(entry.id),
-        name: String(entry.name).trim(),
-        createdAt: String(entry.createdAt ?? ""),
+    return list.filter(isMap).map(entry => ({
+        id: StoredText.textOf(entry.id).trim() === "" ? newId() : StoredText.textOf(entry.id),
+        name: StoredText.textOf(entry.name).trim(),
+        createdAt: StoredText.textOf(entry.createdAt),
         data: isMap(entry.data) ? entry.data : {}
-    }))
+    })).filter(profile => profile.name !== "")
 }
 
 /// The profiles of a stored JSON text; none if it can't be read.

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -22,6 +23,7 @@ class Program : public ::testing::Test {
     ASSERT_TRUE(QFile::copy(DUNMARROW_PROGRAM, dir_.filePath("app/dunmarrow")));
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("TMPDIR", dir_.filePath("temp"));
+    environment.insert("XDG_CONFIG_HOME", dir_.filePath("config"));
     program_.setProcessEnvironment(environment);
     program_.setWorkingDirectory(dir_.path());
   }
@@ -145,4 +147,48 @@ TEST_F(Program, AnswersInTheTerminal) {
     EXPECT_TRUE(err.isEmpty() ? complaint.isEmpty() : complaint.contains(err))
         << complaint.toStdString();
   }
+}
+
+TEST_F(Program, DropsBrokenSettings) {
+  ASSERT_TRUE(QDir(dir_.path()).mkpath("config/Dunmarrow"));
+  QFile settings(dir_.filePath("config/Dunmarrow/Dunmarrow.conf"));
+  ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
+  settings.write(R"([ui]
+darkMode=@Rect(1 2 3 4)
+accentHex=[1, 2]
+language=@ByteArray(\xff\xfe)
+
+[ranges]
+oopCustomRangesJson="{\"not\": \"a list\"}"
+ipCustomRangesJson="[{\"name\": {\"toString\": 1}}, {\"name\": \"ok\", \"value\": 7}, 3, null]"
+oopStandardOverridesJson=@Invalid()
+ipStandardOverridesJson=7
+oopExploitOverridesJson=a, b, c
+ipExploitOverridesJson="{\"__proto__\": 5, \"a\": {\"toString\": 2}}"
+
+[settings_profiles]
+profilesJson="[7, null, {\"name\": {\"toString\": null}}, {\"name\": \"p\", \"data\": []}]"
+
+[updates]
+manifestUrl=@Invalid()
+cachedManifestJson="{\"version\": []"
+cachedAt=yesterday
+
+[no end
+)");
+  settings.close();
+  startAndWaitForWindow();
+  killBy(SIGABRT);
+  const QByteArray log = bytesOf(tempLog());
+  EXPECT_FALSE(log.contains("[WARN]")) << log.toStdString();
+}
+
+TEST_F(Program, RunsWithoutASettingsStore) {
+  QFile inTheWay(dir_.filePath("config"));
+  ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+  startAndWaitForWindow();
+  killBy(SIGABRT);
+  const QByteArray log = bytesOf(tempLog());
+  EXPECT_FALSE(log.contains("[WARN]")) << log.toStdString();
+  EXPECT_EQ(QFileInfo(dir_.filePath("config")).size(), 0);
 }

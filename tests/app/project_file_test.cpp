@@ -1,11 +1,15 @@
 // Project files, through the controller and its reader.
+#include <chrono>
 #include <cmath>
+#include <random>
+#include <thread>
 
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -242,6 +246,7 @@ TEST_F(ProjectFile, ARefusedFileLeavesEverythingAsItWas) {
       {QByteArray(megabytes).fill(' '), json},
       {QByteArray(megabytes).fill('\0'), json},
       {"{\"x\": " + QByteArray(megabytes).fill('7') + '}', format},
+      {"{\"project\": {\"x\": \"" + megabytes + megabytes + megabytes + "\"}}", json},
       {"[1]", format},
       {"{}", format},
       {"{\"version\": 1}", format},
@@ -297,6 +302,34 @@ TEST_F(ProjectFile, AFailedSaveTellsWhyAndLeavesTheOldFile) {
   }
   EXPECT_EQ(bytesOf(path("written")), "old");
   EXPECT_EQ(QDir(dir_.path()).entryList(QDir::Files), QStringList("written"));
+}
+
+TEST_F(ProjectFile, ASaveThatIsKilledLeavesTheOldFileOrTheNew) {
+  AppController controller;
+  solve(controller, turnSpot());
+  ASSERT_TRUE(controller.saveProject(url("first"), kState));
+  ASSERT_TRUE(controller.saveProject(url("second"), {{"board", "another"}}));
+  const QByteArray first = bytesOf(path("first"));
+  const QByteArray second = bytesOf(path("second"));
+  ASSERT_NE(first, second);
+  ASSERT_TRUE(controller.saveProject(url("target"), kState));
+  std::mt19937 random(1);
+  int firsts = 0;
+  constexpr int kKills = 100;
+  for (int kill = 0; kill < kKills; ++kill) {
+    QProcess helper;
+    helper.start(SAVE_HELPER_PROGRAM, {path("first"), path("second"), path("target")});
+    ASSERT_TRUE(helper.waitForReadyRead()) << helper.errorString().toStdString();
+    std::this_thread::sleep_for(std::chrono::microseconds(random() % 100'000));
+    helper.kill();
+    ASSERT_TRUE(helper.waitForFinished());
+    ASSERT_EQ(helper.exitStatus(), QProcess::CrashExit);  // It was still saving.
+    const QByteArray bytes = bytesOf(path("target"));
+    ASSERT_TRUE(bytes == first || bytes == second) << "kill " << kill << ": " << bytes.size();
+    firsts += bytes == first ? 1 : 0;
+  }
+  EXPECT_TRUE(firsts > 0 && firsts < kKills) << firsts;  // Files were replaced.
+  EXPECT_EQ(controller.loadProject(url("target"))["ok"], true);
 }
 
 TEST_F(ProjectFile, TheWindowNeedNotWait) {

@@ -120,6 +120,46 @@ TEST_F(Statistics, ANewDayStartsItsOwnFiguresAndClearingTakesAll) {
   for (const QVariant& figure : TrainerStats::figures(yesterday)) EXPECT_EQ(figure.toDouble(), 0);
 }
 
+TEST_F(Statistics, BrokenFiguresCountNothing) {
+  const QDate today(2026, 3, 4);
+  const struct {
+    QVariant stored;
+    int count;   ///< What is read of it as a count,
+    double sum;  ///< as a sum.
+  } cases[] = {{"many", 0, 0},
+               {-3, 0, 0},
+               {"nan", 0, 0},
+               {"-inf", 0, 0},
+               {QVariantList{1, 2}, 0, 0},
+               {QByteArray("\xFF"), 0, 0},
+               {2147483647, 2147483647, 2147483647.0},
+               {9'223'372'036'854'775'807LL, 2147483647, 9223372036854775807.0}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.stored.toString().toStdString());
+    QSettings settings;
+    for (const char* name : {"hands", "mistakes", "evLossSum"}) {
+      settings.setValue(QString("playVsSolution/total/") + name, c.stored);
+    }
+    for (const char* name : {"solves", "iterationsSum", "exploitabilitySum"}) {
+      settings.setValue(QString("solveActivity/2026-03-04/") + name, c.stored);
+    }
+    const auto total = [&] { return TrainerStats::figures(today).value("totalHands").toInt(); };
+    EXPECT_EQ(total(), c.count);
+    EXPECT_EQ(SolveActivity::solvesOn(today), c.count);
+    const double mean = c.count ? c.sum / c.count : 0;
+    EXPECT_DOUBLE_EQ(TrainerStats::figures(today).value("totalAvgEvLoss").toDouble(), mean);
+    const QVariantMap cell = cellOf(SolveActivity::gridOfYear(today), 359);
+    EXPECT_DOUBLE_EQ(cell.value("avgExploitability").toDouble(), mean);
+
+    // What follows is counted on top, as far as numbers go.
+    TrainerStats::record(today, true, 2);
+    SolveActivity::record(today, 100, 0.5);
+    EXPECT_EQ(total(), c.count == 0 ? 1 : 2147483647);
+    EXPECT_EQ(SolveActivity::solvesOn(today), c.count == 0 ? 1 : 2147483647);
+    TrainerStats::clear();
+  }
+}
+
 TEST_F(Statistics, TheControllerCountsSolvesThatSucceedAndTellsOfHands) {
   AppController controller;
   const QSignalSpy solves(&controller, &AppController::solveStatsChanged);

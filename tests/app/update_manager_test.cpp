@@ -1,10 +1,15 @@
 #include "update_manager.h"
 
 #include <functional>
+#include <memory>
 
 #include <QCoreApplication>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
@@ -25,29 +30,63 @@ QByteArray response(const char* status, const QByteArray& body, const QByteArray
 /// A web server on the loopback that gives each caller what `answer` makes of the connection.
 class LocalServer {
  public:
-  explicit LocalServer(std::function<void(QTcpSocket&)> answer) {
-    server_.listen(QHostAddress::LocalHost);
-    QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this, answer] {
-      QTcpSocket* const socket = server_.nextPendingConnection();
-      ++calls;
-      QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket, answer] {
-        request += socket->readAll();
-        if (request.endsWith("\r\n\r\n")) answer(*socket);
-      });
-    });
+  explicit LocalServer(std::function<void(QTcpSocket&)> answer,
+                       std::unique_ptr<QTcpServer> server = std::make_unique<QTcpServer>())
+      : server_(std::move(server)) {
+    server_->listen(QHostAddress::LocalHost);
+    QObject::connect(
+        server_.get(), &QTcpServer::pendingConnectionAvailable, server_.get(), [this, answer] {
+          QTcpSocket* const socket = server_->nextPendingConnection();
+          ++calls;
+          QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket, answer] {
+            request += socket->readAll();
+            if (request.endsWith("\r\n\r\n")) answer(*socket);
+          });
+        });
   }
   explicit LocalServer(const QByteArray& answer)
       : LocalServer([answer](QTcpSocket& socket) { socket.write(answer); }) {}
 
   QString url(const char* path = "/latest.json") const {
-    return QString("http://127.0.0.1:%1%2").arg(server_.serverPort()).arg(path);
+    const bool isSafe = qobject_cast<QSslServer*>(server_.get()) != nullptr;
+    return QString("%1://127.0.0.1:%2%3")
+        .arg(isSafe ? "https" : "http")
+        .arg(server_->serverPort())
+        .arg(path);
   }
 
   int calls = 0;
   QByteArray request;
 
  private:
-  QTcpServer server_;
+  std::unique_ptr<QTcpServer> server_;
+};
+
+/// While it lives, the certificate of the tests is one that this program trusts.
+class TestCertificate {
+ public:
+  TestCertificate() {
+    QSslConfiguration trusting = before_;
+    trusting.addCaCertificate(certificate_);
+    QSslConfiguration::setDefaultConfiguration(trusting);
+  }
+  ~TestCertificate() { QSslConfiguration::setDefaultConfiguration(before_); }
+  TestCertificate(const TestCertificate&) = delete;
+  TestCertificate& operator=(const TestCertificate&) = delete;
+
+  std::unique_ptr<QTcpServer> server() const {
+    QSslConfiguration own;
+    own.setLocalCertificate(certificate_);
+    own.setPrivateKey(QSslKey(pem_, QSsl::Rsa));
+    auto server = std::make_unique<QSslServer>();
+    server->setSslConfiguration(own);
+    return server;
+  }
+
+ private:
+  const QSslConfiguration before_ = QSslConfiguration::defaultConfiguration();
+  const QByteArray pem_ = bytesOf(TEST_DATA_FOLDER "/localhost.pem");
+  const QSslCertificate certificate_{pem_};
 };
 
 class UpdateManagerTest : public ::testing::Test {
@@ -73,8 +112,12 @@ TEST_F(UpdateManagerTest, Versions) {
   const struct {
     const char* text;
     QVersionNumber version;
-  } cases[] = {{" v1.0.2+build7 ", {1, 0, 2}}, {"V2.0.0-rc1", {2, 0, 0}}, {"1.0.10", {1, 0, 10}},
-               {"3 beta", QVersionNumber(3)},  {"", {}},                  {"-1", {}},
+  } cases[] = {{" v1.0.2+build7 ", {1, 0, 2}},
+               {"V2.0.0-rc1", {2, 0, 0}},
+               {"1.0.10", {1, 0, 10}},
+               {"3 beta", QVersionNumber(3)},
+               {"", {}},
+               {"-1", {}},
                {"soon", {}}};
   for (const auto& c : cases) EXPECT_EQ(parseVersion(c.text), c.version) << c.text;
   EXPECT_LT(parseVersion("1.0.9"), parseVersion("1.0.10"));
@@ -113,7 +156,8 @@ TEST_F(UpdateManagerTest, Manifests) {
 }
 
 TEST_F(UpdateManagerTest, WhatIsNoManifestIsRefusedAndTheLastGoodOneStays) {
-  const LocalServer good(response("200 OK", R"({"version": "2", "notes": "n", "url": "https://a"})"));
+  const LocalServer good(
+      response("200 OK", R"({"version": "2", "notes": "n", "url": "https://a"})"));
   UpdateManager updates(nullptr, 400ms);
   check(updates, good);
   const auto flood = [](QTcpSocket& socket) {
@@ -161,6 +205,57 @@ TEST_F(UpdateManagerTest, RedirectsAreFollowedOnOneServer) {
   UpdateManager updates;
   check(updates, server);
   EXPECT_EQ(updates.latestVersion(), "3");
+}
+
+TEST_F(UpdateManagerTest, ASafeAddressLeadsToSafeOnesOnly) {
+  const TestCertificate certificate;
+  const QByteArray manifest = response("200 OK", R"({"version": "3", "url": "https://a.example"})");
+  const auto says = [](const QByteArray& answer) {
+    return [answer](QTcpSocket& socket) { socket.write(answer); };
+  };
+  const auto redirect = [&](const LocalServer& target) {
+    return says(response("302 Found", "", "Location: " + target.url().toLatin1() + "\r\n"));
+  };
+  const LocalServer plain(manifest);
+  const LocalServer safe(says(manifest), certificate.server());
+  const LocalServer toPlain(redirect(plain), certificate.server());
+  const LocalServer toSafe(redirect(safe), certificate.server());
+  UpdateManager updates;
+  check(updates, toPlain);
+  EXPECT_TRUE(updates.lastError().startsWith("Update check failed: "));
+  EXPECT_EQ(updates.latestVersion(), "");
+  EXPECT_EQ(plain.calls, 0);
+  check(updates, toSafe);
+  EXPECT_EQ(updates.lastError(), "");
+  EXPECT_EQ(updates.latestVersion(), "3");
+  EXPECT_TRUE(UpdateManager().latestVersion() == "3");
+}
+
+TEST_F(UpdateManagerTest, NobodyElsesCertificateIsTaken) {
+  std::unique_ptr<QTcpServer> unknown = TestCertificate().server();
+  const LocalServer server(
+      [](QTcpSocket& socket) { socket.write(response("200 OK", R"({"version": "3"})")); },
+      std::move(unknown));
+  UpdateManager updates;
+  check(updates, server);
+  EXPECT_TRUE(updates.lastError().startsWith("Update check failed: "));
+  EXPECT_EQ(updates.latestVersion(), "");
+}
+
+TEST_F(UpdateManagerTest, ReadsOneMebibyteAndNoMore) {
+  const QByteArray manifest = R"({"version": "4"})";
+  for (const int beyond : {0, 1}) {
+    const QByteArray filler(1024 * 1024 + beyond - manifest.size(), ' ');
+    const LocalServer server([&](QTcpSocket& socket) {
+      socket.write(response("200 OK", manifest + filler, "Connection: close\r\n"));
+      socket.disconnectFromHost();
+    });
+    QSettings().remove("updates");
+    UpdateManager updates;
+    check(updates, server);
+    EXPECT_EQ(updates.lastError(), beyond ? "Update check failed: Operation canceled" : "");
+    EXPECT_EQ(updates.latestVersion(), beyond ? "" : "4");
+  }
 }
 
 TEST_F(UpdateManagerTest, ASecondCheckOnlyMovesTheDate) {

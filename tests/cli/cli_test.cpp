@@ -4,6 +4,7 @@
 #include <vector>
 
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
@@ -139,6 +140,22 @@ TEST(Solve, BadInputIsOneClearLine) {
   EXPECT_EQ(run_cli({"solve", files.write("list.json", "[1]")}).status, 1);
 }
 
+/// What else is in a file is stepped over: a project with its results takes no more than a spot.
+TEST(Solve, LongFilesAreReadInPieces) {
+  const Files files;
+  const QByteArray spot = QJsonDocument(example_spot("river.json")).toJson().trimmed();
+  const QByteArray results = "{\"nodeCaches\": [\"" + QByteArray(60 << 20, 'x') + "\", [{}, []]],";
+  EXPECT_EQ(run_cli({"estimate", files.write("long.json", results + spot.mid(1))}).json(),
+            run_cli({"estimate", example("river.json")}).json());
+  const CliRun cut = run_cli({"estimate", files.write("cut.json", results + "\n")});
+  EXPECT_TRUE(cut.error.contains("Invalid JSON in line 2")) << cut.error.toStdString();
+  const CliRun nested = run_cli({"estimate", files.write("deep.json", QByteArray(5000, '['))});
+  EXPECT_EQ(nested.status, 1);
+  const CliRun board = run_cli(
+      {"estimate", files.write("board.json", "{\"board\": \"" + QByteArray(60 << 20, 'x') + "\"}")});
+  EXPECT_TRUE(board.error.contains("A value is too long")) << board.error.toStdString();
+}
+
 TEST(Solve, RefusesWhatTheMachineCannotHold) {
   const Files files;
   QJsonObject spot{{"board", "QsJh2h"},
@@ -156,6 +173,7 @@ TEST(Solve, RefusesWhatTheMachineCannotHold) {
   const CliRun estimate = run_cli({"estimate", path});
   ASSERT_EQ(estimate.status, 0) << estimate.error.toStdString();
   EXPECT_GT(estimate.json()["total_bytes"].toDouble(), 1e12);
+  EXPECT_EQ(estimate.json()["complete"], true);
   const CliRun run = run_cli({"solve", path});
   EXPECT_EQ(run.status, 1);
   const QString text = "Not enough RAM to solve (after clearing previous results)";

@@ -56,6 +56,7 @@ TEST(MemoryEstimate, IsThatOfTheBuiltGame) {
       const std::optional<MemoryEstimate> found = estimate_memory(config, error);
       ASSERT_TRUE(found) << error;
       EXPECT_EQ(error, "untouched");
+      EXPECT_TRUE(found->complete);
       EXPECT_EQ(found->node_count, game->nodes().size());
       EXPECT_EQ(found->decision_node_count, decisions);
       EXPECT_EQ(found->oop_hands, game->num_hands(velmora::kOop));
@@ -112,6 +113,39 @@ TEST(MemoryEstimate, CoversSpotsBeyondAnyMachine) {
   EXPECT_GT(found->node_count, std::uint64_t{1} << 32);
   EXPECT_GT(found->tree_bytes, found->node_count * 72);
   EXPECT_GT(found->total_bytes, found->tree_bytes);
+}
+
+/// Where even counting would take too long, what was counted is a lower bound; nothing is built.
+TEST(MemoryEstimate, StopsCountingAtABound) {
+  std::string many;
+  for (int percent = 1; percent < 3000; ++percent) many += std::to_string(percent) + ',';
+  const char* const wide = "1,2,3,5,8,13,21,34,55,89";
+  const char* const raises = "1.01x,1.02x,1.05x,1.1x,1.2x,1.5x,2x,3x,4x,5x";
+  const struct {
+    const char* board;
+    std::string bets;
+    std::string raises;
+    std::int32_t stack;
+  } cases[] = {{"AhKd7c", wide, raises, 2'000'000'000},
+               {"AhKd7c2s9h", many, many, 100'000}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.board) + " " + c.bets.substr(0, 20));
+    SolveConfig config = flop_request();
+    config.board = c.board;
+    config.starting_street = config.board.size() == 6 ? "flop" : "river";
+    config.effective_stack = c.stack;
+    config.oop_flop = config.ip_flop = config.oop_turn = config.ip_turn = config.oop_river =
+        config.ip_river = {.bet_sizes = c.bets, .raise_sizes = c.raises};
+    std::string error;
+    const std::optional<MemoryEstimate> found = estimate_memory(config, error);
+    ASSERT_TRUE(found) << error;
+    EXPECT_FALSE(found->complete);
+    EXPECT_GT(found->node_count, 1000U);
+    EXPECT_GT(found->total_bytes, found->state_bytes);
+    EXPECT_GT(found->state_bytes, 0U);
+    SolveSession session;  // Which is not lured into building it.
+    EXPECT_EQ(result_of(session, config).error, "Betting tree is too large");
+  }
 }
 
 }  // namespace

@@ -208,6 +208,26 @@ TEST(SolveSession, FaultsOfTheCallbackEndTheRun) {
   EXPECT_EQ(error_where([] {}), "");
 }
 
+/// Once the results are gone there may be room for the news.
+TEST(SolveSession, AReceiverWithoutRoomForTheResultIsToldOfItsEnd) {
+  SolveSession session;
+  Reports reports;
+  int offers = 0;
+  session.start(river_request(), reports.callback([&](const SolveProgress& report) {
+    if (!report.result) return;
+    EXPECT_EQ(report.result->success, offers == 0);
+    if (++offers < 4) throw std::bad_alloc();
+  }));
+  const SolveResult result = reports.result();
+  EXPECT_EQ(result.error, "std::bad_alloc");
+  EXPECT_EQ(result.board, river_request().board);
+  EXPECT_EQ(result.nodes, nullptr);
+  EXPECT_EQ(reports.all().back().status, "Error: std::bad_alloc");
+  EXPECT_EQ(reports.all().back().progress, 0);
+  EXPECT_TRUE(is_empty(session.solved_spot()));
+  EXPECT_TRUE(result_of(session, river_request()).success);
+}
+
 TEST(SolveSession, CancelStopsBetweenIterations) {
   struct Case {
     std::string at;    ///< Cancelled in the report that begins so.

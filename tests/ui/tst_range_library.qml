@@ -53,7 +53,8 @@ TestCase {
             '[{"name": "BTN", "value": "AA"}, {"name": " b "}]': "BTN=AA b=",
             '[{"type": "folder", "name": "F", "children": [{"name": "x", "value": "KK"}]}]': "F[x=KK]",
             '[{"name": "F", "children": []}, {"type": "folder", "name": "G", "children": 7}]': "F[] G[]",
-            '[{"type": "folder", "name": "", "children": [{"name": "x", "value": "KK"}]}]': ""
+            '[{"type": "folder", "name": "", "children": [{"name": "x", "value": "KK"}]}]': "",
+            '[{"name": {"toString": 1}}, {"name": "a", "id": {"toString": 1}, "value": {"toString": 1}}]': "a="
         }
         for (const json in cases)
             compare(brief(Tree.parse(json)), cases[json], json)
@@ -144,14 +145,15 @@ TestCase {
         compare(rows[0].name, "No rake / RFI UTG")
         compare(rows[rows.length - 1].name, "Heads up / 500nl rake / vs RFI SB: Call BB")
         compare(brief(Standard.buildStandardTree(rows)), brief(built))
-        compare(Standard.validRows([{ name: " " }, null, { name: "RFI UTG" }]).map(row => row.name + row.value), ["RFI UTG"])
+        const noText = JSON.parse('{"toString": 1}')
+        compare(Standard.validRows([{ name: " " }, null, { name: noText }, { name: "RFI UTG", value: noText }]).map(row => row.name + row.value), ["RFI UTG"])
     }
 
     function test_overrides() {
         const parsed = Overrides.parse('[{"key": "A / x", "value": "22"}, {"key": " ", "value": "33"}, {"value": "44"}]')
         compare(JSON.stringify(parsed), '{"A / x":"22"}')
         compare(JSON.stringify(Overrides.parse('{"A / x": "22", "y": " ", "z": null}')), '{"A / x":"22"}')
-        for (const json of ["", "no", "null", "7"])
+        for (const json of ["", "no", "null", "7", '{"a": {"toString": 1}, "b": [[]], "c": true}', '[{"key": {}, "value": "AA"}]'])
             compare(Object.keys(Overrides.parse(json)).length, 0, json)
         const nodes = tree({ A: { x: "AA", constructor: "KK" }, y: "QQ", z: "JJ" })
         const applied = Overrides.applyOverridesToTree(nodes,

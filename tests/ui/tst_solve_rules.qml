@@ -168,6 +168,8 @@ TestCase {
         compare(ProjectKeys.coerced("oopFlopBetSizesText", values.oopFlopBetSizesText), "")
         compare(ProjectKeys.coerced("oopFlopAddAllIn", values.oopFlopAddAllIn), false)
         compare(SettingsProfiles.projectValues({ target_exploitability: 1 }, 0).targetExploitability, 1)
+        const noNumber = JSON.parse('{"toString": 1}')
+        compare(SettingsProfiles.projectValues({ starting_pot: noNumber, target_exploitability: noNumber }, 0).targetExploitability, 0)
         compare(SettingsProfiles.projectValues({}, 50).ipAddAllInIfJamLtPct, undefined)
     }
 
