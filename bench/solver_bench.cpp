@@ -1,4 +1,4 @@
-// Whole iterations and measures of the solver against the plain one.
+// Whole iterations and measures of the solver against the plain one, and what comes before and after.
 #include <memory>
 
 #include <benchmark/benchmark.h>
@@ -6,6 +6,7 @@
 #include "bench_games.h"
 #include "discounted_cfr.h"
 #include "plain_solver.h"
+#include "result_snapshot.h"
 #include "side_by_side.h"
 
 namespace {
@@ -70,15 +71,37 @@ void second_thread(benchmark::State& state, velmora_app::SolveConfig (*spot)()) 
       [&] { two.fast->run_iteration(*two.game, i++); });
 }
 
-#define VELMORA_ON_SPOTS(run)                                   \
-  BENCHMARK_CAPTURE(run, quick, &quick_spot)->Arg(1)->Arg(2)    \
-      ->Iterations(7)->Unit(benchmark::kMillisecond);           \
-  BENCHMARK_CAPTURE(run, two_sizes, &two_size_spot)->Arg(1)->Arg(2) \
-      ->Iterations(7)->Unit(benchmark::kMillisecond)
-
-VELMORA_ON_SPOTS(iteration);
-VELMORA_ON_SPOTS(measure);
-VELMORA_ON_SPOTS(measure_against_iteration);
+void per_spot(benchmark::internal::Benchmark* run) {
+  run->ArgName("threads")->Arg(1)->Arg(2)->Iterations(7)->Unit(benchmark::kMillisecond);
+}
+BENCHMARK_CAPTURE(iteration, quick, &quick_spot)->Apply(per_spot);
+BENCHMARK_CAPTURE(iteration, two_sizes, &two_size_spot)->Apply(per_spot);
+BENCHMARK_CAPTURE(measure, quick, &quick_spot)->Apply(per_spot);
+BENCHMARK_CAPTURE(measure, two_sizes, &two_size_spot)->Apply(per_spot);
+BENCHMARK_CAPTURE(measure_against_iteration, quick, &quick_spot)->Apply(per_spot);
+BENCHMARK_CAPTURE(measure_against_iteration, two_sizes, &two_size_spot)->Apply(per_spot);
 BENCHMARK_CAPTURE(second_thread, quick, &quick_spot)->Iterations(7)->Unit(benchmark::kMillisecond);
+
+/// Card context and tree of the quick spot, on all processors.
+void set_up(benchmark::State& state) {
+  for (auto _ : state) benchmark::DoNotOptimize(make_bench_game(quick_spot()));
+}
+BENCHMARK(set_up)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+/// The records of all nodes that a run delivers, with two threads.
+void snapshot(benchmark::State& state) {
+  const auto game = make_bench_game(quick_spot());
+  velmora::SolverOptions options;
+  options.threads = 2;
+  velmora::DiscountedCfr solver(std::move(options));
+  solver.prepare_states(*game);
+  solver.run_iteration(*game, 0);
+  for (auto _ : state) {
+    velmora_app::SolveResult result;
+    fill_nodes(*game, solver, 2, result);
+    benchmark::DoNotOptimize(result.nodes);
+  }
+}
+BENCHMARK(snapshot)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
