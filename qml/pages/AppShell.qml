@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Layouts
-import Qt.labs.settings
 import Velmora
 import "../logic/pages.js" as Pages
 import "../logic/presets.js" as Presets
@@ -151,7 +150,7 @@ Item {
         targetExploitability: project_.targetExploitability
     }
 
-    Settings {
+    StoredSettings {
         id: themeSettings
 
         property bool darkMode: true

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Layouts
-import Qt.labs.settings
 import Velmora
 
 /// The preferences. A change of the look shows at once and is kept by "Save Settings".
@@ -28,7 +27,7 @@ ScrollPage {
         saveSettings()
     }
 
-    Settings {
+    StoredSettings {
         id: store
 
         category: "ui"

@@ -21,12 +21,12 @@ const Names kRakeLevels{"No rake", "50nl rake", "100nl rake", "200nl rake", "500
 const Names kOpeners{"UTG", "HJ", "CO", "BTN", "SB"};
 constexpr const char* kSeats[] = {"oop", "ip"};
 
-const LibraryRows& rows_of(const std::string& seat) {
+const LibraryRows& rows_of(std::string_view seat) {
   static const LibraryRows oop = standard_rows("oop");
   static const LibraryRows ip = standard_rows("ip");
   return seat == "oop" ? oop : ip;
 }
-const Ranges& ranges_of(const std::string& seat) {
+const Ranges& ranges_of(std::string_view seat) {
   static const Ranges oop(rows_of("oop"));
   static const Ranges ip(rows_of("ip"));
   return seat == "oop" ? oop : ip;

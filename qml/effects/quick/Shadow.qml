@@ -27,6 +27,8 @@ Item {
         shadowEnabled: true
         shadowColor: root.color
         shadowBlur: root.blur
+        // A Gaussian is faint at its rim: it takes twice the radius to be seen as far.
+        blurMax: 64
         shadowVerticalOffset: root.verticalOffset
     }
 }

@@ -1,5 +1,5 @@
 import QtQuick
-import Qt.labs.settings
+import Velmora
 import "../../logic/settings_profiles.js" as SettingsProfiles
 
 /// The user's settings profiles, kept in the settings store as one JSON text.
@@ -11,7 +11,7 @@ QtObject {
 
     // Written by setValue: a property would reach the file half a second later, and not at all if the
     // program died in between.
-    readonly property Settings _store: Settings {
+    readonly property StoredSettings _store: StoredSettings {
         id: store
 
         category: "settings_profiles"

@@ -1,5 +1,5 @@
 import QtQuick
-import Qt.labs.settings
+import Velmora
 import "../../../logic/range_categories.js" as Categories
 import "../../../logic/range_library_files.js" as Files
 import "../../../logic/range_library_names.js" as Names
@@ -31,7 +31,7 @@ QtObject {
 
     // Written by setValue: a property would reach the file half a second later, and not at all if the
     // program died in between.
-    readonly property Settings _store: Settings {
+    readonly property StoredSettings _store: StoredSettings {
         category: "ranges"
     }
 

@@ -1,0 +1,5 @@
+import QtCore
+
+/// A category of the settings store.
+Settings {
+}

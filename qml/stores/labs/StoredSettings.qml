@@ -1,0 +1,5 @@
+import Qt.labs.settings
+
+/// A category of the settings store.
+Settings {
+}
