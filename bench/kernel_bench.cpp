@@ -213,4 +213,26 @@ void other_node(benchmark::State& state) {
 }
 BENCHMARK(other_node)->ArgName("actions")->DenseRange(2, 4)->Iterations(60000);
 
+/// What the memory gives: a table read, and one read and written in place, in bytes a second.
+void memory(benchmark::State& state) {
+  const bool writes = state.range(0) != 0;
+  velmora::PageArray<float> table(std::size_t{128} << 20);
+  std::fill_n(table.data(), table.size(), 1.0F);
+  constexpr std::size_t kPiece = 4096;
+  std::vector<float> sum(kPiece);
+  for (auto _ : state) {
+    for (std::size_t i = 0; i < table.size(); i += kPiece) {
+      if (writes) {
+        velmora::scale_row(&table[i], &table[i], 0.5F, kPiece);
+      } else {
+        velmora::add_rows(sum.data(), &table[i], 1, kPiece);
+      }
+    }
+    benchmark::ClobberMemory();
+  }
+  const std::size_t bytes = table.size() * sizeof(float) * (writes ? 2 : 1);
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes));
+}
+BENCHMARK(memory)->ArgName("writes")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
 }  // namespace
