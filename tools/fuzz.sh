@@ -47,4 +47,5 @@ fuzz() {
   fi
 }
 export -f fuzz
+# shellcheck disable=SC2016
 printf '%s\n' "${names[@]}" | xargs -P "$(nproc)" -I{} bash -c 'fuzz "$1" "$2"' fuzz {} "$seconds"
