@@ -229,14 +229,15 @@ template <std::size_t A, typename Row>
 
 template <std::size_t A, int F>
 VELMORA_BODY learn_actions(float* __restrict result, float* __restrict regrets,
-                           float* __restrict sums, ValueRows values, std::size_t H, float alpha,
-                           float beta, float gamma) {
+                           float* __restrict sums, ValueRows values, std::size_t H,
+                           std::size_t begin, std::size_t end, float alpha, float beta,
+                           float gamma) {
   using Row = Vector<float, F>;
   const Row discount_above = Row{} + alpha;
   const Row discount_below = Row{} + beta;
   const float* rows[A];
   for (std::size_t a = 0; a < A; ++a) rows[a] = values[a];
-  for (std::size_t h = 0; h < H; h += F) {
+  for (std::size_t h = begin; h < end; h += F) {
     Row regret[A];
     Row strategy[A];
     Row value[A];
@@ -261,10 +262,10 @@ VELMORA_BODY learn_actions(float* __restrict result, float* __restrict regrets,
 template <std::size_t A, int F>
 VELMORA_BODY split_reach_actions(float* __restrict out, bool* live,
                                  const float* __restrict regrets, const float* __restrict reach,
-                                 std::size_t H) {
+                                 std::size_t H, std::size_t begin, std::size_t end) {
   using Row = Vector<float, F>;
   Row greatest[A] = {};
-  for (std::size_t h = 0; h < H; h += F) {
+  for (std::size_t h = begin; h < end; h += F) {
     Row regret[A];
     Row strategy[A];
     Row arriving;
@@ -278,7 +279,6 @@ VELMORA_BODY split_reach_actions(float* __restrict out, bool* live,
     }
   }
   for (std::size_t a = 0; a < A; ++a) {
-    live[a] = false;
     for (int i = 0; i < F; ++i) live[a] = live[a] || greatest[a][i] > 0.0F;
   }
 }
@@ -304,6 +304,7 @@ VELMORA_BODY split_average_actions(float* __restrict out, bool* live, const floa
                                    const float* __restrict reach, std::size_t H) {
   using Row = Vector<float, F>;
   Row greatest[A] = {};
+  std::fill_n(live, A, false);
   for (std::size_t h = 0; h < H; h += F) {
     alignas(64) float strategy[A][F];
     average<A, F, W>(sums + h, H, strategy);
@@ -318,7 +319,6 @@ VELMORA_BODY split_average_actions(float* __restrict out, bool* live, const floa
     }
   }
   for (std::size_t a = 0; a < A; ++a) {
-    live[a] = false;
     for (int i = 0; i < F; ++i) live[a] = live[a] || greatest[a][i] > 0.0F;
   }
 }
@@ -338,9 +338,12 @@ VELMORA_BODY average_values_actions(float* __restrict result, const float* __res
   }
 }
 
-/// Floats beside `W` doubles: a vector of half the width at 512 bits, as rows are padded to 8.
+/// Floats of a vector that has room for `W` doubles.
 template <int W>
-constexpr int kFloats = W == 2 ? 4 : 8;
+constexpr int kFloats = 2 * W;
+/// As many as rows are padded to, at most.
+template <int W>
+constexpr int kHalfFloats = W == 2 ? 4 : 8;
 
 /// Calls `run` with the number of actions as a constant.
 template <typename Run>
@@ -361,7 +364,13 @@ template <int W>
 VELMORA_BODY learn_fused_body(float* result, float* regrets, float* sums, ValueRows values,
                               std::size_t A, std::size_t H, float alpha, float beta, float gamma) {
   with_actions(A, [&](auto actions) __attribute__((always_inline)) {
-    learn_actions<actions(), kFloats<W>>(result, regrets, sums, values, H, alpha, beta, gamma);
+    const std::size_t wide = H / kFloats<W> * kFloats<W>;
+    learn_actions<actions(), kFloats<W>>(result, regrets, sums, values, H, 0, wide, alpha, beta,
+                                         gamma);
+    if (wide < H) {
+      learn_actions<actions(), kRowPadding>(result, regrets, sums, values, H, wide, H, alpha, beta,
+                                            gamma);
+    }
   });
 }
 VELMORA_MULTIVERSION_WIDE(learn_fused,
@@ -373,7 +382,12 @@ template <int W>
 VELMORA_BODY split_reach_fused_body(float* out, bool* live, const float* regrets,
                                     const float* reach, std::size_t A, std::size_t H) {
   with_actions(A, [&](auto actions) __attribute__((always_inline)) {
-    split_reach_actions<actions(), kFloats<W>>(out, live, regrets, reach, H);
+    const std::size_t wide = H / kFloats<W> * kFloats<W>;
+    std::fill_n(live, actions(), false);
+    split_reach_actions<actions(), kFloats<W>>(out, live, regrets, reach, H, 0, wide);
+    if (wide < H) {
+      split_reach_actions<actions(), kRowPadding>(out, live, regrets, reach, H, wide, H);
+    }
   });
 }
 VELMORA_MULTIVERSION_WIDE(split_reach_fused,
@@ -385,7 +399,7 @@ template <int W>
 VELMORA_BODY split_average_fused_body(float* out, bool* live, const float* sums,
                                       const float* reach, std::size_t A, std::size_t H) {
   with_actions(A, [&](auto actions) __attribute__((always_inline)) {
-    split_average_actions<actions(), kFloats<W>, W>(out, live, sums, reach, H);
+    split_average_actions<actions(), kHalfFloats<W>, W>(out, live, sums, reach, H);
   });
 }
 VELMORA_MULTIVERSION_WIDE(split_average_fused,
@@ -397,7 +411,7 @@ template <int W>
 VELMORA_BODY average_values_fused_body(float* result, const float* sums, ValueRows values,
                                        std::size_t A, std::size_t H) {
   with_actions(A, [&](auto actions) __attribute__((always_inline)) {
-    average_values_actions<actions(), kFloats<W>, W>(result, sums, values, H);
+    average_values_actions<actions(), kHalfFloats<W>, W>(result, sums, values, H);
   });
 }
 VELMORA_MULTIVERSION_WIDE(average_values_fused,

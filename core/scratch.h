@@ -7,6 +7,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "huge_pages.h"
 #include "rows.h"
 
 namespace velmora {
@@ -40,8 +41,8 @@ class ScratchStack {
   }
 
  private:
-  using Block = std::vector<char, CacheLineAllocator<char>>;
-  static constexpr std::size_t kBlockBytes = std::size_t{1} << 20;
+  /// Some huge pages, of which only those that are used are taken from the machine.
+  static constexpr std::size_t kBlockBytes = std::size_t{16} << 20;
   static constexpr std::size_t kCacheLine = 64;
 
   void* take_bytes(std::size_t bytes) {
@@ -51,7 +52,7 @@ class ScratchStack {
       used_ = 0;
     }
     if (block_ == blocks_.size()) {
-      blocks_.emplace_back(size > kBlockBytes ? size : kBlockBytes);
+      blocks_.push_back(PageArray<char>(size > kBlockBytes ? size : kBlockBytes));
       used_ = 0;
     }
     void* const room = blocks_[block_].data() + used_;
@@ -59,7 +60,7 @@ class ScratchStack {
     return room;
   }
 
-  std::vector<Block> blocks_;
+  std::vector<PageArray<char>> blocks_;
   std::size_t block_ = 0;  ///< The block in use, which may not be there yet.
   std::size_t used_ = 0;   ///< Bytes of it.
 };
