@@ -180,7 +180,8 @@ void own_node(benchmark::State& state) {
       },
       [&] {
         velmora::learn_fused(fast.result.data(), fast.next_regrets(), fast.next_sums(),
-                             fast.rows.data(), A, fast.row, 0.9F, 0.5F, 0.9F);
+                             fast.rows.data(), A, fast.row, 0.9F, 0.5F, 0.9F,
+                             fast.next_regrets() + A * fast.row, fast.next_sums() + A * fast.row);
         ++fast.node;
       });
 }

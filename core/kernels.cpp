@@ -231,7 +231,7 @@ template <std::size_t A, int F>
 VELMORA_BODY learn_actions(float* __restrict result, float* __restrict regrets,
                            float* __restrict sums, ValueRows values, std::size_t H,
                            std::size_t begin, std::size_t end, float alpha, float beta,
-                           float gamma) {
+                           float gamma, const float* next_regrets, const float* next_sums) {
   using Row = Vector<float, F>;
   const Row discount_above = Row{} + alpha;
   const Row discount_below = Row{} + beta;
@@ -244,6 +244,8 @@ VELMORA_BODY learn_actions(float* __restrict result, float* __restrict regrets,
     for (std::size_t a = 0; a < A; ++a) {
       load(regret[a], regrets + a * H + h);
       load(value[a], rows[a] + h);
+      __builtin_prefetch(next_regrets + a * H + h, 1);
+      __builtin_prefetch(next_sums + a * H + h, 1);
     }
     match<A>(regret, strategy);
     Row mean = strategy[0] * value[0];
@@ -362,21 +364,24 @@ template <typename Run>
 
 template <int W>
 VELMORA_BODY learn_fused_body(float* result, float* regrets, float* sums, ValueRows values,
-                              std::size_t A, std::size_t H, float alpha, float beta, float gamma) {
+                              std::size_t A, std::size_t H, float alpha, float beta, float gamma,
+                              const float* next_regrets, const float* next_sums) {
   with_actions(A, [&](auto actions) __attribute__((always_inline)) {
     const std::size_t wide = H / kFloats<W> * kFloats<W>;
     learn_actions<actions(), kFloats<W>>(result, regrets, sums, values, H, 0, wide, alpha, beta,
-                                         gamma);
+                                         gamma, next_regrets, next_sums);
     if (wide < H) {
       learn_actions<actions(), kRowPadding>(result, regrets, sums, values, H, wide, H, alpha, beta,
-                                            gamma);
+                                            gamma, next_regrets, next_sums);
     }
   });
 }
 VELMORA_MULTIVERSION_WIDE(learn_fused,
                           (float* result, float* regrets, float* sums, ValueRows values,
-                           std::size_t A, std::size_t H, float alpha, float beta, float gamma),
-                          (result, regrets, sums, values, A, H, alpha, beta, gamma))
+                           std::size_t A, std::size_t H, float alpha, float beta, float gamma,
+                           const float* next_regrets, const float* next_sums),
+                          (result, regrets, sums, values, A, H, alpha, beta, gamma, next_regrets,
+                           next_sums))
 
 template <int W>
 VELMORA_BODY split_reach_fused_body(float* out, bool* live, const float* regrets,

@@ -48,9 +48,11 @@ void best_values(float* result, ValueRows values, std::size_t A, std::size_t H);
 constexpr bool has_fused_kernels(std::size_t num_actions) {
   return num_actions >= 2 && num_actions <= 6;
 }
-/// `regret_match`, `weighted_action_sum`, `update_strategy_sum` and `update_regrets`.
+/// `regret_match`, `weighted_action_sum`, `update_strategy_sum` and `update_regrets`. Meanwhile the
+/// tables of the node that comes next are fetched; any addresses will do.
 void learn_fused(float* result, float* regrets, float* sums, ValueRows values, std::size_t A,
-                 std::size_t H, float alpha, float beta, float gamma);
+                 std::size_t H, float alpha, float beta, float gamma, const float* next_regrets,
+                 const float* next_sums);
 /// `regret_match` and `split_rows`.
 void split_reach_fused(float* out, bool* live, const float* regrets, const float* reach,
                        std::size_t A, std::size_t H);

@@ -470,7 +470,11 @@ void Traversal::sweep_up(const Line& line, const Slot* slots, ScratchStack& scra
         // The reach has weighted the values already.
         sum_actions(result, values, num_actions, own_row());
       } else if (learning_) {
-        learn(slots[i].node, values, result, scratch);
+        std::size_t next = i;
+        do {
+          next = next > 0 ? next - 1 : i;
+        } while (next < i && (nodes[next].num_actions == 0 || nodes[next].seat != seat_));
+        learn(slots[i].node, slots[next].node, values, result, scratch);
       } else {
         respond(responses_[r], slots[i].node, values, result, scratch);
       }
@@ -479,8 +483,9 @@ void Traversal::sweep_up(const Line& line, const Slot* slots, ScratchStack& scra
 }
 
 /// The traversing seat's node: the value of its current strategy, and what is learnt. A node with a
-/// lock keeps its regrets, for all of its hands.
-void Traversal::learn(NodeIndex node, ValueRows values, float* result, ScratchStack& scratch) {
+/// lock keeps its regrets, for all of its hands. `next` is the node that will learn after this one.
+void Traversal::learn(NodeIndex node, NodeIndex next, ValueRows values, float* result,
+                      ScratchStack& scratch) {
   const ScratchStack::Frame frame(scratch);
   const NodeState& state = states_.node(node);
   const std::size_t num_actions = state.num_actions;
@@ -489,8 +494,14 @@ void Traversal::learn(NodeIndex node, ValueRows values, float* result, ScratchSt
   float* const sums = learning_->ensure_strategy_sums(state, scratch);
   const LockTable* const lock = game_.find_node_lock(node);
   if (!lock && has_fused_kernels(num_actions)) {
+    // Compressed tables are expanded before use, so there is nothing to fetch.
+    const NodeState& ahead = states_.node(next);
+    const float* const next_regrets =
+        states_.compressed() ? regrets : states_.regrets(ahead, scratch);
+    const float* const next_sums =
+        states_.compressed() ? sums : states_.strategy_sums(ahead, scratch);
     learn_fused(result, regrets, sums, values, num_actions, row, discount_.alpha_t,
-                discount_.beta_t, discount_.gamma_t);
+                discount_.beta_t, discount_.gamma_t, next_regrets, next_sums);
   } else {
     float* const strategy = scratch.take<float>(num_actions * row);
     regret_match(strategy, scratch.take<float>(row), regrets, num_actions, row);

@@ -104,7 +104,8 @@ class Traversal {
   void add_up(const Deal& deal, std::size_t response, ScratchStack& scratch);
 
   void sweep_up(const Line& line, const Slot* slots, ScratchStack& scratch);
-  void learn(NodeIndex node, ValueRows values, float* result, ScratchStack& scratch);
+  void learn(NodeIndex node, NodeIndex next, ValueRows values, float* result,
+             ScratchStack& scratch);
   void respond(Response response, NodeIndex node, ValueRows values, float* result,
                ScratchStack& scratch);
 

@@ -95,7 +95,7 @@ TEST_P(Kernels, LearnTheSameInOneStepAndInMany) {
     own_sums = node.sums;
     own_regrets = node.regrets;
     velmora::learn_fused(own.data(), own_regrets.data(), own_sums.data(), node.rows.data(), A,
-                         kHands, 0.7F, 0.5F, 0.3F);
+                         kHands, 0.7F, 0.5F, 0.3F, own_regrets.data(), own_sums.data());
     EXPECT_EQ(own, result);
     EXPECT_EQ(own_sums, sums);
     EXPECT_EQ(own_regrets, regrets);
