@@ -114,7 +114,7 @@ velmora_app::SolveConfig two_size_spot() {
   config.effective_stack = 500;
   config.rake_percent = 0;
   config.oop_range = "99-22,ATs-A2s,KTs+,QTs+,J9s+,T8s+,97s+,87s,76s,65s,AJo-ATo,KQo";
-  config.ip_range = "TT+,A9s+,KTs+,QTs+,JTs,T9s,98s,AQo+,KQo";
+  config.ip_range = "88+,A5s+,K9s+,Q9s+,J9s+,T9s,98s,87s,ATo+,KJo+,QJo";
   for (auto* sizing : {&config.oop_flop, &config.oop_turn, &config.oop_river, &config.ip_flop,
                        &config.ip_turn, &config.ip_river}) {
     sizing->bet_sizes = "33,75";
