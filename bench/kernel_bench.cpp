@@ -41,8 +41,8 @@ std::vector<velmora::PlanNode> river_terminals(const velmora::Game& game, bool a
       if (node.river != velmora::kNoCard) terminals.push_back(node);
       return;
     }
-    const bool first_only = node.kind == velmora::NodeKind::kChance ||
-                            (!all_lines && node.river == velmora::kNoCard);
+    const bool first_only =
+        node.kind == velmora::NodeKind::kChance || (!all_lines && node.river == velmora::kNoCard);
     for (const velmora::NodeIndex child : node.children) {
       self(self, nodes[child]);
       if (first_only) break;
@@ -75,8 +75,8 @@ std::vector<float> random_rows(std::size_t rows, std::size_t row, double zeros) 
 
 enum Which : std::int64_t { kAll = 0, kFolds = 1, kShowdowns = 2 };
 
-/// Terminal nodes of a river for the seat in position, one run-out after the other. Arguments: rake,
-/// percent of hands without reach, which nodes, whether of all lines.
+/// Terminal nodes of a river for the seat in position, one run-out after the other. Arguments:
+/// rake, percent of hands without reach, which nodes, whether of all lines.
 void river_payoffs(benchmark::State& state) {
   using Kind = velmora::StreetShape::Kind;
   const bool raked = state.range(0) != 0;

@@ -1,4 +1,5 @@
-// Whole iterations and measures of the solver against the plain one, and what comes before and after.
+// Whole iterations and measures of the solver against the plain one, and what comes before and
+// after.
 #include <memory>
 
 #include <benchmark/benchmark.h>
@@ -47,8 +48,7 @@ void iteration(benchmark::State& state, velmora_app::SolveConfig (*spot)()) {
 void measure(benchmark::State& state, velmora_app::SolveConfig (*spot)()) {
   Rivals rivals(spot(), static_cast<std::size_t>(state.range(0)));
   side_by_side(
-      state,
-      [&] { benchmark::DoNotOptimize(rivals.plain.measure_exploitability()); },
+      state, [&] { benchmark::DoNotOptimize(rivals.plain.measure_exploitability()); },
       [&] { benchmark::DoNotOptimize(rivals.fast->measure_exploitability(*rivals.game)); });
 }
 

@@ -451,10 +451,10 @@ std::size_t CardContext::memory_bytes() const {
          bytes_of(t.runout_orders) + bytes_of(t.early_sweeps) +
          t.sweep_tables.hands.size() * sizeof(SweepHand) +
          t.sweep_tables.groups.size() * sizeof(StrengthGroup) +
-         t.sweep_tables.blocked.size() * sizeof(std::uint16_t) +
-         bytes_of(t.all_hands) + bytes_of(t.hands_without_card) + bytes_of(t.hands_without_pair) +
-         bytes_of(iso.turn_refs) + bytes_of(iso.turn_cards) + bytes_of(iso.turn_swaps) +
-         bytes_of(iso.river_refs) + bytes_of(iso.river_cards) + bytes_of(iso.river_swaps);
+         t.sweep_tables.blocked.size() * sizeof(std::uint16_t) + bytes_of(t.all_hands) +
+         bytes_of(t.hands_without_card) + bytes_of(t.hands_without_pair) + bytes_of(iso.turn_refs) +
+         bytes_of(iso.turn_cards) + bytes_of(iso.turn_swaps) + bytes_of(iso.river_refs) +
+         bytes_of(iso.river_cards) + bytes_of(iso.river_swaps);
 }
 
 std::size_t card_context_max_workers() {

@@ -105,7 +105,7 @@ class DiscountedCfr {
   float exploitability_ = 0;
   std::uint32_t iterations_done_ = 0;
   SolverState states_;
-  std::unique_ptr<WorkerPool> pool_;  ///< Absent with one worker.
+  std::unique_ptr<WorkerPool> pool_;   ///< Absent with one worker.
   StreetShape shape_;                  ///< Of the whole tree.
   std::vector<ScratchStack> scratch_;  ///< By worker.
 };

@@ -194,8 +194,7 @@ VELMORA_BODY best_values_body(float* __restrict result, ValueRows values, std::s
     for (std::size_t h = 0; h < H; ++h) result[h] = v[h] > result[h] ? v[h] : result[h];
   }
 }
-VELMORA_MULTIVERSION(best_values,
-                     (float* result, ValueRows values, std::size_t A, std::size_t H),
+VELMORA_MULTIVERSION(best_values, (float* result, ValueRows values, std::size_t A, std::size_t H),
                      (result, values, A, H))
 
 // One pass for each number of actions, with `F` hands at a time in vectors.
@@ -230,8 +229,8 @@ template <std::size_t A, typename Row>
 template <std::size_t A, int F>
 VELMORA_BODY learn_actions(float* __restrict result, float* __restrict regrets,
                            float* __restrict sums, ValueRows values, std::size_t H,
-                           std::size_t begin, std::size_t end, float alpha, float beta,
-                           float gamma, const float* next_regrets, const float* next_sums) {
+                           std::size_t begin, std::size_t end, float alpha, float beta, float gamma,
+                           const float* next_regrets, const float* next_sums) {
   using Row = Vector<float, F>;
   const Row discount_above = Row{} + alpha;
   const Row discount_below = Row{} + beta;
@@ -262,9 +261,9 @@ VELMORA_BODY learn_actions(float* __restrict result, float* __restrict regrets,
 }
 
 template <std::size_t A, int F>
-VELMORA_BODY split_reach_actions(float* __restrict out, bool* live,
-                                 const float* __restrict regrets, const float* __restrict reach,
-                                 std::size_t H, std::size_t begin, std::size_t end) {
+VELMORA_BODY split_reach_actions(float* __restrict out, bool* live, const float* __restrict regrets,
+                                 const float* __restrict reach, std::size_t H, std::size_t begin,
+                                 std::size_t end) {
   using Row = Vector<float, F>;
   Row greatest[A] = {};
   for (std::size_t h = begin; h < end; h += F) {
@@ -366,15 +365,16 @@ template <int W>
 VELMORA_BODY learn_fused_body(float* result, float* regrets, float* sums, ValueRows values,
                               std::size_t A, std::size_t H, float alpha, float beta, float gamma,
                               const float* next_regrets, const float* next_sums) {
-  with_actions(A, [&](auto actions) __attribute__((always_inline)) {
-    const std::size_t wide = H / kFloats<W> * kFloats<W>;
-    learn_actions<actions(), kFloats<W>>(result, regrets, sums, values, H, 0, wide, alpha, beta,
-                                         gamma, next_regrets, next_sums);
-    if (wide < H) {
-      learn_actions<actions(), kRowPadding>(result, regrets, sums, values, H, wide, H, alpha, beta,
-                                            gamma, next_regrets, next_sums);
-    }
-  });
+  with_actions(
+      A, [&](auto actions) __attribute__((always_inline)) {
+        const std::size_t wide = H / kFloats<W> * kFloats<W>;
+        learn_actions<actions(), kFloats<W>>(result, regrets, sums, values, H, 0, wide, alpha, beta,
+                                             gamma, next_regrets, next_sums);
+        if (wide < H) {
+          learn_actions<actions(), kRowPadding>(result, regrets, sums, values, H, wide, H, alpha,
+                                                beta, gamma, next_regrets, next_sums);
+        }
+      });
 }
 VELMORA_MULTIVERSION_WIDE(learn_fused,
                           (float* result, float* regrets, float* sums, ValueRows values,
@@ -386,14 +386,15 @@ VELMORA_MULTIVERSION_WIDE(learn_fused,
 template <int W>
 VELMORA_BODY split_reach_fused_body(float* out, bool* live, const float* regrets,
                                     const float* reach, std::size_t A, std::size_t H) {
-  with_actions(A, [&](auto actions) __attribute__((always_inline)) {
-    const std::size_t wide = H / kFloats<W> * kFloats<W>;
-    std::fill_n(live, actions(), false);
-    split_reach_actions<actions(), kFloats<W>>(out, live, regrets, reach, H, 0, wide);
-    if (wide < H) {
-      split_reach_actions<actions(), kRowPadding>(out, live, regrets, reach, H, wide, H);
-    }
-  });
+  with_actions(
+      A, [&](auto actions) __attribute__((always_inline)) {
+        const std::size_t wide = H / kFloats<W> * kFloats<W>;
+        std::fill_n(live, actions(), false);
+        split_reach_actions<actions(), kFloats<W>>(out, live, regrets, reach, H, 0, wide);
+        if (wide < H) {
+          split_reach_actions<actions(), kRowPadding>(out, live, regrets, reach, H, wide, H);
+        }
+      });
 }
 VELMORA_MULTIVERSION_WIDE(split_reach_fused,
                           (float* out, bool* live, const float* regrets, const float* reach,
@@ -401,11 +402,12 @@ VELMORA_MULTIVERSION_WIDE(split_reach_fused,
                           (out, live, regrets, reach, A, H))
 
 template <int W>
-VELMORA_BODY split_average_fused_body(float* out, bool* live, const float* sums,
-                                      const float* reach, std::size_t A, std::size_t H) {
-  with_actions(A, [&](auto actions) __attribute__((always_inline)) {
-    split_average_actions<actions(), kHalfFloats<W>, W>(out, live, sums, reach, H);
-  });
+VELMORA_BODY split_average_fused_body(float* out, bool* live, const float* sums, const float* reach,
+                                      std::size_t A, std::size_t H) {
+  with_actions(
+      A, [&](auto actions) __attribute__((always_inline)) {
+        split_average_actions<actions(), kHalfFloats<W>, W>(out, live, sums, reach, H);
+      });
 }
 VELMORA_MULTIVERSION_WIDE(split_average_fused,
                           (float* out, bool* live, const float* sums, const float* reach,
@@ -415,9 +417,10 @@ VELMORA_MULTIVERSION_WIDE(split_average_fused,
 template <int W>
 VELMORA_BODY average_values_fused_body(float* result, const float* sums, ValueRows values,
                                        std::size_t A, std::size_t H) {
-  with_actions(A, [&](auto actions) __attribute__((always_inline)) {
-    average_values_actions<actions(), kHalfFloats<W>, W>(result, sums, values, H);
-  });
+  with_actions(
+      A, [&](auto actions) __attribute__((always_inline)) {
+        average_values_actions<actions(), kHalfFloats<W>, W>(result, sums, values, H);
+      });
 }
 VELMORA_MULTIVERSION_WIDE(average_values_fused,
                           (float* result, const float* sums, ValueRows values, std::size_t A,

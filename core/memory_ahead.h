@@ -14,17 +14,13 @@ class MemoryAhead {
     const char* const first = static_cast<const char*>(begin);
     stretches_.push_back({first, first + bytes});
   }
-  void clear() {
-    stretches_.clear();
-    next_ = 0;
-    current_ = {};
-  }
 
   /// The place in the list, kept by the loop itself so that it stays in registers; the list gets it
   /// back on destruction.
   class Cursor {
    public:
-    explicit Cursor(MemoryAhead& list) : list_(list), at_(list.current_.begin), end_(list.current_.end) {}
+    explicit Cursor(MemoryAhead& list)
+        : list_(list), at_(list.current_.begin), end_(list.current_.end) {}
     ~Cursor() { list_.current_ = {at_, end_}; }
     Cursor(const Cursor&) = delete;
     Cursor& operator=(const Cursor&) = delete;

@@ -66,8 +66,7 @@ struct CardSums {
 };
 
 template <int L, int W>
-VELMORA_BODY fold_lanes(SweepList own, SweepList opp, const Batch& batch,
-                        MemoryAhead& ahead) {
+VELMORA_BODY fold_lanes(SweepList own, SweepList opp, const Batch& batch, MemoryAhead& ahead) {
   using Amounts = Lanes<L, W>;
   const float* const reach = batch.reach;
   float* const results = batch.results;
@@ -287,12 +286,10 @@ VELMORA_BODY deinterleave(const float* block, std::size_t hands, float* const* r
     transpose(first);
     transpose(second);
     for (int i = 0; i < 4; ++i) {
-      const Row8 low =
-          __builtin_shufflevector(first[i], second[i], 0, 1, 2, 3, 8, 9, 10, 11);
+      const Row8 low = __builtin_shufflevector(first[i], second[i], 0, 1, 2, 3, 8, 9, 10, 11);
       std::memcpy(rows[i] + h, &low, sizeof(low));
       if constexpr (L == 8) {
-        const Row8 high =
-            __builtin_shufflevector(first[i], second[i], 4, 5, 6, 7, 12, 13, 14, 15);
+        const Row8 high = __builtin_shufflevector(first[i], second[i], 4, 5, 6, 7, 12, 13, 14, 15);
         std::memcpy(rows[i + 4] + h, &high, sizeof(high));
       }
     }
@@ -304,8 +301,8 @@ template <int W>
 constexpr int kFewWidth = W < kFewLanes ? W : kFewLanes;
 
 template <int W>
-VELMORA_BODY fold_batch_body(int lanes, SweepList own, SweepList opp,
-                             const Batch& batch, MemoryAhead& ahead) {
+VELMORA_BODY fold_batch_body(int lanes, SweepList own, SweepList opp, const Batch& batch,
+                             MemoryAhead& ahead) {
   if (lanes == kFewLanes) {
     fold_lanes<kFewLanes, kFewWidth<W>>(own, opp, batch, ahead);
   } else {
@@ -313,13 +310,13 @@ VELMORA_BODY fold_batch_body(int lanes, SweepList own, SweepList opp,
   }
 }
 VELMORA_MULTIVERSION_WIDE(fold_batch,
-                          (int lanes, SweepList own, SweepList opp,
-                           const Batch& batch, MemoryAhead& ahead),
+                          (int lanes, SweepList own, SweepList opp, const Batch& batch,
+                           MemoryAhead& ahead),
                           (lanes, own, opp, batch, ahead))
 
 template <int W>
-VELMORA_BODY showdown_batch_body(int lanes, const RunoutOrder& order, Seat seat,
-                                 const Batch& batch, MemoryAhead& ahead) {
+VELMORA_BODY showdown_batch_body(int lanes, const RunoutOrder& order, Seat seat, const Batch& batch,
+                                 MemoryAhead& ahead) {
   if (lanes == kFewLanes) {
     showdown_lanes<kFewLanes, kFewWidth<W>, false>(order, seat, batch, ahead);
   } else {
@@ -332,8 +329,8 @@ VELMORA_MULTIVERSION_WIDE(showdown_batch,
                           (lanes, order, seat, batch, ahead))
 
 template <int W>
-VELMORA_BODY raked_batch_body(int lanes, const RunoutOrder& order, Seat seat,
-                              const Batch& batch, MemoryAhead& ahead) {
+VELMORA_BODY raked_batch_body(int lanes, const RunoutOrder& order, Seat seat, const Batch& batch,
+                              MemoryAhead& ahead) {
   if (lanes == kFewLanes) {
     showdown_lanes_raked<kFewLanes, kFewWidth<W>, false>(order, seat, batch, ahead);
   } else {
@@ -341,8 +338,8 @@ VELMORA_BODY raked_batch_body(int lanes, const RunoutOrder& order, Seat seat,
   }
 }
 VELMORA_MULTIVERSION_WIDE(raked_batch,
-                          (int lanes, const RunoutOrder& order, Seat seat,
-                           const Batch& batch, MemoryAhead& ahead),
+                          (int lanes, const RunoutOrder& order, Seat seat, const Batch& batch,
+                           MemoryAhead& ahead),
                           (lanes, order, seat, batch, ahead))
 
 /// Adds a run-out to the results of a batch.
@@ -391,8 +388,8 @@ VELMORA_MULTIVERSION(deinterleave_rows,
                      (lanes, block, hands, rows))
 
 /// Calls `run(lanes, batch)` for the nodes in batches of 8 lanes, the last of them of 4 if that is
-/// enough, and brings the results into the nodes' rows; those in `blocked`, which are in no list, are
-/// zeros. Lanes without a node repeat the first one.
+/// enough, and brings the results into the nodes' rows; those in `blocked`, which are in no list,
+/// are zeros. Lanes without a node repeat the first one.
 template <typename Run>
 void in_batches(const PayoffSeat& seat, std::span<const PayoffLane> nodes,
                 std::span<const std::uint16_t> blocked, ScratchStack& scratch, const Run& run) {
@@ -461,13 +458,13 @@ void fold_payoff(const PayoffSeat& seat, CardCode turn, CardCode river,
 }
 
 void showdown_payoff(const PayoffSeat& seat, CardCode turn, CardCode river,
-                     std::span<const PayoffLane> nodes, ScratchStack& scratch,
-                     MemoryAhead& ahead) {
+                     std::span<const PayoffLane> nodes, ScratchStack& scratch, MemoryAhead& ahead) {
   if (nodes.empty()) return;
   const RunoutOrder& order = seat.cards.runout_order(turn, river);
-  in_batches(seat, nodes, order.hands[seat.seat].blocked, scratch, [&](int lanes, const Batch& batch) {
-    showdown_batch(lanes, order, seat.seat, batch, ahead);
-  });
+  in_batches(seat, nodes, order.hands[seat.seat].blocked, scratch,
+             [&](int lanes, const Batch& batch) {
+               showdown_batch(lanes, order, seat.seat, batch, ahead);
+             });
 }
 
 void showdown_payoff_raked(const PayoffSeat& seat, CardCode turn, CardCode river,
@@ -475,9 +472,9 @@ void showdown_payoff_raked(const PayoffSeat& seat, CardCode turn, CardCode river
                            MemoryAhead& ahead) {
   if (nodes.empty()) return;
   const RunoutOrder& order = seat.cards.runout_order(turn, river);
-  in_batches(seat, nodes, order.hands[seat.seat].blocked, scratch, [&](int lanes, const Batch& batch) {
-    raked_batch(lanes, order, seat.seat, batch, ahead);
-  });
+  in_batches(
+      seat, nodes, order.hands[seat.seat].blocked, scratch,
+      [&](int lanes, const Batch& batch) { raked_batch(lanes, order, seat.seat, batch, ahead); });
 }
 
 void runout_payoff(const PayoffSeat& seat, CardCode turn, bool raked,

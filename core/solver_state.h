@@ -39,10 +39,10 @@ void quantize_block(std::size_t num_actions, std::size_t num_hands, const float*
 void dequantize_block(std::size_t num_actions, std::size_t num_hands, const std::int16_t* q,
                       float scale, float* out_floats);
 
-/// The tables of all nodes, with an arena for the regrets of each seat and one for its strategy sums,
-/// in node order, which is about the order in which the traversals walk. Plain tables are single floats. Compressed ones are
-/// 16-bit integers at rest and are expanded into the visitor's scratch memory while it works on
-/// them, so reading never changes them.
+/// The tables of all nodes, with an arena for the regrets of each seat and one for its strategy
+/// sums, in node order, which is about the order in which the traversals walk. Plain tables are
+/// single floats. Compressed ones are 16-bit integers at rest and are expanded into the visitor's
+/// scratch memory while it works on them, so reading never changes them.
 class SolverState {
  public:
   /// Allocates and clears the tables of a game; anything learnt before is dropped. Pages are

@@ -37,8 +37,7 @@ StreetShape::Node shape_node(const Game& game, const PlanNode& plan_node) {
   node.kind = kind_of(plan_node);
   node.seat = plan_node.seat;
   // The chips that were matched: a bet that was not called is no part of them.
-  const double matched =
-      static_cast<double>(game.settings().starting_pot) + 2.0 * plan_node.commit;
+  const double matched = static_cast<double>(game.settings().starting_pot) + 2.0 * plan_node.commit;
   const double pot = plan_node.pot;
   switch (node.kind) {
     case Kind::kDecision:

@@ -14,7 +14,7 @@ namespace velmora {
 struct StreetShape {
   enum class Kind : std::uint8_t {
     kDecision,
-    kDeal,      ///< A chance node; the street ends.
+    kDeal,  ///< A chance node; the street ends.
     kFold,
     kShowdown,  ///< On a complete board.
     kAllIn,     ///< A showdown with cards to come.

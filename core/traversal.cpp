@@ -242,8 +242,7 @@ void Traversal::sweep_across(std::span<const Line> lines, std::span<const Line> 
   list_tables(lines, next, ahead);
   fold_payoff(payoff_seat, board.turn, board.river, folds.items(), scratch, ahead);
   showdown_payoff(payoff_seat, board.turn, board.river, showdowns[0].items(), scratch, ahead);
-  showdown_payoff_raked(payoff_seat, board.turn, board.river, showdowns[1].items(), scratch,
-                        ahead);
+  showdown_payoff_raked(payoff_seat, board.turn, board.river, showdowns[1].items(), scratch, ahead);
 
   // Step 3. What takes more cards: all-ins, and the streets to come, card by card.
   const std::span<const Deal> deals = list_deals(lines, slots, scratch);
@@ -256,8 +255,7 @@ void Traversal::sweep_across(std::span<const Line> lines, std::span<const Line> 
   for (const bool raked : {false, true}) {
     const std::span<PayoffLane> all = all_ins[raked].items();
     for (std::size_t first = 0; first < all.size(); first += kAllInsTogether) {
-      batches.push_back(
-          {all.subspan(first, std::min(kAllInsTogether, all.size() - first)), raked});
+      batches.push_back({all.subspan(first, std::min(kAllInsTogether, all.size() - first)), raked});
     }
   }
   const auto run_task = [&](std::size_t task, ScratchStack& own) {
@@ -315,8 +313,7 @@ std::span<Traversal::Deal> Traversal::list_deals(std::span<const Line> lines, Sl
     for (const StreetShape::Node& node : line.shape->nodes) {
       const Slot& at = *slot++;
       if (node.kind != Kind::kDeal) continue;
-      Deal deal{&line.shape->deals[node.deal], &game_.nodes()[at.node], nullptr,
-                {}, at.values};
+      Deal deal{&line.shape->deals[node.deal], &game_.nodes()[at.node], nullptr, {}, at.values};
       if (at.reach) {
         float* const scaled = scratch.take<float>(opp_row());
         scale_row(scaled, at.reach, deal_factor(*deal.node), opp_row());
@@ -375,7 +372,7 @@ void Traversal::deal_cards(std::span<const Deal> deals, std::size_t begin, std::
       const std::size_t last = group_ends.items()[g];
       const bool last_group = g + 1 == group_ends.items().size();
       const std::span<const Line> next =
-          !last_group          ? lines.subspan(last, group_ends.items()[g + 1] - last)
+          !last_group         ? lines.subspan(last, group_ends.items()[g + 1] - last)
           : next_card.empty() ? next_card
                               : next_card.first(group_ends.items()[0]);
       walk(lines.subspan(first, last - first), next, {scratch, false});
@@ -403,8 +400,7 @@ void Traversal::list_tables(std::span<const Line> lines, std::span<const Line> n
     const PlanNode& board = game_.nodes()[lines[0].root];
     const PlanNode& next_board = game_.nodes()[next[0].root];
     if (next_board.river != board.river) {
-      const RunoutOrder& order =
-          game_.cards().runout_order(next_board.turn, next_board.river);
+      const RunoutOrder& order = game_.cards().runout_order(next_board.turn, next_board.river);
       for (const Seat seat : {kOop, kIp}) {
         const SweepHands& hands = order.hands[seat];
         ahead.add(hands.by_hand.data(), hands.by_hand.size_bytes());

@@ -28,12 +28,12 @@ struct DiscountParams {
 /// What a seat that is measured plays against the other seat's average strategy.
 enum class Response : std::uint8_t { kAverage, kBest };
 
-/// The streets are walked one after the other, each in three sweeps over its betting tree: down, for
-/// the reach of every node; across, for the values of the terminal nodes, many at a time, and of
-/// the deals, which are streets again; and up, for the values of the decision nodes. Several trees
-/// that stand on the same board, below different betting lines, are swept together, so that their
-/// terminal nodes fill the lanes of the processor. A node's own arithmetic and the order of its sums
-/// are those of a recursive walk.
+/// The streets are walked one after the other, each in three sweeps over its betting tree: down,
+/// for the reach of every node; across, for the values of the terminal nodes, many at a time, and
+/// of the deals, which are streets again; and up, for the values of the decision nodes. Several
+/// trees that stand on the same board, below different betting lines, are swept together, so that
+/// their terminal nodes fill the lanes of the processor. A node's own arithmetic and the order of
+/// its sums are those of a recursive walk.
 ///
 /// A traversal has one value for each hand, or two where a seat's best response and its average
 /// strategy are wanted together: reach and payoffs are the same for both.
@@ -46,8 +46,7 @@ class Traversal {
             WorkerPool* pool, std::span<ScratchStack> scratch);
   /// One that only reads; `responses` holds one or two out of `kAverage` and `kBest`.
   Traversal(const Game& game, const SolverState& states, Seat seat,
-            std::span<const Response> responses, WorkerPool* pool,
-            std::span<ScratchStack> scratch);
+            std::span<const Response> responses, WorkerPool* pool, std::span<ScratchStack> scratch);
 
   /// Values of all hands at a node, by response, against a reach. Rows are padded (see `rows.h`).
   /// `scratch` must have one stack for each worker of the pool, the caller included; without a pool

@@ -291,7 +291,8 @@ TEST(CardContext, MemoryCoversEveryTable) {
       entries += hands * sizeof(LiveHand);
     }
     const std::size_t heads =
-        kNumPockets * (2 * sizeof(BySeat<StrengthList>) + sizeof(RunoutOrder)) + kNumCards * sizeof(BySeat<LiveHandList>);
+        kNumPockets * (2 * sizeof(BySeat<StrengthList>) + sizeof(RunoutOrder)) +
+        kNumCards * sizeof(BySeat<LiveHandList>);
     EXPECT_GE(cards.memory_bytes(), entries + heads) << text;
     EXPECT_LE(cards.memory_bytes(), (entries + heads) * 5 / 4 + 4096) << text;
   }

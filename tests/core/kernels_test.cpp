@@ -179,9 +179,11 @@ TEST_P(Kernels, ScaleAndAddRows) {
   EXPECT_EQ(out, expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    InstructionSets, Kernels, testing::ValuesIn(velmora::supported_instruction_sets()),
-    [](const auto& set) { return std::string(velmora::instruction_set_name(set.param)); });
+INSTANTIATE_TEST_SUITE_P(InstructionSets, Kernels,
+                         testing::ValuesIn(velmora::supported_instruction_sets()),
+                         [](const auto& set) {
+                           return std::string(velmora::instruction_set_name(set.param));
+                         });
 
 TEST(CompressedStorage, RoundsToTheNearestStepOfTheGreatestMagnitude) {
   // Four hands, so that half of each row is padding; the padding's value must not set the scale.

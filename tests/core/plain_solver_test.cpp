@@ -130,8 +130,8 @@ TEST(PlainSolver, AgreesOnRandomRiversAndTurns) {
     Spot spot = random_spot(random, board, 3 + round % 9);
     if (round % 4 >= 2) spot.sizes[2] = {"66", round % 8 < 4 ? "a" : ""};
     describe(spot);
-    SCOPED_TRACE(testing::Message() << round << ": " << board << " " << spot.oop_range << " | "
-                                    << spot.ip_range);
+    SCOPED_TRACE(testing::Message()
+                 << round << ": " << board << " " << spot.oop_range << " | " << spot.ip_range);
     expect_same_bits(*make_game(spot));
   }
 }

@@ -126,8 +126,7 @@ TEST(MemoryEstimate, StopsCountingAtABound) {
     std::string bets;
     std::string raises;
     std::int32_t stack;
-  } cases[] = {{"AhKd7c", wide, raises, 2'000'000'000},
-               {"AhKd7c2s9h", many, many, 100'000}};
+  } cases[] = {{"AhKd7c", wide, raises, 2'000'000'000}, {"AhKd7c2s9h", many, many, 100'000}};
   for (const auto& c : cases) {
     SCOPED_TRACE(std::string(c.board) + " " + c.bets.substr(0, 20));
     SolveConfig config = flop_request();

@@ -245,17 +245,15 @@ bool showdown_raked(const Game& game, CardCode turn, CardCode river, double pot,
     const double not_over = upto.without(hand.card_a, hand.card_b);
     const double over = all.without(hand.card_a, hand.card_b) - not_over;
     const double ties = not_over - under + twin_reach(game, seat, hand.hand, reach);
-    result[hand.hand] =
-        static_cast<float>(ties * pay.tie + under * pay.win + over * pay.lose);
+    result[hand.hand] = static_cast<float>(ties * pay.tie + under * pay.win + over * pay.lose);
   }
   return true;
 }
 
 bool any_showdown(const Game& game, CardCode turn, CardCode river, double pot, double raked_pot,
                   Seat seat, std::span<const float> reach, std::span<float> result) {
-  return rake(game, raked_pot) > 1e-9
-             ? showdown_raked(game, turn, river, pot, seat, reach, result)
-             : showdown(game, turn, river, pot, seat, reach, result);
+  return rake(game, raked_pot) > 1e-9 ? showdown_raked(game, turn, river, pot, seat, reach, result)
+                                      : showdown(game, turn, river, pot, seat, reach, result);
 }
 
 void runouts(const Game& game, const PlanNode& node, Seat seat, std::span<const float> reach,

@@ -51,8 +51,8 @@ std::array<float, 2> PlainSolver::measure(bool best) {
     const std::vector<float> values = from_root(best ? Walk::kBest : Walk::kAverage, seat, scratch);
     double gain = 0;
     for (std::size_t h = 0; h < values.size(); ++h) {
-      gain += static_cast<double>(game_.cards().hand_weights(seat)[h]) *
-              static_cast<double>(values[h]);
+      gain +=
+          static_cast<double>(game_.cards().hand_weights(seat)[h]) * static_cast<double>(values[h]);
     }
     gains[seat] = static_cast<float>(gain);
   }
