@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "kernels.h"
+#include "lane_blocks.h"
 #include "lane_vectors.h"
 #include "multiversion.h"
 #include "rows.h"
@@ -232,67 +233,6 @@ VELMORA_BODY showdown_lanes_raked(const RunoutOrder& order, Seat seat, const Bat
       cursor.step();
     }
     cursor.refill();
-  }
-}
-
-/// Two squares of 4 by 4 floats side by side, turned each by itself.
-using Row4 = Vector<float, 4>;
-using Row8 = Vector<float, 8>;
-
-[[gnu::always_inline]] inline void transpose(Row8* row) {
-  Row8 pairs[4];
-  for (int i = 0; i < 2; ++i) {
-    pairs[i] = __builtin_shufflevector(row[2 * i], row[2 * i + 1], 0, 8, 1, 9, 4, 12, 5, 13);
-    pairs[i + 2] = __builtin_shufflevector(row[2 * i], row[2 * i + 1], 2, 10, 3, 11, 6, 14, 7, 15);
-  }
-  for (int i = 0; i < 2; ++i) {
-    const Row8& a = pairs[2 * i];
-    const Row8& b = pairs[2 * i + 1];
-    row[2 * i] = __builtin_shufflevector(a, b, 0, 1, 8, 9, 4, 5, 12, 13);
-    row[2 * i + 1] = __builtin_shufflevector(a, b, 2, 3, 10, 11, 6, 7, 14, 15);
-  }
-}
-
-[[gnu::always_inline]] inline void load_halves(Row8& row, const float* low, const float* high) {
-  Row4 a, b;
-  std::memcpy(&a, low, sizeof(a));
-  std::memcpy(&b, high, sizeof(b));
-  row = __builtin_shufflevector(a, b, 0, 1, 2, 3, 4, 5, 6, 7);
-}
-
-/// Rows of `L` lanes into a block of one float of each lane for each hand, four hands at a time.
-template <int L>
-VELMORA_BODY interleave(const float* const* rows, std::size_t hands, float* block) {
-  for (std::size_t h = 0; h < hands; h += 4) {
-    Row8 square[4];
-    for (int i = 0; i < 4; ++i) load_halves(square[i], rows[i] + h, rows[(i + 4) % L] + h);
-    transpose(square);
-    for (std::size_t i = 0; i < 4; ++i) {
-      std::memcpy(block + (h + i) * L, &square[i], sizeof(float) * L);
-    }
-  }
-}
-
-/// And back. `hands` is a multiple of 8.
-template <int L>
-VELMORA_BODY deinterleave(const float* block, std::size_t hands, float* const* rows) {
-  for (std::size_t h = 0; h < hands; h += 8) {
-    Row8 first[4] = {};
-    Row8 second[4] = {};
-    for (std::size_t i = 0; i < 4; ++i) {
-      std::memcpy(&first[i], block + (h + i) * L, sizeof(float) * L);
-      std::memcpy(&second[i], block + (h + i + 4) * L, sizeof(float) * L);
-    }
-    transpose(first);
-    transpose(second);
-    for (int i = 0; i < 4; ++i) {
-      const Row8 low = __builtin_shufflevector(first[i], second[i], 0, 1, 2, 3, 8, 9, 10, 11);
-      std::memcpy(rows[i] + h, &low, sizeof(low));
-      if constexpr (L == 8) {
-        const Row8 high = __builtin_shufflevector(first[i], second[i], 4, 5, 6, 7, 12, 13, 14, 15);
-        std::memcpy(rows[i + 4] + h, &high, sizeof(high));
-      }
-    }
   }
 }
 
