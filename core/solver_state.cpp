@@ -141,26 +141,18 @@ std::size_t SolverState::place(const NodeState& state, bool sums) {
   return state.first_cell + stagger(state.seat, sums);
 }
 
-void SolverState::list_regrets(std::size_t first, std::size_t last, MemoryAhead& ahead) const {
+void SolverState::list_tables(std::size_t first, std::size_t last, bool sums,
+                              MemoryAhead& ahead) const {
   const NodeState& begin = nodes_[first];
   const std::size_t cells = nodes_[last].first_cell + nodes_[last].cells() - begin.first_cell;
+  const auto list = [&]<typename Cell>(const Arenas<Cell>& arenas) {
+    const auto& arena = (sums ? arenas.strategy_sums : arenas.regrets)[begin.seat];
+    ahead.add(arena.data() + place(begin, sums), cells * sizeof(Cell));
+  };
   if (compressed_) {
-    ahead.add(quantized_.regrets[begin.seat].data() + place(begin, false),
-              cells * sizeof(std::int16_t));
+    list(quantized_);
   } else {
-    ahead.add(plain_.regrets[begin.seat].data() + place(begin, false), cells * sizeof(float));
-  }
-}
-
-void SolverState::list_strategy_sums(std::size_t first, std::size_t last,
-                                     MemoryAhead& ahead) const {
-  const NodeState& begin = nodes_[first];
-  const std::size_t cells = nodes_[last].first_cell + nodes_[last].cells() - begin.first_cell;
-  if (compressed_) {
-    ahead.add(quantized_.strategy_sums[begin.seat].data() + place(begin, true),
-              cells * sizeof(std::int16_t));
-  } else {
-    ahead.add(plain_.strategy_sums[begin.seat].data() + place(begin, true), cells * sizeof(float));
+    list(plain_);
   }
 }
 

@@ -72,8 +72,7 @@ class SolverState {
     for (std::size_t i = 0; i < count * sizeof(NodeState); i += 64) __builtin_prefetch(begin + i);
   }
   /// Lists the regrets or the strategy sums of one seat's nodes from `first` to `last`.
-  void list_regrets(std::size_t first, std::size_t last, MemoryAhead& ahead) const;
-  void list_strategy_sums(std::size_t first, std::size_t last, MemoryAhead& ahead) const;
+  void list_tables(std::size_t first, std::size_t last, bool sums, MemoryAhead& ahead) const;
 
   /// Bytes of the tables that `prepare` would allocate for a tree of these counts.
   static std::uint64_t table_bytes(const PlanCounts& counts, const CardContext& cards,

@@ -204,7 +204,9 @@ void Traversal::sweep_across(std::span<const Line> lines, std::span<const Line> 
     }
   };
   const std::size_t tasks = batches.items().size() + cards;
-  const bool wide_enough = learning_ ? cards >= kLeastCards && opp_row() >= kLeastHands : tasks > 1;
+  const bool wide_enough =
+      learning_ ? cards >= kLeastCards && game_.num_hands(opponent_of(seat_)) >= kLeastHands
+                : tasks > 1;
   const bool safe = std::all_of(deals.begin(), deals.end(), [this](const Deal& deal) {
     return states_.parallel_safe(static_cast<std::size_t>(deal.node - game_.nodes().data()));
   });
@@ -327,9 +329,9 @@ void Traversal::list_tables(std::span<const Line> lines, std::span<const Line> n
   for (const Line& line : lines) {
     const StreetShape::Decisions& own = line.shape->decisions[seat_];
     if (!own.any) continue;
-    if (learning_) states_.list_regrets(line.root + own.first, line.root + own.last, ahead);
+    if (learning_) states_.list_tables(line.root + own.first, line.root + own.last, false, ahead);
     if (learning_ || plays_average) {
-      states_.list_strategy_sums(line.root + own.first, line.root + own.last, ahead);
+      states_.list_tables(line.root + own.first, line.root + own.last, true, ahead);
     }
   }
   if (!next.empty() && next[0].shape->river) {
@@ -350,9 +352,9 @@ void Traversal::list_tables(std::span<const Line> lines, std::span<const Line> n
     const StreetShape::Decisions& other = line.shape->decisions[opponent_of(seat_)];
     if (!other.any || !line.reach) continue;
     if (learning_) {
-      states_.list_regrets(line.root + other.first, line.root + other.last, ahead);
+      states_.list_tables(line.root + other.first, line.root + other.last, false, ahead);
     } else {
-      states_.list_strategy_sums(line.root + other.first, line.root + other.last, ahead);
+      states_.list_tables(line.root + other.first, line.root + other.last, true, ahead);
     }
   }
 }
