@@ -63,12 +63,15 @@ std::vector<std::pair<velmora::CardCode, velmora::CardCode>> runouts(const velmo
   return pairs;
 }
 
+/// Rows as the solver has them: each starts on a vector's boundary.
+using Cells = std::vector<float, velmora::CacheLineAllocator<float>>;
+
 /// Reach as deep nodes have it: `zeros` is the share of hands that don't come here.
-std::vector<float> random_rows(std::size_t rows, std::size_t row, double zeros) {
+Cells random_rows(std::size_t rows, std::size_t row, double zeros) {
   std::mt19937 random(1);
   std::uniform_real_distribution<float> value(0.01F, 1.0F);
   std::bernoulli_distribution is_zero(zeros);
-  std::vector<float> cells(rows * row);
+  Cells cells(rows * row);
   for (float& cell : cells) cell = is_zero(random) ? 0.0F : value(random);
   return cells;
 }
@@ -89,9 +92,9 @@ void river_payoffs(benchmark::State& state) {
     const bool is_fold = velmora::shape_node(game, node).kind == Kind::kFold;
     return state.range(2) == (is_fold ? kShowdowns : kFolds);
   });
-  const std::vector<float> reach =
+  const Cells reach =
       random_rows(terminals.size(), opp_row, static_cast<double>(state.range(1)) / 100);
-  std::vector<float> results(terminals.size() * own_row);
+  Cells results(terminals.size() * own_row);
   std::vector<velmora::PayoffLane> folds, showdowns;
   for (std::size_t i = 0; i < terminals.size(); ++i) {
     const velmora::StreetShape::Node node = velmora::shape_node(game, terminals[i]);
@@ -153,7 +156,7 @@ struct NodeTables {
 
   std::size_t actions, row, count;
   velmora::PageArray<float> regrets, sums;
-  std::vector<float> values, reach, strategy, denominators, result, split;
+  Cells values, reach, strategy, denominators, result, split;
   std::vector<const float*> rows;
   std::size_t node = 0;
 };
@@ -220,7 +223,7 @@ void memory(benchmark::State& state) {
   velmora::PageArray<float> table(std::size_t{128} << 20);
   std::fill_n(table.data(), table.size(), 1.0F);
   constexpr std::size_t kPiece = 4096;
-  std::vector<float> sum(kPiece);
+  Cells sum(kPiece);
   for (auto _ : state) {
     for (std::size_t i = 0; i < table.size(); i += kPiece) {
       if (writes) {

@@ -131,7 +131,7 @@ VELMORA_BODY sum_actions_body(float* __restrict result, ValueRows values, std::s
   for (std::size_t h = 0; h < H; h += kRowPadding) {
     Amounts sum = Amounts::zero();
     for (std::size_t a = 0; a < A; ++a) sum = sum + Amounts::widen(values[a] + h);
-    sum.narrow(result + h);
+    sum.narrow().store(result + h);
   }
 }
 VELMORA_MULTIVERSION_WIDE(sum_actions,
@@ -296,7 +296,7 @@ template <std::size_t A, int F, int W>
   }
   const Amounts uniform = Amounts::all(1.0 / static_cast<double>(A));
   for (std::size_t a = 0; a < A; ++a) {
-    held[a].over_or(total, uniform).narrow(strategy[a]);
+    held[a].over_or(total, uniform).narrow().store(strategy[a]);
   }
 }
 
@@ -335,7 +335,7 @@ VELMORA_BODY average_values_actions(float* __restrict result, const float* __res
     for (std::size_t a = 0; a < A; ++a) {
       sum = sum + Amounts::widen(strategy[a]) * Amounts::widen(values[a] + h);
     }
-    sum.narrow(result + h);
+    sum.narrow().store(result + h);
   }
 }
 

@@ -47,24 +47,19 @@ VELMORA_BODY interleave(const float* const* rows, std::size_t hands, float* bloc
   }
 }
 
-/// And back. `hands` is a multiple of 8.
+/// And back, eight hands at a time, of which `hands` is a multiple.
 template <int L>
 VELMORA_BODY deinterleave(const float* block, std::size_t hands, float* const* rows) {
   for (std::size_t h = 0; h < hands; h += 8) {
-    Row8 first[4] = {};
-    Row8 second[4] = {};
-    for (std::size_t i = 0; i < 4; ++i) {
-      std::memcpy(&first[i], block + (h + i) * L, sizeof(float) * L);
-      std::memcpy(&second[i], block + (h + i + 4) * L, sizeof(float) * L);
-    }
-    transpose(first);
-    transpose(second);
-    for (int i = 0; i < 4; ++i) {
-      const Row8 low = __builtin_shufflevector(first[i], second[i], 0, 1, 2, 3, 8, 9, 10, 11);
-      std::memcpy(rows[i] + h, &low, sizeof(low));
-      if constexpr (L == 8) {
-        const Row8 high = __builtin_shufflevector(first[i], second[i], 4, 5, 6, 7, 12, 13, 14, 15);
-        std::memcpy(rows[i + 4] + h, &high, sizeof(high));
+    for (std::size_t lane = 0; lane < L; lane += 4) {
+      Row8 square[4];
+      for (std::size_t i = 0; i < 4; ++i) {
+        const float* const hand = block + (h + i) * L + lane;
+        load_halves(square[i], hand, hand + 4 * L);
+      }
+      transpose(square);
+      for (std::size_t i = 0; i < 4; ++i) {
+        std::memcpy(rows[lane + i] + h, &square[i], sizeof(Row8));
       }
     }
   }

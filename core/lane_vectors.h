@@ -13,13 +13,36 @@ struct VectorOf {
 template <typename T, int N>
 using Vector = typename VectorOf<T, N>::Type;
 
+/// `L` lanes of single precision in vectors of `W` floats.
+template <int L, int W>
+struct FloatLanes {
+  static constexpr int kParts = L / W;
+  using Part = Vector<float, W>;
+
+  Part part[kParts];
+
+  [[gnu::always_inline]] static FloatLanes load(const float* from) {
+    FloatLanes lanes;
+    for (int k = 0; k < kParts; ++k) std::memcpy(&lanes.part[k], from + k * W, sizeof(Part));
+    return lanes;
+  }
+  [[gnu::always_inline]] void store(float* to) const {
+    for (int k = 0; k < kParts; ++k) std::memcpy(to + k * W, &part[k], sizeof(Part));
+  }
+  [[gnu::always_inline]] FloatLanes operator+(const FloatLanes& y) const {
+    FloatLanes lanes;
+    for (int k = 0; k < kParts; ++k) lanes.part[k] = part[k] + y.part[k];
+    return lanes;
+  }
+};
+
 /// `L` lanes of double precision in vectors of `W` doubles.
 template <int L, int W>
 struct Lanes {
   static_assert(L % W == 0);
   static constexpr int kParts = L / W;
   using Part = Vector<double, W>;
-  using FloatPart = Vector<float, W>;
+  using Floats = FloatLanes<L, W>;
 
   Part part[kParts];
 
@@ -48,8 +71,10 @@ struct Lanes {
     return lanes;
   }
   /// Rounded to single precision.
-  [[gnu::always_inline]] void narrow(float* to) const {
-    for (int k = 0; k < kParts; ++k) narrow_part(part[k], to + k * W);
+  [[gnu::always_inline]] Floats narrow() const {
+    Floats lanes;
+    for (int k = 0; k < kParts; ++k) narrow_part(part[k], lanes.part[k]);
+    return lanes;
   }
 
   [[gnu::always_inline]] Lanes operator+(const Lanes& y) const {
@@ -102,22 +127,21 @@ struct Lanes {
     } else
 #endif
     {
-      FloatPart narrow;
+      typename Floats::Part narrow;
       std::memcpy(&narrow, from, sizeof(narrow));
       wide = __builtin_convertvector(narrow, Part);
     }
   }
-  [[gnu::always_inline]] static void narrow_part(const Part& wide, float* to) {
+  [[gnu::always_inline]] static void narrow_part(const Part& wide, typename Floats::Part& narrow) {
 #if defined(__x86_64__)
     if constexpr (W == 8) {
-      FloatPart narrow;
-      __asm__("vcvtpd2ps %1, %0" : "=v"(narrow) : "v"(wide));
-      std::memcpy(to, &narrow, sizeof(narrow));
+      typename Floats::Part converted;
+      __asm__("vcvtpd2ps %1, %0" : "=v"(converted) : "v"(wide));
+      narrow = converted;
     } else
 #endif
     {
-      const FloatPart narrow = __builtin_convertvector(wide, FloatPart);
-      std::memcpy(to, &narrow, sizeof(narrow));
+      narrow = __builtin_convertvector(wide, typename Floats::Part);
     }
   }
 };

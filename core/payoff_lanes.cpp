@@ -66,6 +66,12 @@ struct CardSums {
   }
 };
 
+/// Replaces what is at `result`, or adds to it.
+template <bool kAdds, int L, int W>
+[[gnu::always_inline]] inline void put(const FloatLanes<L, W>& gain, float* result) {
+  (kAdds ? FloatLanes<L, W>::load(result) + gain : gain).store(result);
+}
+
 template <int L, int W>
 VELMORA_BODY fold_lanes(SweepList own, SweepList opp, const Batch& batch, MemoryAhead& ahead) {
   using Amounts = Lanes<L, W>;
@@ -97,7 +103,8 @@ VELMORA_BODY fold_lanes(SweepList own, SweepList opp, const Batch& batch, Memory
   for (const SweepHand* h = own.data(); h != own_end; ++h) {
     const Amounts same = Amounts::widen(at<L>(reach, h->twin));
     ((total + same - sums.of(h->card_a) - sums.of(h->card_b)) * amount)
-        .narrow(at<L>(results, h->hand));
+        .narrow()
+        .store(at<L>(results, h->hand));
     cursor.step();
   }
 }
@@ -107,6 +114,7 @@ template <int L, int W, bool kAdds>
 VELMORA_BODY showdown_lanes(const RunoutOrder& order, Seat seat, const Batch& batch,
                             MemoryAhead& ahead) {
   using Amounts = Lanes<L, W>;
+  using Floats = FloatLanes<L, W>;
   const SweepHand* const own_hands = order.hands[seat].by_strength.data();
   const SweepHand* const opp_hands = order.hands[opponent_of(seat)].by_strength.data();
   const StrengthGroup* const first = order.groups.data();
@@ -132,7 +140,7 @@ VELMORA_BODY showdown_lanes(const RunoutOrder& order, Seat seat, const Batch& ba
     const SweepHand* const own_end = own_hands + group->end[seat];
     const SweepHand* const opp_end = opp_hands + group->end[opp_seat];
     for (; own != own_end; ++own) {
-      (sums.seen_by(*own, total) * win).narrow(won(own));
+      (sums.seen_by(*own, total) * win).narrow().store(won(own));
       cursor.step();
     }
     for (; opp != opp_end; ++opp) {
@@ -153,14 +161,8 @@ VELMORA_BODY showdown_lanes(const RunoutOrder& order, Seat seat, const Batch& ba
         group == first ? opp_hands : opp_hands + group[-1].end[opp_seat];
     while (own != own_end) {
       --own;
-      alignas(64) float lost[L];
-      (sums.seen_by(*own, total) * lose).narrow(lost);
-      const float* const gained = won(own);
-      float* const result = at<L>(results, own->hand);
-      for (int l = 0; l < L; ++l) {
-        const float gain = gained[l] + lost[l];
-        result[l] = kAdds ? result[l] + gain : gain;
-      }
+      const Floats gain = Floats::load(won(own)) + (sums.seen_by(*own, total) * lose).narrow();
+      put<kAdds>(gain, at<L>(results, own->hand));
       cursor.step();
     }
     while (opp != opp_end) {
@@ -222,14 +224,7 @@ VELMORA_BODY showdown_lanes_raked(const RunoutOrder& order, Seat seat, const Bat
       const Amounts same = Amounts::widen(at<L>(reach, own->twin));
       const Amounts ties = up_to - below + same;
       const Amounts gain = ties * tie + below * win + stronger * lose;
-      float* const result = at<L>(results, own->hand);
-      if constexpr (kAdds) {
-        alignas(64) float gains[L];
-        gain.narrow(gains);
-        for (int l = 0; l < L; ++l) result[l] += gains[l];
-      } else {
-        gain.narrow(result);
-      }
+      put<kAdds>(gain.narrow(), at<L>(results, own->hand));
       cursor.step();
     }
     cursor.refill();
@@ -328,8 +323,8 @@ VELMORA_MULTIVERSION(deinterleave_rows,
                      (lanes, block, hands, rows))
 
 /// Calls `run(lanes, batch)` for the nodes in batches of 8 lanes, the last of them of 4 if that is
-/// enough, and brings the results into the nodes' rows; those in `blocked`, which are in no list,
-/// are zeros. Lanes without a node repeat the first one.
+/// enough, and brings the results into the nodes' rows. Those in `blocked` are in no list and stay
+/// zeros. Lanes without a node repeat the first one.
 template <typename Run>
 void in_batches(const PayoffSeat& seat, std::span<const PayoffLane> nodes,
                 std::span<const std::uint16_t> blocked, ScratchStack& scratch, const Run& run) {
@@ -339,6 +334,7 @@ void in_batches(const PayoffSeat& seat, std::span<const PayoffLane> nodes,
   float* const reach_block = scratch.take<float>((opp_hands + 1) * kLanes);
   float* const result_block = scratch.take<float>(own_hands * kLanes);
   float* const nowhere = scratch.take<float>(own_hands);
+  int lanes_before = 0;
   for (std::size_t first = 0; first < nodes.size(); first += kLanes) {
     const std::size_t count = std::min<std::size_t>(nodes.size() - first, kLanes);
     const int lanes = count <= kFewLanes ? kFewLanes : kLanes;
@@ -354,10 +350,13 @@ void in_batches(const PayoffSeat& seat, std::span<const PayoffLane> nodes,
       batch.tie[l] = node.shares.tie;
     }
     interleave_rows(lanes, reach.data(), opp_hands, reach_block);
-    std::fill_n(reach_block + opp_hands * static_cast<std::size_t>(lanes), lanes, 0.0F);
-    for (const std::uint16_t place : blocked) {
-      std::fill_n(result_block + place / sizeof(float) * static_cast<std::size_t>(lanes), lanes,
-                  0.0F);
+    if (lanes != lanes_before) {
+      lanes_before = lanes;
+      const std::size_t wide = static_cast<std::size_t>(lanes);
+      std::fill_n(reach_block + opp_hands * wide, wide, 0.0F);
+      for (const std::uint16_t place : blocked) {
+        std::fill_n(result_block + place / sizeof(float) * wide, wide, 0.0F);
+      }
     }
     run(lanes, batch);
     deinterleave_rows(lanes, result_block, own_hands, results.data());
@@ -424,11 +423,8 @@ void runout_payoff(const PayoffSeat& seat, CardCode turn, bool raked,
   const std::vector<std::pair<CardCode, CardCode>> runouts =
       runouts_of(seat.cards.board_mask(), turn);
   MemoryAhead ahead;
-  std::vector<std::uint16_t> all_hands(padded(seat.own_hands()));
-  for (std::size_t h = 0; h < all_hands.size(); ++h) {
-    all_hands[h] = static_cast<std::uint16_t>(h * sizeof(float));
-  }
-  in_batches(seat, nodes, all_hands, scratch, [&](int lanes, const Batch& batch) {
+  in_batches(seat, nodes, {}, scratch, [&](int lanes, const Batch& batch) {
+    std::fill_n(batch.results, padded(seat.own_hands()) * static_cast<std::size_t>(lanes), 0.0F);
     evaluated = 0;
     for (const auto& [first, second] : runouts) {
       const RunoutOrder& order = seat.cards.runout_order(first, second);
