@@ -33,6 +33,11 @@ Item {
     readonly property bool _hasEnoughRamToSolve: SolveGate.hasEnoughRamToSolve(
         controller.solveRequiredMemoryBytes, controller.systemAvailableMemoryBytes,
         controller.resultsReclaimableMemoryBytes)
+    /// Until the window's first frame is there, Setup is drawn with it, out of sight. The renderer
+    /// prepares a shader when it first draws with it, and most of them are first met on that page:
+    /// without help of a graphics card that is more than a tenth of a second, which nobody should
+    /// wait after a click.
+    property bool _drawsAhead: true
     /// A running solve holds the user on its page.
     readonly property bool _navigationLocked: navIndex === Pages.solve && controller.running
 
@@ -112,6 +117,13 @@ Item {
         }
     }
 
+    function _endDrawingAhead() {
+        if (!_drawsAhead)
+            return
+        _drawsAhead = false
+        projectPage.visible = navIndex === Pages.setup
+    }
+
     function _scheduleSolveMemEstimate() {
         memoryEstimateTimer.restart()
     }
@@ -119,6 +131,17 @@ Item {
     Component.onCompleted: {
         loadTheme()
         resetToStartupBlank()
+        projectPage.visible = true
+    }
+
+    onNavIndexChanged: _endDrawingAhead()
+
+    Connections {
+        target: shell._drawsAhead ? shell.Window.window : null
+
+        function onFrameSwapped() {
+            shell._endDrawingAhead()
+        }
     }
 
     Theme {
@@ -242,6 +265,9 @@ Item {
                 controller: shell.controller
                 project: project_
                 canSolve: shell.canSolve
+                transform: Translate {
+                    x: shell._drawsAhead ? pages.width : 0
+                }
                 onGoToSolve: shell.requestPage(Pages.solve)
             }
 

@@ -25,6 +25,17 @@ MainWindowCase {
         compare(controller.statusText, "Ready")
     }
 
+    function test_setup_is_drawn_ahead_out_of_sight() {
+        const found = () => Find.all(window.contentItem, item => item.recommendedWindowWidth !== undefined)
+        tryVerify(() => found().length === 0)
+        clickButton("Quick Solve")
+        const setup = found()[0]
+        compare(setup.mapToItem(window.contentItem, 0, 0).x, 0)
+        compare(setup.width, window.contentItem.width)
+        keyClick(Qt.Key_1, Qt.ControlModifier)
+        compare(found().length, 0)
+    }
+
     function test_from_a_new_solve_to_results() {
         // Home, by mouse.
         clickButton("New Solve")
