@@ -22,6 +22,9 @@ ListView {
     boundsBehavior: Flickable.StopAtBounds
     activeFocusOnTab: true
     reuseItems: true
+    // Rows at the edge are at hand already. A row that is still being made ahead of the edge when the
+    // list runs empty brings newer versions of Qt to a warning.
+    cacheBuffer: 0
     spacing: theme.spaceXs
     Accessible.role: Accessible.List
 

@@ -22,6 +22,7 @@ Item {
     /// From where cards are dealt, in pixels.
     property real dealFrom: 0
 
+    readonly property real stackWidth: stackPill.width
     readonly property color seatColor: seat === "IP" ? theme.info : theme.actionBet
 
     function _cardsName(): string {
@@ -61,6 +62,8 @@ Item {
     }
 
     Rectangle {
+        id: stackPill
+
         anchors.horizontalCenter: parent.horizontalCenter
         y: root.stackAbove ? -height - root.theme.spaceXs : row.height + root.theme.spaceXs
         width: stackRow.implicitWidth + 2 * root.theme.spaceSm

@@ -210,9 +210,11 @@ Item {
             PlayPrompt {
                 id: prompt
 
-                readonly property Item seat: root._actingSeat === "IP" ? ip : oop
+                readonly property PlaySeat seat: root._actingSeat === "IP" ? ip : oop
+                readonly property real besideSeat: Math.max(oop.width / 2 + root.theme.spaceLg,
+                                                            oop.stackWidth / 2 + root.theme.spaceSm)
 
-                x: seat === ip ? table.width / 2 + root._besideDealer : seat.x + seat.width + root.theme.spaceLg
+                x: table.width / 2 + (seat === ip ? root._besideDealer : besideSeat)
                 y: Math.max(0, Math.min(table.height - height, seat.y + (seat.height - height) / 2))
                 width: Math.min(380, 0.45 * table.width, table.width - x - root.theme.spaceSm)
                 theme: root.theme
