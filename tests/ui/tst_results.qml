@@ -69,6 +69,7 @@ MainWindowCase {
         const card = Find.all(window.contentItem.parent, item => item.actionIndex !== undefined && item.rank === "9" && item.suit === wanted)[0]
         compare(names[card.actionIndex], listed[0])
         mouseClick(card)
+        tryVerify(() => !Find.text(window.contentItem.parent, "Choose River Card"))
         settle()
         compare(walk.treeBoardText, "QsJh2h3s9" + wanted)
         compare(walk.nodePath.slice(1), ["Check", "Check", "9" + wanted])

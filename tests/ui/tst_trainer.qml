@@ -244,11 +244,12 @@ MainWindowCase {
         tryVerify(() => Find.text(window.contentItem.parent, "Choose River Card"))
         wait(200)
         keyClick(Qt.Key_Escape)
-        wait(200)
+        tryVerify(() => !Find.text(window.contentItem.parent, "Choose River Card"))
         compare(play.playBoardText, before)
         verify(play.playAwaitingUserAction)
 
         mouseClick(river)
+        tryVerify(() => Find.text(window.contentItem.parent, "Choose River Card"))
         wait(200)
         const names = controller.nodeActions(walk.treeLevels.get(play.chanceLevels[4]).nodeIndex).map(action => action.name)
         const listed = ["9d", "9c"].filter(card => names.includes(card))[0]
