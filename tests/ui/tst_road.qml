@@ -26,14 +26,21 @@ MainWindowCase {
     }
 
     function test_setup_is_drawn_ahead_out_of_sight() {
-        const found = () => Find.all(window.contentItem, item => item.recommendedWindowWidth !== undefined)
-        tryVerify(() => found().length === 0)
+        const found = of => Find.all(of.contentItem, item => item.recommendedWindowWidth !== undefined)
+        const starting = Qt.createComponent("qrc:/Velmora/Main.qml").createObject(null)
+        compare(found(starting).length, 1)
+        verify(found(starting)[0].mapToItem(starting.contentItem, 0, 0).x >= starting.width)
+        tryVerify(() => found(starting).length === 0)
+        starting.destroy()
+
+        window.requestActivate()
+        tryVerify(() => window.active && found(window).length === 0)
         clickButton("Quick Solve")
-        const setup = found()[0]
+        const setup = found(window)[0]
         compare(setup.mapToItem(window.contentItem, 0, 0).x, 0)
         compare(setup.width, window.contentItem.width)
         keyClick(Qt.Key_1, Qt.ControlModifier)
-        compare(found().length, 0)
+        compare(found(window).length, 0)
     }
 
     function test_from_a_new_solve_to_results() {
