@@ -66,7 +66,6 @@ Rectangle {
 
         RowLayout {
             Layout.fillWidth: true
-            visible: root.lockable
             spacing: root.theme.spaceSm
 
             Label {
@@ -103,15 +102,32 @@ Rectangle {
                 onClicked: root.locks.resetNodeLockEdits(root.node)
             }
 
+            SmallButton {
+                visible: root.locks.lastReset !== null
+                theme: root.theme
+                type: root.type
+                text: qsTr("Undo reset")
+                onClicked: root.locks.undoReset()
+            }
+
             PrimaryButton {
                 Layout.preferredHeight: 32
                 theme: root.theme
                 type: root.type
                 text: qsTr("Re-solve")
                 loading: root.controller.running
-                enabled: root.lockable && !root.controller.running
+                enabled: !root.controller.running && (root.controller.lockCount > 0 || root.controller.locksPending)
                 onClicked: root.controller.reSolveWithNodeLocks()
             }
+        }
+
+        Label {
+            Layout.fillWidth: true
+            visible: text !== ""
+            text: root.locks.weightFault
+            color: root.theme.danger
+            font.pixelSize: root.type.labelSm
+            wrapMode: Text.Wrap
         }
 
         Label {

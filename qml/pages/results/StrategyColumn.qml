@@ -19,7 +19,7 @@ ColumnLayout {
     spacing: theme.spaceSm
 
     Label {
-        text: qsTr("Strategy by Hand")
+        text: root.view.previews ? qsTr("Strategy by Hand (preview, not solved yet)") : qsTr("Strategy by Hand")
         color: root.theme.text
         font.pixelSize: root.type.bodyMd
         font.weight: root.type.weightBold
@@ -105,7 +105,6 @@ ColumnLayout {
             theme: root.theme
             type: root.type
             locks: root.locks
-            node: root.view.node
         }
     }
 
