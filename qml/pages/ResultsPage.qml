@@ -29,6 +29,7 @@ FocusScope {
 
     function _showNewResults() {
         play_.playMode = false
+        view_.forget()
         walk_.resetTreeToRoot()
         view_.look()
     }

@@ -66,6 +66,7 @@ int main(int argc, char* argv[]) {
   }
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
   qputenv("XDG_CACHE_HOME", home.path().toUtf8());
+  qputenv("XDG_DATA_HOME", home.path().toUtf8());
   qputenv("TMPDIR", home.path().toUtf8());
   qputenv("LC_ALL", "C.UTF-8");
   QQuickStyle::setStyle("Basic");

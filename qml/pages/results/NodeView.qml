@@ -119,6 +119,16 @@ QtObject {
         controller.prepareNodeAnswers(node)
     }
 
+    /// Shows nothing: what is there belongs to a result that has gone.
+    function forget() {
+        currentActions = []
+        handWeights = {}
+        handActionProbs = {}
+        buckets = []
+        _loadedHandCombos = []
+        previews = false
+    }
+
     /// Runs again at a change of the node, the category filter, the locks and at new results.
     function refreshHandMatrix() {
         if (!loading)

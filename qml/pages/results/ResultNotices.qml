@@ -22,6 +22,9 @@ ColumnLayout {
     readonly property bool _endedBadly: !follower.running && _readRevision !== _runRevision
         && ["Cancelled", "Failed", "Refused"].includes(controller.lastRunOutcome)
 
+    readonly property bool _locksWait: controller.locksPending && !follower.running
+    readonly property bool _setupWaits: setupDiffers && !follower.running
+
     signal solveAgainRequested
     signal setupWanted
 
@@ -38,7 +41,7 @@ ColumnLayout {
         }
     }
 
-    visible: running.visible || ended.visible || failed.visible || locks.visible || setup.visible
+    visible: follower.running || _endedBadly || nodeError !== "" || _locksWait || _setupWaits
     spacing: theme.spaceXs
 
     Connections {
@@ -50,8 +53,6 @@ ColumnLayout {
     }
 
     NoticeStrip {
-        id: running
-
         Layout.fillWidth: true
         visible: root.follower.running
         theme: root.theme
@@ -70,14 +71,12 @@ ColumnLayout {
     }
 
     NoticeStrip {
-        id: ended
-
         Layout.fillWidth: true
         visible: root._endedBadly
         theme: root.theme
         type: root.type
         accentColor: root.theme.warn
-        text: visible ? root._lastRunLine() : ""
+        text: root._endedBadly ? root._lastRunLine() : ""
 
         SmallButton {
             theme: root.theme
@@ -88,8 +87,6 @@ ColumnLayout {
     }
 
     NoticeStrip {
-        id: failed
-
         Layout.fillWidth: true
         visible: root.nodeError !== ""
         theme: root.theme
@@ -99,10 +96,8 @@ ColumnLayout {
     }
 
     NoticeStrip {
-        id: locks
-
         Layout.fillWidth: true
-        visible: root.controller.locksPending && !root.follower.running
+        visible: root._locksWait
         theme: root.theme
         type: root.type
         accentColor: root.theme.warn
@@ -120,10 +115,8 @@ ColumnLayout {
     }
 
     NoticeStrip {
-        id: setup
-
         Layout.fillWidth: true
-        visible: root.setupDiffers && !root.follower.running
+        visible: root._setupWaits
         theme: root.theme
         type: root.type
         text: qsTr("Setup has changed since this solve")
