@@ -257,8 +257,10 @@ Item {
     }
 
     Connections {
-        function onLocksChanged() {
-            shell._locksAnswer = ""
+        function onLocksChanged(node: int) {
+            // A result leaves the locks of its tree as they were.
+            if (node >= 0 || shell.controller.lockCount === 0)
+                shell._locksAnswer = ""
         }
 
         function onMemoryWanted(cfg: var, needed: string, available: string) {
@@ -289,6 +291,7 @@ Item {
             toast.show(qsTr("Saved %1 at %2").arg(name).arg(new Date().toLocaleTimeString(Qt.locale(), Locale.ShortFormat)))
         }
         onProjectLoaded: (projectState, hasResults) => {
+            shell._locksAnswer = ""
             shell.applyProjectState(projectState)
             shell._noteSaved(project_.exportProjectState())
             shell.hasProject = true

@@ -12,6 +12,7 @@
 
 #include "app_controller.h"
 #include "language_manager.h"
+#include "read_back.h"
 #include "turn_clock.h"
 #include "update_manager.h"
 
@@ -39,10 +40,18 @@ class Setup : public QObject {
     engine->rootContext()->setContextProperty("appController", controller_.get());
     turnClock_ = std::make_unique<TurnClock>();
     engine->rootContext()->setContextProperty("turnClock", turnClock_.get());
+    readBack_ = std::make_unique<ReadBack>();
+    engine->rootContext()->setContextProperty("readBack", readBack_.get());
+    // How long the random drive of the window lasts, and where its randomness begins.
+    engine->rootContext()->setContextProperty(
+        "stressSeconds", qEnvironmentVariableIntValue("VELMORA_STRESS_SECONDS"));
+    engine->rootContext()->setContextProperty("stressSeed",
+                                              qEnvironmentVariableIntValue("VELMORA_STRESS_SEED"));
     engine->rootContext()->setContextProperty("testFolder", QUrl::fromLocalFile(folder_));
   }
 
   void cleanupTestCase() {
+    readBack_.reset();
     turnClock_.reset();
     controller_.reset();
     updates_.reset();
@@ -55,6 +64,7 @@ class Setup : public QObject {
   std::unique_ptr<UpdateManager> updates_;
   std::unique_ptr<AppController> controller_;
   std::unique_ptr<TurnClock> turnClock_;
+  std::unique_ptr<ReadBack> readBack_;
 };
 
 int main(int argc, char* argv[]) {
