@@ -1902,7 +1902,7 @@
     </message>
     <message>
         <source>Accuracy (Today / Total)</source>
-        <translation>Genau (heute / gesamt)</translation>
+        <translation>Trefferquote (heute/ges.)</translation>
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>

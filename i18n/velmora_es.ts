@@ -707,7 +707,7 @@
     </message>
     <message>
         <source>open ended straight draw</source>
-        <translation>escalera abierta</translation>
+        <translation>proyecto de escalera abierta</translation>
     </message>
     <message>
         <source>overpair</source>
@@ -1906,7 +1906,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>EV perdido (hoy / total)</translation>
+        <translation>EV medio perdido (hoy / total)</translation>
     </message>
     <message>
         <source>EV</source>

@@ -1604,7 +1604,7 @@
     </message>
     <message>
         <source>Save settings</source>
-        <translation>Sauver profil</translation>
+        <translation>Enregistrer profil</translation>
     </message>
     <message>
         <source>Please enter a name.</source>
@@ -1906,7 +1906,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Perte EV (jour / total)</translation>
+        <translation>Perte EV moy. (jour / total)</translation>
     </message>
     <message>
         <source>EV</source>

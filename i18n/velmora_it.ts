@@ -1906,7 +1906,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>EV perso (oggi/tot.)</translation>
+        <translation>EV medio perso (oggi/tot.)</translation>
     </message>
     <message>
         <source>EV</source>

@@ -42,7 +42,7 @@
     <name>AppController</name>
     <message>
         <source>Ready</source>
-        <translation>Gotowe</translation>
+        <translation>Gotowy</translation>
     </message>
     <message>
         <source>Starting...</source>
@@ -984,7 +984,7 @@
     </message>
     <message>
         <source>Third-party notices and license texts are included in the &apos;licenses&apos; folder next to the executable.</source>
-        <translation>Informacje o oprogramowaniu innych twórców i teksty licencji znajdują się w folderze „licenses” obok pliku programu.</translation>
+        <translation>Noty prawne innych twórców i teksty licencji znajdują się w folderze „licenses” obok pliku programu.</translation>
     </message>
     <message>
         <source>Open licenses folder</source>
@@ -992,7 +992,7 @@
     </message>
     <message>
         <source>Open notices</source>
-        <translation>Otwórz informacje</translation>
+        <translation>Otwórz noty prawne</translation>
     </message>
 </context>
 <context>
@@ -1240,7 +1240,7 @@
     </message>
     <message>
         <source>Ready to solve</source>
-        <translation>Gotowe do obliczeń</translation>
+        <translation>Gotowy do obliczeń</translation>
     </message>
     <message>
         <source>Finalizing…</source>
@@ -1337,7 +1337,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Gotowe</translation>
+        <translation>Gotowy</translation>
     </message>
     <message>
         <source>Setup Required</source>
@@ -1772,7 +1772,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Gotowe</translation>
+        <translation>Gotowy</translation>
     </message>
 </context>
 <context>
@@ -1787,7 +1787,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Gotowe</translation>
+        <translation>Gotowy</translation>
     </message>
     <message>
         <source>%1 %2%</source>
@@ -1906,7 +1906,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Strata EV (dziś/razem)</translation>
+        <translation>Śr. strata EV (dziś/razem)</translation>
     </message>
     <message>
         <source>EV</source>

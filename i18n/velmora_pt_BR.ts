@@ -1906,7 +1906,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Perda EV (hoje/total)</translation>
+        <translation>Perda EV média (hoje/total)</translation>
     </message>
     <message>
         <source>EV</source>

@@ -42,7 +42,7 @@
     <name>AppController</name>
     <message>
         <source>Ready</source>
-        <translation>Готово</translation>
+        <translation>Готов</translation>
     </message>
     <message>
         <source>Starting...</source>
@@ -992,7 +992,7 @@
     </message>
     <message>
         <source>Open notices</source>
-        <translation>Сведения о ПО</translation>
+        <translation>Открыть сведения о ПО</translation>
     </message>
 </context>
 <context>
@@ -1337,7 +1337,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Готово</translation>
+        <translation>Готов</translation>
     </message>
     <message>
         <source>Setup Required</source>
@@ -1772,7 +1772,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Готово</translation>
+        <translation>Готов</translation>
     </message>
 </context>
 <context>
@@ -1787,7 +1787,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Готово</translation>
+        <translation>Готов</translation>
     </message>
     <message>
         <source>%1 %2%</source>
@@ -1906,7 +1906,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Потеря EV (день/всего)</translation>
+        <translation>Ср. потеря EV (день/всего)</translation>
     </message>
     <message>
         <source>EV</source>
