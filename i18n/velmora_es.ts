@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>ActionFrequencies</name>
+    <message>
+        <source>Action Frequencies</source>
+        <translation>Frecuencias de acción</translation>
+    </message>
+</context>
+<context>
     <name>ActivityGrid</name>
     <message>
         <source>Solve Activity</source>
@@ -1152,6 +1159,14 @@
         <source>No hands can be dealt here. Solve the spot again to play it.</source>
         <translation>Aquí no se pueden repartir manos. Hay que volver a calcular el spot para jugarlo.</translation>
     </message>
+    <message>
+        <source>Hand Log</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Hand details</source>
+        <translation>Detalles de la mano</translation>
+    </message>
 </context>
 <context>
     <name>PlayPrompt</name>
@@ -1806,10 +1821,14 @@
     </message>
 </context>
 <context>
-    <name>StrategyPanel</name>
+    <name>StrategyViews</name>
     <message>
-        <source>Action Frequencies</source>
-        <translation>Frecuencias de acción</translation>
+        <source>Buckets</source>
+        <translation>Categorías</translation>
+    </message>
+    <message>
+        <source>Hand Details</source>
+        <translation>Detalles de las manos</translation>
     </message>
 </context>
 <context>

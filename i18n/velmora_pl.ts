@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>ActionFrequencies</name>
+    <message>
+        <source>Action Frequencies</source>
+        <translation>Częstotliwości akcji</translation>
+    </message>
+</context>
+<context>
     <name>ActivityGrid</name>
     <message>
         <source>Solve Activity</source>
@@ -1152,6 +1159,14 @@
         <source>No hands can be dealt here. Solve the spot again to play it.</source>
         <translation>Nie można tu rozdać kart. Przelicz spot ponownie, aby go rozegrać.</translation>
     </message>
+    <message>
+        <source>Hand Log</source>
+        <translation>Historia rozdań</translation>
+    </message>
+    <message>
+        <source>Hand details</source>
+        <translation>Szczegóły rozdania</translation>
+    </message>
 </context>
 <context>
     <name>PlayPrompt</name>
@@ -1806,10 +1821,14 @@
     </message>
 </context>
 <context>
-    <name>StrategyPanel</name>
+    <name>StrategyViews</name>
     <message>
-        <source>Action Frequencies</source>
-        <translation>Częstotliwości akcji</translation>
+        <source>Buckets</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Hand Details</source>
+        <translation>Szczegóły rąk</translation>
     </message>
 </context>
 <context>

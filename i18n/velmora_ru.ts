@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>ActionFrequencies</name>
+    <message>
+        <source>Action Frequencies</source>
+        <translation>Частоты действий</translation>
+    </message>
+</context>
+<context>
     <name>ActivityGrid</name>
     <message>
         <source>Solve Activity</source>
@@ -1152,6 +1159,14 @@
         <source>No hands can be dealt here. Solve the spot again to play it.</source>
         <translation>Здесь нельзя раздать руки. Рассчитайте спот заново, чтобы сыграть его.</translation>
     </message>
+    <message>
+        <source>Hand Log</source>
+        <translation>История раздач</translation>
+    </message>
+    <message>
+        <source>Hand details</source>
+        <translation>Детали раздачи</translation>
+    </message>
 </context>
 <context>
     <name>PlayPrompt</name>
@@ -1806,10 +1821,14 @@
     </message>
 </context>
 <context>
-    <name>StrategyPanel</name>
+    <name>StrategyViews</name>
     <message>
-        <source>Action Frequencies</source>
-        <translation>Частоты действий</translation>
+        <source>Buckets</source>
+        <translation>Категории</translation>
+    </message>
+    <message>
+        <source>Hand Details</source>
+        <translation>Руки подробно</translation>
     </message>
 </context>
 <context>

@@ -33,8 +33,16 @@ T.ComboBox {
     Accessible.name: label
     onChoiceChanged: _showChoice()
     onModelChanged: _showChoice()
-    onActivated: Qt.callLater(_showChoice)
+    onActivated: afterChoice.restart()
     Component.onCompleted: _showChoice()
+
+    // The choice may stay as it was.
+    Timer {
+        id: afterChoice
+
+        interval: 0
+        onTriggered: root._showChoice()
+    }
 
     FocusRing {
         theme: root.theme

@@ -64,12 +64,14 @@ Rectangle {
             }
         }
 
-        RowLayout {
+        Flow {
             Layout.fillWidth: true
             visible: root.lockable
             spacing: root.theme.spaceSm
 
             Label {
+                height: weight.height
+                verticalAlignment: Text.AlignVCenter
                 text: qsTr("Weight")
                 color: root.theme.textMuted
                 font.pixelSize: root.type.labelMd
@@ -78,7 +80,7 @@ Rectangle {
             InputField {
                 id: weight
 
-                Layout.preferredWidth: 70
+                width: 70
                 theme: root.theme
                 type: root.type
                 label: qsTr("Weight")
@@ -92,19 +94,16 @@ Rectangle {
                 }
             }
 
-            Item {
-                Layout.fillWidth: true
-            }
-
             SmallButton {
                 theme: root.theme
                 type: root.type
+                height: weight.height
                 text: qsTr("Reset weights")
                 onClicked: root.locks.resetNodeLockEdits(root.node)
             }
 
             PrimaryButton {
-                Layout.preferredHeight: 32
+                height: weight.height
                 theme: root.theme
                 type: root.type
                 text: qsTr("Re-solve")
