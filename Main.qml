@@ -10,12 +10,14 @@ ApplicationWindow {
     minimumWidth: Math.min(1100, Screen.desktopAvailableWidth)
     minimumHeight: Math.min(700, Screen.desktopAvailableHeight)
     visible: true
-    title: qsTr("Dunmarrow")
+    title: shell.windowTitle
     color: "#080B12"
     flags: Qt.Window | Qt.WindowTitleHint | Qt.WindowSystemMenuHint | Qt.WindowMinMaxButtonsHint
            | Qt.WindowCloseButtonHint
     font.family: shell.theme.uiFamily
     font.pixelSize: shell.type.bodyMd
+
+    onClosing: close => close.accepted = shell.mayClose()
 
     AppShell {
         id: shell

@@ -96,8 +96,8 @@ Rectangle {
             text: qsTr("Results")
             iconName: "chart"
             current: root.currentPage === Pages.results
-            tabEnabled: !root._locked && root.controller.resultIterations > 0
-            disabledReason: root._locked ? "" : qsTr("Run a solve to enable Results")
+            tabEnabled: root.controller.resultIterations > 0
+            disabledReason: qsTr("Run a solve to enable Results")
             onActivated: root.pageRequested(Pages.results)
         }
 

@@ -25,7 +25,11 @@ Item {
     property bool hasProject: false
     readonly property int projectRecommendedWidth: projectPage.recommendedWindowWidth
     readonly property bool developerMode: controller.developerMode
-    readonly property bool canSolve: _canSolveBase && _hasEnoughRamToSolve
+    readonly property bool canSolve: _canSolveBase && (_memoryUnknown || _hasEnoughRamToSolve)
+    /// Whether something would be lost without a save: an edit of the spot, a result, its locks.
+    readonly property bool unsaved: hasProject && (controller.resultUnsaved || _stateText !== _savedStateText)
+    readonly property string windowTitle: !hasProject ? qsTr("Dunmarrow")
+        : qsTr("%1%2 — Dunmarrow").arg(unsaved ? "• " : "").arg(files.currentName || files.suggestedName || qsTr("New spot"))
 
     readonly property bool _canSolveBase: SolveGate.isStrictBoardReady(project_.boardText)
         && SolveGate.hasSizingFilled(Keys.sizeTexts.map(key => project_[key]))
@@ -33,6 +37,15 @@ Item {
     readonly property bool _hasEnoughRamToSolve: SolveGate.hasEnoughRamToSolve(
         controller.solveRequiredMemoryBytes, controller.systemAvailableMemoryBytes,
         controller.resultsReclaimableMemoryBytes)
+    /// While it is being estimated anew: the controller looks at the memory itself, before a start.
+    readonly property bool _memoryUnknown: memoryEstimateTimer.running || controller.estimatePending
+    readonly property bool _setupDiffers: controller.resultRevision >= 0 && controller.resultIterations > 0
+        && hasProject && !controller.isResultSpot(project_.solveConfig())
+    readonly property string _stateText: _comparable(project_.exportProjectState())
+    property string _savedStateText: ""
+    /// Whether to apply the locks, as the user said of those that are set now; empty if not asked yet.
+    property string _locksAnswer: ""
+    property bool _closes: false
     /// Until the window's first frame is there, Setup is drawn with it, out of sight. The renderer
     /// prepares a shader when it first draws with it, and most of them are first met on that page:
     /// without help of a graphics card that is more than a tenth of a second, which nobody should
@@ -84,9 +97,19 @@ Item {
         }
     }
 
+    /// The window asks before it closes. What would be lost is asked about first.
+    function mayClose(): bool {
+        if (!_closes)
+            _guard(() => {
+                _closes = true
+                Window.window.close()
+            })
+        return _closes
+    }
+
     /// Shows a page, unless the rules of navigation refuse it.
     function requestPage(page: int) {
-        if (_navigationLocked || !isPageOpen(page))
+        if (!isPageOpen(page) || (_navigationLocked && page !== Pages.results))
             return
         _commitEdits()
         navIndex = page
@@ -94,8 +117,97 @@ Item {
 
     function startSolve() {
         _commitEdits()
-        navIndex = Pages.solve
-        controller.startSolveWithConfig(project_.solveConfig())
+        const config = project_.solveConfig()
+        if (!controller.locksFit(config) || _locksAnswer !== "") {
+            _start(config)
+            return
+        }
+        question.ask(qsTr("Node locks"), qsTr("Node locks (%1) are set on the tree of this spot. Apply them in this solve?")
+                     .arg(controller.lockCount), [
+            { text: qsTr("Solve without locks"), kind: "", action: () => { _locksAnswer = "no"; _start(config) } },
+            { text: qsTr("Apply the locks"), kind: "primary", action: () => { _locksAnswer = "yes"; _start(config) } }
+        ])
+    }
+
+    function newSolve() {
+        _guard(() => {
+            resetToNewProject()
+            navIndex = Pages.setup
+        })
+    }
+
+    function quickSolve() {
+        _guard(() => {
+            resetToDefaults()
+            navIndex = Pages.setup
+        })
+    }
+
+    function openFile() {
+        _guard(() => files.chooseFileToOpen())
+    }
+
+    function save() {
+        _commitEdits()
+        files.save()
+    }
+
+    /// Shows the setup that the result was solved from.
+    function takeBackSetup() {
+        applyProjectState(controller.resultProjectState())
+        navIndex = Pages.setup
+    }
+
+    function _start(config: var) {
+        if (controller.locksFit(config))
+            config.apply_node_locks = _locksAnswer === "yes"
+        if (navIndex !== Pages.results)
+            navIndex = Pages.solve
+        controller.startSolveWithConfig(config)
+    }
+
+    /// Does what drops the project at hand, once its user has agreed to what would be lost.
+    function _guard(action: var) {
+        _commitEdits()
+        if (!unsaved && !controller.running) {
+            action()
+            return
+        }
+        const lost = controller.running ? qsTr("A solve is running, and it will be cancelled.") + " " : ""
+        question.ask(qsTr("Unsaved changes"), lost + (unsaved ? qsTr("The spot or its results are not saved.") : ""), unsaved
+            ? [{ text: qsTr("Don't save"), kind: "danger", action: action },
+               { text: qsTr("Save"), kind: "primary", action: () => files.save(action) }]
+            : [{ text: qsTr("Cancel the solve"), kind: "danger", action: action }])
+    }
+
+    /// A project state as a text that is equal for what a file keeps alike.
+    function _comparable(state: var): string {
+        return JSON.stringify(Keys.all.filter(key => key !== "threadCount")
+                              .map(key => Keys.coerced(key, state[key])))
+    }
+
+    function _noteSaved(state: var) {
+        _savedStateText = _comparable(state)
+    }
+
+    function _offerDraft() {
+        const draft = controller.draftLeftBehind()
+        if (draft.project === undefined)
+            return
+        const when = new Date(draft.savedAt)
+        question.ask(qsTr("Take back your spot?"),
+                     qsTr("Dunmarrow did not close properly. The spot that you were editing was kept on %1.")
+                     .arg(when.toLocaleString(Qt.locale(), Locale.ShortFormat)), [
+            { text: qsTr("Discard"), kind: "danger", action: () => controller.dropDraft() },
+            { text: qsTr("Take it back"), kind: "primary", action: () => _takeDraft(draft.project) }
+        ])
+    }
+
+    function _takeDraft(state: var) {
+        resetToNewProject()
+        applyProjectState(state)
+        controller.dropDraft()
+        navIndex = Pages.setup
     }
 
     function loadTheme() {
@@ -107,6 +219,8 @@ Item {
         controller.clearResults()
         applyProjectState(preset)
         hasProject = withProject
+        files.forgetFile()
+        _noteSaved(project_.exportProjectState())
     }
 
     /// Takes the focus from a field of a page, which then hands over what was typed into it.
@@ -132,6 +246,61 @@ Item {
         loadTheme()
         resetToStartupBlank()
         projectPage.visible = true
+        _offerDraft()
+    }
+
+    Component.onDestruction: controller.dropDraft()
+
+    onUnsavedChanged: {
+        if (!unsaved)
+            controller.dropDraft()
+    }
+
+    Connections {
+        function onLocksChanged() {
+            shell._locksAnswer = ""
+        }
+
+        function onMemoryWanted(cfg: var, needed: string, available: string) {
+            const solve = () => shell.controller.startSolveInFreedMemory(cfg)
+            question.ask(qsTr("Not enough memory for both"),
+                qsTr("This solve needs %1, and %2 are available. It can start if the solver of the result on view is dropped: of that result only what was looked at so far stays.")
+                .arg(needed).arg(available), [
+                { text: qsTr("Save first"), kind: "", action: () => files.save(solve) },
+                { text: qsTr("Solve"), kind: "primary", action: solve }
+            ])
+        }
+
+        target: shell.controller
+    }
+
+    ProjectFiles {
+        id: files
+
+        visible: false
+        theme: theme_
+        type: type_
+        controller: shell.controller
+        stateProvider: shell.exportProjectState
+        suggestedName: project_.boardText.replace(/_/g, "") === "" ? ""
+                       : qsTr("%1 pot %2").arg(project_.boardText.replace(/_/g, "")).arg(project_.startingPot)
+        onSaved: (name, projectState) => {
+            shell._noteSaved(projectState)
+            toast.show(qsTr("Saved %1 at %2").arg(name).arg(new Date().toLocaleTimeString(Qt.locale(), Locale.ShortFormat)))
+        }
+        onProjectLoaded: (projectState, hasResults) => {
+            shell.applyProjectState(projectState)
+            shell._noteSaved(project_.exportProjectState())
+            shell.hasProject = true
+            shell.navIndex = hasResults ? Pages.results : Pages.setup
+        }
+    }
+
+    QuestionDialog {
+        id: question
+
+        theme: theme_
+        type: type_
     }
 
     onNavIndexChanged: _endDrawingAhead()
@@ -169,8 +338,13 @@ Item {
         id: solveFollower
 
         controller: shell.controller
-        maxIterations: project_.maxIterations
-        targetExploitability: project_.targetExploitability
+        // A re-solve runs the settings of the result, whatever Setup shows.
+        maxIterations: running ? controller.runSettings.max_iterations ?? 0 : project_.maxIterations
+        targetExploitability: {
+            const pot = controller.runSettings.starting_pot ?? 0
+            return running && pot > 0 ? controller.runSettings.target_exploitability / pot * 100
+                                      : project_.targetExploitability
+        }
     }
 
     StoredSettings {
@@ -190,6 +364,13 @@ Item {
             if (shell._canSolveBase)
                 shell.controller.requestSolveMemoryEstimate(project_.solveConfig())
         }
+    }
+
+    Timer {
+        interval: 20000
+        repeat: true
+        running: shell.unsaved
+        onTriggered: shell.controller.keepDraft(project_.exportProjectState())
     }
 
     // bg0 under a hint of the accent at the top, mixed here: a window full of blended pixels costs
@@ -235,25 +416,16 @@ Item {
                 theme: theme_
                 type: type_
                 controller: shell.controller
-                projectStateProvider: shell.exportProjectState
-                onNewProject: {
-                    shell.resetToNewProject()
-                    shell.navIndex = Pages.setup
-                }
-                onQuickSolve: {
-                    shell.resetToDefaults()
-                    shell.navIndex = Pages.setup
-                }
+                filesBusy: files.busy
+                onNewProject: shell.newSolve()
+                onQuickSolve: shell.quickSolve()
+                onSaveRequested: shell.save()
+                onOpenRequested: shell.openFile()
                 onImportRange: {
                     if (!shell.hasProject)
                         shell.resetToNewProject()
                     shell.navIndex = Pages.setup
                     projectPage.openImportRangeDialog("oop")
-                }
-                onProjectLoaded: (projectState, hasResults) => {
-                    shell.applyProjectState(projectState)
-                    shell.hasProject = true
-                    shell.navIndex = hasResults ? Pages.results : Pages.setup
                 }
             }
 
@@ -279,15 +451,17 @@ Item {
                 canSolve: shell.canSolve
                 follower: solveFollower
                 onGoToResults: shell.requestPage(Pages.results)
+                onSolveRequested: shell.startSolve()
             }
 
             ResultsPage {
                 theme: theme_
                 type: type_
                 controller: shell.controller
-                boardText: project_.boardText
-                rakePercent: project_.rakePercent
-                rakeCap: project_.rakeCap
+                follower: solveFollower
+                setupDiffers: shell._setupDiffers
+                onSolveAgainRequested: shell.startSolve()
+                onSetupWanted: shell.takeBackSetup()
             }
 
             SettingsPage {
@@ -297,6 +471,33 @@ Item {
                 languageManager: shell.translator
                 updates: shell.updateService
             }
+        }
+    }
+
+    NoticeStrip {
+        id: toast
+
+        function show(message: string) {
+            text = message
+            visible = true
+            fade.restart()
+        }
+
+        anchors.bottom: parent.bottom
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottomMargin: theme_.spaceXl
+        width: Math.min(480, parent.width - 2 * theme_.spaceXl)
+        z: 1
+        visible: false
+        theme: theme_
+        type: type_
+        accentColor: theme_.success
+
+        Timer {
+            id: fade
+
+            interval: 5000
+            onTriggered: toast.visible = false
         }
     }
 
@@ -323,6 +524,32 @@ Item {
     Shortcut {
         sequence: "Ctrl+,"
         onActivated: shell.requestPage(Pages.settings)
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Save]
+        enabled: shell.hasProject && !files.busy
+        onActivated: shell.save()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+Shift+S"
+        enabled: shell.hasProject && !files.busy
+        onActivated: {
+            shell._commitEdits()
+            files.saveAs()
+        }
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Open]
+        enabled: !files.busy
+        onActivated: shell.openFile()
+    }
+
+    Shortcut {
+        sequences: [StandardKey.New]
+        onActivated: shell.newSolve()
     }
 
     Shortcut {

@@ -115,6 +115,10 @@ MainWindowCase {
         typeInto(field("OOP Flop Bet sizes (%)"), "33")
         keyClick(Qt.Key_1, Qt.ControlModifier)
         clickButton("New Solve")
+        answer("Cancel")
+        compare(project.boardText, "QsJh2h")
+        clickButton("New Solve")
+        answer("Don't save")
         compare(field("OOP Flop Bet sizes (%)").text, "")
         compare(field("OOP Range").text, "")
         compare(field("Starting Pot").text, "180")
@@ -140,8 +144,8 @@ MainWindowCase {
         tryVerify(() => !controller.running, 20000)
         compare(controller.resultIterations, 0)
         verify(tab("Home").tabEnabled)
-        // Neither a row for a solve started by key, nor one to view.
-        verify(Find.text(page(), "No runs yet — click Start Solve to record a run here."))
+        // A row for a solve started by key too, and no result to view.
+        verify(Find.text(page(), "Cancelled"))
         verify(!Find.button(page(), "View Results →").enabled)
     }
 

@@ -66,7 +66,6 @@ Rectangle {
 
         Flow {
             Layout.fillWidth: true
-            visible: root.lockable
             spacing: root.theme.spaceSm
 
             Label {
@@ -102,15 +101,33 @@ Rectangle {
                 onClicked: root.locks.resetNodeLockEdits(root.node)
             }
 
+            SmallButton {
+                visible: root.locks.lastReset !== null
+                theme: root.theme
+                type: root.type
+                height: weight.height
+                text: qsTr("Undo reset")
+                onClicked: root.locks.undoReset()
+            }
+
             PrimaryButton {
                 height: weight.height
                 theme: root.theme
                 type: root.type
                 text: qsTr("Re-solve")
                 loading: root.controller.running
-                enabled: root.lockable && !root.controller.running
+                enabled: !root.controller.running && (root.controller.lockCount > 0 || root.controller.locksPending)
                 onClicked: root.controller.reSolveWithNodeLocks()
             }
+        }
+
+        Label {
+            Layout.fillWidth: true
+            visible: text !== ""
+            text: root.locks.weightFault
+            color: root.theme.danger
+            font.pixelSize: root.type.labelSm
+            wrapMode: Text.Wrap
         }
 
         Label {

@@ -27,7 +27,9 @@ ColumnLayout {
     Label {
         id: heading
 
-        text: qsTr("Strategy by Hand")
+        Layout.preferredWidth: grid.implicitWidth
+        text: root.view.previews ? qsTr("Strategy by Hand (preview, not solved yet)") : qsTr("Strategy by Hand")
+        wrapMode: Text.Wrap
         color: root.theme.text
         font.pixelSize: root.compact ? root.type.labelMd : root.type.bodyMd
         font.weight: root.type.weightBold
@@ -116,7 +118,6 @@ ColumnLayout {
             theme: root.theme
             type: root.type
             locks: root.locks
-            node: root.view.node
         }
     }
 }
