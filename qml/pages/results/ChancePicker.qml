@@ -129,10 +129,13 @@ AppDialog {
         Keys.onPressed: event => event.accepted = root.typeCharacter(event.text)
 
         Flickable {
-            width: parent.width
-            height: parent.height - note.height - root.theme.spaceMd
-            contentWidth: rows.implicitWidth
-            contentHeight: rows.implicitHeight
+            // The ring around a card at an edge has room too.
+            x: -root.theme.spaceXs
+            y: -root.theme.spaceXs
+            width: parent.width + 2 * root.theme.spaceXs
+            height: parent.height - note.height - root.theme.spaceMd + 2 * root.theme.spaceXs
+            contentWidth: rows.implicitWidth + 2 * root.theme.spaceXs
+            contentHeight: rows.implicitHeight + 2 * root.theme.spaceXs
             clip: true
             boundsBehavior: Flickable.StopAtBounds
 
@@ -146,6 +149,8 @@ AppDialog {
             Row {
                 id: rows
 
+                x: root.theme.spaceXs
+                y: root.theme.spaceXs
                 spacing: 6
 
                 Column {
