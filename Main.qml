@@ -7,7 +7,7 @@ ApplicationWindow {
 
     width: Math.min(Math.max(1540, shell.projectRecommendedWidth), Screen.desktopAvailableWidth)
     height: Math.min(1200, Screen.desktopAvailableHeight)
-    minimumWidth: Math.min(Math.max(1100, shell.projectRecommendedWidth), Screen.desktopAvailableWidth)
+    minimumWidth: Math.min(1100, Screen.desktopAvailableWidth)
     minimumHeight: Math.min(700, Screen.desktopAvailableHeight)
     visible: true
     title: shell.windowTitle

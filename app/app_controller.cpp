@@ -13,6 +13,7 @@
 
 #include "developer_mode.h"
 #include "fault_scope.h"
+#include "file_places.h"
 #include "processor_count.h"
 #include "project_writer.h"
 #include "result_variants.h"
@@ -551,6 +552,14 @@ QVariantMap AppController::saveTextFile(const QUrl& fileUrl, const QString& text
 
 QVariantMap AppController::readTextFile(const QUrl& fileUrl) {
   return ::readTextFile(fileUrl);
+}
+
+QVariantList AppController::standardFolders() {
+  return ::standardFolders();
+}
+
+QString AppController::fileKind(const QUrl& fileUrl) {
+  return ::fileKind(fileUrl);
 }
 
 void AppController::setNodeLock(int nodeIndex, const QString& handLabel169, int actionIndex,

@@ -177,6 +177,9 @@ class AppController : public QObject {
   Q_INVOKABLE QVariantMap draftLeftBehind() const { return draft_.leftBehind(); }
   Q_INVOKABLE QVariantMap saveTextFile(const QUrl& fileUrl, const QString& text);
   Q_INVOKABLE QVariantMap readTextFile(const QUrl& fileUrl);
+  /// See file_places.h.
+  Q_INVOKABLE QVariantList standardFolders();
+  Q_INVOKABLE QString fileKind(const QUrl& fileUrl);
   Q_INVOKABLE void setNodeLock(int nodeIndex, const QString& handLabel169, int actionIndex,
                                double actionProb);
   Q_INVOKABLE void clearNodeLocks(int nodeIndex);

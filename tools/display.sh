@@ -23,12 +23,12 @@ start_program() {
     "$program" "${@:4}" &
   app=$!
   for _ in {1..300}; do
-    xdotool search --onlyvisible --name '^Dunmarrow$' >/dev/null 2>&1 && break
+    xdotool search --onlyvisible --name 'Dunmarrow' >/dev/null 2>&1 && break
     kill -0 "$app" 2>/dev/null || die "the program has ended"
     sleep 0.2
   done
   sleep 2
-  xdotool search --onlyvisible --name '^Dunmarrow$' windowfocus
+  xdotool search --onlyvisible --name 'Dunmarrow' windowfocus
 }
 
 stop_program() {

@@ -134,7 +134,7 @@ Item {
             hovered: root.hoveredIndex === index
             grounded: bases.ready && borders.ready
             labelShown: root.showLabels
-            labelPointSize: (root.cellSize > 28 ? 9 : 8) * 1.25
+            labelPointSize: (root.cellSize > 28 ? Math.max(9, Math.min(14, root.cellSize / 4)) : 8) * 1.25
         }
     }
 
@@ -174,6 +174,7 @@ Item {
             root._reportHovered(pressedIndex)
             if (pressedIndex < 0)
                 return
+            root.forceActiveFocus(Qt.MouseFocusReason)
             root.currentIndex = pressedIndex
             desiredOn = !(root.weightOf(HandGrid.LABELS[pressedIndex]) > 0)
             if (root.editable)

@@ -126,16 +126,18 @@ FocusScope {
         }
 
         GameTreePanel {
-            SplitView.preferredWidth: 320
-            SplitView.minimumWidth: 280
+            SplitView.preferredWidth: Math.max(SplitView.minimumWidth, Math.min(320, 0.24 * root.width))
+            SplitView.minimumWidth: 240
             theme: root.theme
             type: root.type
             walk: walk_
+            // A decision that is asked about keeps what the solution does there to itself.
+            frequenciesShown: !play_.playMode || play_.playHandComplete
         }
 
         StrategyPanel {
             SplitView.fillWidth: true
-            SplitView.minimumWidth: 500
+            SplitView.minimumWidth: minimumWidth
             theme: root.theme
             type: root.type
             controller: root.controller

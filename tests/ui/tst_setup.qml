@@ -249,9 +249,14 @@ MainWindowCase {
         keyClick(Qt.Key_Return)
         compare(project.threadCount, 1)
         compare(box.currentText, "1")
+        shell.translator.setLanguage("de")
+        compare([box.currentText, box.displayText], ["1", "1"])
+        shell.translator.setLanguage("en")
         project.threadCount = 100000
         compare(project.threadCount, controller.systemThreadCount)
         compare(box.currentText, "Max")
+        shell.translator.setLanguage("fr")
+        compare([box.currentText, box.displayText], ["Max.", "Max."])
     }
 
     function test_the_look_is_kept_by_saving_only() {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Dialogs
 import Velmora
 import "../../logic/file_url.js" as FileUrl
 
@@ -95,7 +94,7 @@ Item {
         target: root.controller
     }
 
-    FileDialog {
+    FileChooser {
         id: saveDialog
 
         function openWith(name: string) {
@@ -104,8 +103,11 @@ Item {
             open()
         }
 
+        theme: root.theme
+        type: root.type
+        controller: root.controller
         title: qsTr("Save Project")
-        fileMode: FileDialog.SaveFile
+        fileMode: FileChooser.SaveFile
         acceptLabel: qsTr("Save")
         defaultSuffix: "velmoraproj"
         nameFilters: root._filters
@@ -113,9 +115,12 @@ Item {
         onRejected: root._afterSave = null
     }
 
-    FileDialog {
+    FileChooser {
         id: openDialog
 
+        theme: root.theme
+        type: root.type
+        controller: root.controller
         title: qsTr("Open Project")
         nameFilters: root._filters
         onAccepted: root.open(FileUrl.ofLocalFile(selectedFile))

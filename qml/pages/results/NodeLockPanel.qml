@@ -64,11 +64,13 @@ Rectangle {
             }
         }
 
-        RowLayout {
+        Flow {
             Layout.fillWidth: true
             spacing: root.theme.spaceSm
 
             Label {
+                height: weight.height
+                verticalAlignment: Text.AlignVCenter
                 text: qsTr("Weight")
                 color: root.theme.textMuted
                 font.pixelSize: root.type.labelMd
@@ -77,7 +79,7 @@ Rectangle {
             InputField {
                 id: weight
 
-                Layout.preferredWidth: 70
+                width: 70
                 theme: root.theme
                 type: root.type
                 label: qsTr("Weight")
@@ -91,13 +93,10 @@ Rectangle {
                 }
             }
 
-            Item {
-                Layout.fillWidth: true
-            }
-
             SmallButton {
                 theme: root.theme
                 type: root.type
+                height: weight.height
                 text: qsTr("Reset weights")
                 onClicked: root.locks.resetNodeLockEdits(root.node)
             }
@@ -106,12 +105,13 @@ Rectangle {
                 visible: root.locks.lastReset !== null
                 theme: root.theme
                 type: root.type
+                height: weight.height
                 text: qsTr("Undo reset")
                 onClicked: root.locks.undoReset()
             }
 
             PrimaryButton {
-                Layout.preferredHeight: 32
+                height: weight.height
                 theme: root.theme
                 type: root.type
                 text: qsTr("Re-solve")

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Dialogs
 import Velmora
 import "../../../logic/file_url.js" as FileUrl
 import "../../../logic/range_text.js" as RangeText
@@ -32,9 +31,12 @@ Item {
         nameDialog.ask(FileUrl.baseName(file, ".txt"))
     }
 
-    FileDialog {
+    FileChooser {
         id: fileDialog
 
+        theme: root.theme
+        type: root.type
+        controller: root.controller
         title: qsTr("Import Range")
         nameFilters: [qsTr("Range text (*.txt)"), qsTr("All Files (*)")]
         onAccepted: root.read(FileUrl.ofLocalFile(selectedFile))
