@@ -33,6 +33,7 @@ std::optional<MemoryEstimate> estimate_memory(const SolveConfig& config, std::st
     const SpotCards spot = translate_cards(config);
     velmora::GameSettings settings = translate_settings(config);
     translate_sizing_bare(config, settings);
+    check_ranges_meet(spot);
     const velmora::CardContext cards(spot.board, spot.weights);
     velmora::PlanCounter counter(settings, cards);
     const velmora::PlanCounts counts =

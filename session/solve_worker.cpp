@@ -73,6 +73,7 @@ SolvedSpot run_solve(const SolveConfig& config, const std::function<bool()>& can
 
   // Step 2. The game.
   stage(0, "Init: building game object...");
+  check_ranges_meet(spot);
   velmora::CardContext cards(spot.board, spot.weights);
   check_memory(settings, cards, config.compressed_storage);
   const auto game = std::make_shared<velmora::Game>(std::move(settings), std::move(cards));
