@@ -192,7 +192,7 @@ TEST(SolveSession, FaultsEndARunWithTheirText) {
          c.oop_flop = c.ip_flop = c.oop_turn = c.ip_turn = c.oop_river =
              c.ip_river = {.bet_sizes = "10,20,33,50,75,100,150", .raise_sizes = "2x,3x,4x"};
        },
-       "std::bad_alloc", 2},
+       "Not enough memory: this solve needs ", 2},
   };
   SolveSession session;
   for (const Case& c : cases) {
@@ -201,8 +201,8 @@ TEST(SolveSession, FaultsEndARunWithTheirText) {
     c.change(config);
     const std::vector<SolveProgress> reports = run(session, config);
     const SolveProgress& last = reports.back();
-    EXPECT_EQ(last.status, "Error: " + c.error);
-    EXPECT_EQ(last.result->error, c.error);
+    EXPECT_THAT(last.result->error, StartsWith(c.error));
+    EXPECT_EQ(last.status, "Error: " + last.result->error);
     EXPECT_FALSE(last.result->success);
     EXPECT_EQ(last.result->board, config.board);
     EXPECT_EQ(last.result->nodes, nullptr);
