@@ -47,8 +47,8 @@ MemoryMonitor::Sources MemoryMonitor::systemSources() {
             if (!estimate) return 0;
             // What can't be counted doesn't fit, however little of it was counted.
             return estimate->complete
-                       ? estimate->total_bytes
-                       : std::max(estimate->total_bytes, velmora_app::total_memory_bytes());
+                       ? estimate->peak_bytes
+                       : std::max(estimate->peak_bytes, velmora_app::total_memory_bytes());
           }};
 }
 

@@ -28,8 +28,8 @@ struct SolveRequest {
 /// Solves a spot and writes the result as JSON to standard output. Throws `InputFault`.
 ExitStatus solve(const SolveRequest& request);
 
-/// Writes the memory estimate of a spot as JSON to standard output. Throws `InputFault`.
-ExitStatus estimate(const QString& spot_path);
+/// Writes the memory estimate of the same solve as JSON to standard output. Throws `InputFault`.
+ExitStatus estimate(const SolveRequest& request);
 
 /// Solves the fixed set of spots and writes their speed and the signature of the results to
 /// standard output. `instruction_set` is a name such as "avx2", or empty for the strongest.

@@ -37,6 +37,7 @@ QJsonValue number(float value) {
 QJsonObject estimate_object(const MemoryEstimate& estimate) {
   return {{"complete", estimate.complete},
           {"total_bytes", count(estimate.total_bytes)},
+          {"peak_bytes", count(estimate.peak_bytes)},
           {"context_bytes", count(estimate.context_bytes)},
           {"tree_bytes", count(estimate.tree_bytes)},
           {"state_bytes", count(estimate.state_bytes)},

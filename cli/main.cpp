@@ -100,6 +100,11 @@ class CommandLine {
 
 const QCommandLineOption kThreads("threads", "Threads to use; all processors if absent.", "N");
 
+const QCommandLineOption kLocks("locks",
+                                "Fix how hands play at nodes: a JSON list of objects with node, "
+                                "hand, action and frequency.",
+                                "FILE");
+
 ExitStatus run_solve(const QStringList& arguments) {
   CommandLine line("solve",
                    "Solves a spot: a JSON file with a solve configuration map or a "
@@ -109,10 +114,7 @@ ExitStatus run_solve(const QStringList& arguments) {
       {kThreads,
        {"iterations", "Limit of iterations instead of the spot's.", "N"},
        {"export", "Write the strategy of every decision node to FILE as JSON lines.", "FILE"},
-       {"locks",
-        "Fix how hands play at nodes: a JSON list of objects with node, hand, action "
-        "and frequency.",
-        "FILE"},
+       kLocks,
        {"quiet", "No progress on standard error."}});
   SolveRequest request;
   if (!line.read(arguments, 1) || !line.number("threads", 1, kMaxThreads, request.threads) ||
@@ -130,8 +132,14 @@ ExitStatus run_solve(const QStringList& arguments) {
 ExitStatus run_estimate(const QStringList& arguments) {
   CommandLine line("estimate", "Tells how much memory a spot will take, as a JSON object.");
   line.parser().addPositionalArgument("SPOT.json", "The spot.");
-  if (!line.read(arguments, 1)) return line.status();
-  return estimate(line.argument());
+  line.parser().addOptions({kThreads, kLocks});
+  SolveRequest request;
+  if (!line.read(arguments, 1) || !line.number("threads", 1, kMaxThreads, request.threads)) {
+    return line.status();
+  }
+  request.spot_path = line.argument();
+  request.locks_path = line.parser().value("locks");
+  return estimate(request);
 }
 
 ExitStatus run_bench(const QStringList& arguments) {

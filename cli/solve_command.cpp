@@ -25,17 +25,18 @@ using velmora_app::SolveSession;
 namespace {
 
 constexpr std::chrono::milliseconds kInterruptPoll{50};
-constexpr const char* kNoMemory = "Not enough RAM to solve (after clearing previous results)";
 constexpr const char* kCancelledText = "Cancelled";
 
 void complain(const QString& text) {
   std::fprintf(stderr, "dunmarrow-cli: %s\n", text.toLocal8Bit().constData());
 }
 
-/// A figure of 0 is unknown and doesn't stand in the way.
-bool fits_in_memory(const MemoryEstimate& estimate) {
+/// Empty if the spot fits, else one sentence. A figure of 0 is unknown and doesn't stand in the
+/// way.
+std::string shortage_of(const MemoryEstimate& estimate) {
   const std::uint64_t available = velmora_app::available_memory_bytes();
-  return estimate.total_bytes == 0 || available == 0 || available > estimate.total_bytes;
+  if (available == 0 || estimate.peak_bytes <= available) return {};
+  return velmora_app::memory_shortage(estimate.peak_bytes, available);
 }
 
 /// What reports leave behind for the thread that waits for their end.
@@ -108,6 +109,15 @@ ExitStatus write_export(const velmora_app::SolvedSpot& spot, const SolveConfig& 
   return kFailed;
 }
 
+SolveConfig config_of(const SolveRequest& request) {
+  SolveConfig config = read_spot(request.spot_path);
+  if (!request.locks_path.isEmpty()) config.node_locks = read_locks(request.locks_path);
+  if (request.iterations) config.max_iterations = *request.iterations;
+  // The file's thread count belongs to the machine that it was written on.
+  config.thread_count = request.threads.value_or(all_processors());
+  return config;
+}
+
 }  // namespace
 
 std::uint64_t all_processors() {
@@ -115,9 +125,9 @@ std::uint64_t all_processors() {
   return count > 0 ? count : 1;
 }
 
-ExitStatus estimate(const QString& spot_path) {
+ExitStatus estimate(const SolveRequest& request) {
   std::string error;
-  const auto estimate = velmora_app::estimate_memory(read_spot(spot_path), error);
+  const auto estimate = velmora_app::estimate_memory(config_of(request), error);
   if (!estimate) throw InputFault(error);
   print_json(estimate_object(*estimate));
   return kDone;
@@ -125,11 +135,7 @@ ExitStatus estimate(const QString& spot_path) {
 
 ExitStatus solve(const SolveRequest& request) {
   catch_interrupts();
-  SolveConfig config = read_spot(request.spot_path);
-  if (!request.locks_path.isEmpty()) config.node_locks = read_locks(request.locks_path);
-  if (request.iterations) config.max_iterations = *request.iterations;
-  // The file's thread count belongs to the machine that it was written on.
-  config.thread_count = request.threads.value_or(all_processors());
+  const SolveConfig config = config_of(request);
 
   // Opened first: a path that can't be written should not cost a solve.
   QSaveFile export_file(request.export_path);
@@ -146,8 +152,9 @@ ExitStatus solve(const SolveRequest& request) {
   Outcome outcome;
   ProgressLine line(request.quiet, config.max_iterations, config.starting_pot);
   SolveSession session;
-  if (estimate && !fits_in_memory(*estimate)) {
-    result.error = kNoMemory;
+  if (estimate) result.error = shortage_of(*estimate);
+  if (!result.error.empty()) {
+    // Nothing is started.
   } else if (interrupted()) {
     result.error = kCancelledText;
   } else {

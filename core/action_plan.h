@@ -90,6 +90,10 @@ class ActionPlan {
   const PlanCounts& counts() const { return counts_; }
   /// Bytes of the node list with its action and child lists.
   std::size_t memory_bytes() const;
+  /// The same for a tree of so many nodes, of which each but the root is the child of one action.
+  static double bytes_for(double nodes) {
+    return nodes * (sizeof(PlanNode) + sizeof(Action) + sizeof(NodeIndex));
+  }
 
  private:
   GameSettings settings_;

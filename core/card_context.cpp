@@ -46,30 +46,43 @@ std::uint64_t key_of(const Board& board, const BySeat<PocketWeights>& weights) {
 }
 
 /// The tables of the contexts that are alive, by key.
-class ArtifactTable {
+class ArtifactTable : public std::enable_shared_from_this<ArtifactTable> {
  public:
   std::shared_ptr<const CachedArtifacts> find(std::uint64_t key) {
     const std::lock_guard lock(mutex_);
     const auto entry = entries_.find(key);
-    if (entry == entries_.end()) return nullptr;
-    std::shared_ptr<const CachedArtifacts> artifacts = entry->second.lock();
-    if (!artifacts) entries_.erase(entry);
-    return artifacts;
+    return entry == entries_.end() ? nullptr : entry->second.lock();
   }
 
-  void publish(std::uint64_t key, const std::shared_ptr<const CachedArtifacts>& artifacts) {
+  /// Shares tables under a key for as long as somebody holds them.
+  std::shared_ptr<const CachedArtifacts> publish(std::uint64_t key,
+                                                 std::unique_ptr<const CachedArtifacts> artifacts) {
+    // The last holder may outlive the end of `main`, so each keeps the table alive as well.
+    const auto release = [table = shared_from_this(), key](const CachedArtifacts* unused) {
+      delete unused;
+      table->forget(key);
+    };
+    std::shared_ptr<const CachedArtifacts> shared(artifacts.release(), release);
     const std::lock_guard lock(mutex_);
-    entries_[key] = artifacts;
+    entries_[key] = shared;
+    return shared;
   }
 
  private:
+  /// Removes an entry, unless other tables have taken its place.
+  void forget(std::uint64_t key) {
+    const std::lock_guard lock(mutex_);
+    const auto entry = entries_.find(key);
+    if (entry != entries_.end() && entry->second.expired()) entries_.erase(entry);
+  }
+
   std::mutex mutex_;
   std::unordered_map<std::uint64_t, std::weak_ptr<const CachedArtifacts>> entries_;
 };
 
 ArtifactTable& artifact_table() {
-  static ArtifactTable table;
-  return table;
+  static const auto table = std::make_shared<ArtifactTable>();
+  return *table;
 }
 
 void fill_pockets(CachedArtifacts& tables, const BySeat<PocketWeights>& weights, CardMask board) {
@@ -273,8 +286,8 @@ class SweepWriter {
 };
 
 /// The lists of all boards: first where each one's begin, then the lists, spread over the pool.
-void fill_sweep_tables(CachedArtifacts& tables, std::span<const RunoutPair> pairs,
-                       WorkerPool* pool) {
+void fill_sweep_tables(CachedArtifacts& tables, std::span<const CardCode> turns,
+                       std::span<const RunoutPair> pairs, WorkerPool* pool) {
   tables.early_sweeps.resize(kNumCards + 1);
   tables.runout_orders.resize(kNumPockets);
   SweepWriter::Place size;
@@ -287,31 +300,25 @@ void fill_sweep_tables(CachedArtifacts& tables, std::span<const RunoutPair> pair
       size.blocked += padded(tables.pockets[seat].size()) - live[seat].size();
     }
   };
-  for (CardCode card = 0; card < kNumCards; ++card) {
-    if (!tables.hands_without_card[card][kOop].empty() ||
-        !tables.hands_without_card[card][kIp].empty()) {
-      reserve(tables.hands_without_card[card], false);
-    } else {
-      places.push_back(size);
-    }
-  }
   reserve(tables.all_hands, false);
+  for (const CardCode turn : turns) reserve(tables.hands_without_card[turn], false);
   for (const RunoutPair& pair : pairs) {
     reserve(tables.hands_without_pair[pocket_index(pair.a, pair.b)], true);
   }
   tables.sweep_tables = {PageArray<SweepHand>(size.hands), PageArray<StrengthGroup>(size.groups),
                          PageArray<std::uint16_t>(size.blocked)};
 
-  for (CardCode card = 0; card <= kNumCards; ++card) {
-    const BySeat<LiveHandList>& live =
-        card < kNumCards ? tables.hands_without_card[card] : tables.all_hands;
-    if (live[kOop].empty() && live[kIp].empty()) continue;
-    SweepWriter(tables, places[card]).write(tables.early_sweeps[card], live);
+  // Also a turn that blocks every hand of both seats has its list of blocked places: it is what
+  // sets the results of these hands to 0.
+  SweepWriter(tables, places[0]).write(tables.early_sweeps[kNumCards], tables.all_hands);
+  for (std::size_t i = 0; i < turns.size(); ++i) {
+    SweepWriter(tables, places[1 + i])
+        .write(tables.early_sweeps[turns[i]], tables.hands_without_card[turns[i]]);
   }
   parallel_for(pool, pairs.size(), [&](std::size_t begin, std::size_t end) {
     for (std::size_t i = begin; i < end; ++i) {
       const std::size_t index = pocket_index(pairs[i].a, pairs[i].b);
-      SweepWriter(tables, places[kNumCards + 1 + i])
+      SweepWriter(tables, places[1 + turns.size() + i])
           .write(tables.runout_orders[index], tables.hands_without_pair[index],
                  tables.strength_tables[index]);
     }
@@ -325,11 +332,15 @@ void fill_hand_lists(CachedArtifacts& tables, const Board& board) {
   tables.hands_without_pair.resize(kNumPockets);
   tables.strength_tables.resize(kNumPockets);
 
+  std::vector<CardCode> turns;
+  for (CardCode card = 0; card < kNumCards; ++card) {
+    const bool possible = board.turn != kNoCard ? card == board.turn : (flop & mask_of(card)) == 0;
+    if (possible) turns.push_back(card);
+  }
   for (const Seat seat : {kOop, kIp}) {
     tables.all_hands[seat] = hands_off(tables.pockets[seat], 0);
-    for (CardCode card = 0; card < kNumCards; ++card) {
-      if (board.turn != kNoCard ? card != board.turn : (flop & mask_of(card)) != 0) continue;
-      tables.hands_without_card[card][seat] = hands_off(tables.pockets[seat], mask_of(card));
+    for (const CardCode turn : turns) {
+      tables.hands_without_card[turn][seat] = hands_off(tables.pockets[seat], mask_of(turn));
     }
   }
 
@@ -349,13 +360,13 @@ void fill_hand_lists(CachedArtifacts& tables, const Board& board) {
       }
     }
   });
-  fill_sweep_tables(tables, pairs, pool ? &*pool : nullptr);
+  fill_sweep_tables(tables, turns, pairs, pool ? &*pool : nullptr);
 }
 
-std::shared_ptr<const CachedArtifacts> compute(const Board& board, CardMask board_mask,
+std::unique_ptr<const CachedArtifacts> compute(const Board& board, CardMask board_mask,
                                                const BySeat<PocketWeights>& weights,
                                                SuitFolding folding) {
-  auto tables = std::make_shared<CachedArtifacts>();
+  auto tables = std::make_unique<CachedArtifacts>();
   fill_pockets(*tables, weights, board_mask);
   fill_same_hand_index(*tables);
   fill_hand_lists(*tables, board);
@@ -408,8 +419,8 @@ CardContext::CardContext(const Board& board, const BySeat<PocketWeights>& weight
   }
   tables_ = artifact_table().find(cache_key_);
   if (tables_) return;
-  tables_ = compute(board_, board_mask_, range_weights_, folding);
-  artifact_table().publish(cache_key_, tables_);
+  tables_ =
+      artifact_table().publish(cache_key_, compute(board_, board_mask_, range_weights_, folding));
 }
 
 std::vector<CardCode> CardContext::board_cards() const {

@@ -24,6 +24,30 @@ DiscountedCfr::DiscountedCfr(SolverOptions options) : options_(std::move(options
   if (options_.threads >= 2) pool_ = std::make_unique<WorkerPool>(options_.threads - 1);
 }
 
+double DiscountedCfr::held_bytes(const CardContext& cards, const PlanCounts& counts,
+                                 const BettingTrees& trees, bool compressed, std::size_t workers) {
+  double bytes = SolverState::bytes_for(counts, cards, compressed);
+  for (const StreetCounts& street : trees) {
+    bytes += static_cast<double>(street.nodes) * sizeof(StreetShape::Node);
+  }
+  double scratch = 0;
+  for (const Seat seat : {kOop, kIp}) {
+    scratch = std::max(scratch, Traversal::scratch_bytes(cards, trees, seat, true, 1, workers));
+  }
+  return bytes + scratch;
+}
+
+double DiscountedCfr::measure_bytes(const GameSettings& settings, const CardContext& cards,
+                                    const BettingTrees& trees, std::size_t workers) {
+  const std::size_t responses = needs_both_responses(settings) ? 2 : 1;
+  double scratch = 0;
+  for (const Seat seat : {kOop, kIp}) {
+    scratch =
+        std::max(scratch, Traversal::scratch_bytes(cards, trees, seat, false, responses, workers));
+  }
+  return scratch;
+}
+
 void DiscountedCfr::prepare_states(Game& game) {
   game.set_compressed_storage(options_.compressed_storage);
   states_.prepare(game, options_.compressed_storage, pool_.get());

@@ -53,6 +53,14 @@ class DiscountedCfr {
   /// Starts `threads - 1` pool threads; no tables yet.
   explicit DiscountedCfr(SolverOptions options);
 
+  /// Bytes that a solver holds from its first iteration to its end: the tables, the shape of the
+  /// betting trees and the scratch memory of the iterations.
+  static double held_bytes(const CardContext& cards, const PlanCounts& counts,
+                           const BettingTrees& trees, bool compressed, std::size_t workers);
+  /// Bytes that a measure of the exploitability takes beside these and gives back.
+  static double measure_bytes(const GameSettings& settings, const CardContext& cards,
+                              const BettingTrees& trees, std::size_t workers);
+
   /// The whole solve, on the calling thread and the pool. Throws `std::bad_alloc`, also when
   /// memory ran out on a pool thread.
   void run(Game& game);
@@ -92,6 +100,11 @@ class DiscountedCfr {
   std::size_t worker_count() const { return pool_ ? pool_->size() + 1 : 1; }
 
  private:
+  /// A rake is lost to both seats, so their values don't add up to 0 by themselves: a measure wants
+  /// the best response and the average strategy of each.
+  static bool needs_both_responses(const GameSettings& settings) {
+    return settings.rake_fraction > 0 && settings.rake_cap > 0;
+  }
   /// Values of a seat's hands at a node against a reach, by response.
   std::vector<std::vector<float>> measure_node(const Game& game, const StreetShape& shape,
                                                std::size_t node, Seat seat,

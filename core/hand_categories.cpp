@@ -105,8 +105,12 @@ CategorySet tags_of(std::span<const CardCode> board, Pocket pocket) {
   return tags;
 }
 
-bool can_be_classed(std::span<const CardCode> board) {
-  return board.size() >= 3 && board.size() <= 5;
+/// A hand that holds a card of the board can't be there.
+bool can_be_classed(std::span<const CardCode> board, Pocket pocket) {
+  if (board.size() < 3 || board.size() > 5) return false;
+  return std::none_of(board.begin(), board.end(), [pocket](CardCode card) {
+    return card == low_card(pocket) || card == high_card(pocket);
+  });
 }
 
 }  // namespace
@@ -130,7 +134,7 @@ std::vector<CardCode> node_board(const Game& game, const PlanNode& node) {
 std::vector<std::string_view> hand_categories(const Game& game, const PlanNode& node,
                                               Pocket pocket) {
   const std::vector<CardCode> board = node_board(game, node);
-  if (!can_be_classed(board)) return {};
+  if (!can_be_classed(board, pocket)) return {};
   CategorySet tags = tags_of(board, pocket);
   if (tags == 0) tags = bit_of("air");
   std::vector<std::string_view> names;
@@ -143,15 +147,13 @@ std::vector<std::string_view> hand_categories(const Game& game, const PlanNode& 
 }
 
 CategorySet category_set(std::span<const CardCode> board, Pocket pocket) {
-  if (!can_be_classed(board)) return 0;
+  if (!can_be_classed(board, pocket)) return 0;
   const CategorySet tags = tags_of(board, pocket) & ~kPairBit;
   return tags != 0 ? tags : bit_of("air");
 }
 
 std::uint32_t made_category(std::span<const CardCode> cards) {
   if (cards.size() < 5 || cards.size() > 7) return kHighCard;
-  // A hand that a card of its node blocks is classed too. It then holds a card of the board once
-  // more, and each of the two counts.
   std::array<int, kNumRanks> counts{};
   std::array<RankMask, kNumSuits> suits{};
   std::array<int, kNumSuits> suit_counts{};

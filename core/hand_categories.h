@@ -50,11 +50,13 @@ std::vector<CardCode> node_board(const Game& game, const PlanNode& node);
 
 /// Names of the categories of a pocket at a node, ascending, each once. They are independent of
 /// each other; "air" comes only alone. A pair with none of the first, second or last rank of the
-/// board is "pair", which is not in the table above. Empty if the board doesn't have 3 to 5 cards.
+/// board is "pair", which is not in the table above. Empty if the board doesn't have 3 to 5 cards
+/// or the pocket holds one of them.
 std::vector<std::string_view> hand_categories(const Game& game, const PlanNode& node,
                                               Pocket pocket);
 
-/// The same as a set over the table above; what is only "pair" counts as air.
+/// The same as a set over the table above; what is only "pair" counts as air. 0 for the empty
+/// cases.
 CategorySet category_set(std::span<const CardCode> board, Pocket pocket);
 
 /// 0 high card .. 8 straight flush of 5, 6 or 7 different cards; 0 for another number of cards.

@@ -46,8 +46,7 @@ std::vector<std::array<float, 2>> DiscountedCfr::measure_root(
 
 float DiscountedCfr::measure_exploitability(const Game& game) const {
   double sum = 0;
-  if (game.settings().rake_fraction > 0 && game.settings().rake_cap > 0) {
-    // The rake is lost to both seats, so the values don't add up to 0 by themselves.
+  if (needs_both_responses(game.settings())) {
     const auto gains = measure_root(game, std::array{Response::kBest, Response::kAverage});
     const std::array<float, 2>& best = gains[0];
     const std::array<float, 2>& expected = gains[1];

@@ -1,5 +1,6 @@
 #include "plan_counts.h"
 
+#include <algorithm>
 #include <limits>
 #include <stdexcept>
 #include <unordered_map>
@@ -46,8 +47,20 @@ void PlanCounts::add(const PlanCounts& other) {
   add_saturating(action_rows[1], other.action_rows[1]);
 }
 
+void StreetCounts::add(const StreetCounts& other) {
+  nodes += other.nodes;
+  largest = std::max(largest, other.largest);
+  deals += other.deals;
+  cards += other.cards;
+  for (std::size_t seat = 0; seat < 2; ++seat) {
+    decisions[seat] += other.decisions[seat];
+    action_rows[seat] += other.action_rows[seat];
+    single_rows[seat] += other.single_rows[seat];
+  }
+}
+
 struct PlanCounter::Memo {
-  std::unordered_map<StateKey, PlanCounts, StateHash> counts;
+  std::unordered_map<StateKey, Subtree, StateHash> subtrees;
   std::array<std::int32_t, kNumCards> river_cards;  ///< By turn card; -1 while not counted.
 
   /// -1 before the turn, else the number of river cards to come, 0 once the river is dealt.
@@ -75,7 +88,10 @@ PlanCounts PlanCounter::count(const PlanPoint& point) {
 
 PlanCounts PlanCounter::count_at_least(const PlanPoint& point) {
   held_children_ = 0;
-  return visit(point, 0);
+  const Subtree tree = visit(point, 0);
+  trees_ = tree.trees;
+  trees_[0].largest = trees_[0].nodes;
+  return tree.counts;
 }
 
 bool PlanCounter::may_expand(const PlanPoint& point) {
@@ -84,16 +100,18 @@ bool PlanCounter::may_expand(const PlanPoint& point) {
     sizes_tried_ += sizing.bets.size() + sizing.raises.size();
   }
   return ++sizes_tried_ <= kMaxSizesTried && held_children_ <= kMaxHeldChildren &&
-         memo_->counts.size() < kMaxStates;
+         memo_->subtrees.size() < kMaxStates;
 }
 
-PlanCounts PlanCounter::visit(const PlanPoint& point, std::size_t depth) {
+PlanCounter::Subtree PlanCounter::visit(const PlanPoint& point, std::size_t depth) {
   if (depth > kMaxPlanDepth) throw std::length_error("Betting tree is too deep");
   const PlanNode& node = point.node;
   const BuildContext& context = point.context;
-  PlanCounts counts;
+  Subtree tree;
+  PlanCounts& counts = tree.counts;
   counts.nodes = 1;
-  if (node.kind == NodeKind::kTerminal && !node.runout) return counts;
+  tree.trees[0].nodes = 1;
+  if (node.kind == NodeKind::kTerminal && !node.runout) return tree;
 
   const StateKey key = {
       static_cast<std::int32_t>(node.kind) | (node.seat << 4) | (node.street << 8) |
@@ -108,27 +126,42 @@ PlanCounts PlanCounter::visit(const PlanPoint& point, std::size_t depth) {
       memo_->cards_to_come(context, cards_),
       node.runout,
   };
-  if (const auto known = memo_->counts.find(key); known != memo_->counts.end()) {
+  if (const auto known = memo_->subtrees.find(key); known != memo_->subtrees.end()) {
     return known->second;
   }
 
   if (!may_expand(point)) {
     complete_ = false;
-    return counts;
+    return tree;
   }
   const std::vector<PlanChild> children = expand(settings_, cards_, point);
   held_children_ += children.size();
+  const auto num_children = static_cast<float>(children.size());
   if (node.kind == NodeKind::kDecision && !children.empty()) {
     counts.decision_nodes = 1;
     counts.action_rows[node.seat] = children.size();
+    tree.trees[0].decisions[node.seat] = 1;
+    tree.trees[0].action_rows[node.seat] = num_children;
+    tree.trees[0].single_rows[node.seat] = children.size() == 1 ? 1.0F : 0.0F;
+  } else if (node.kind == NodeKind::kChance) {
+    tree.trees[0].deals = 1;
+    tree.trees[0].cards = num_children;
   }
   for (const PlanChild& child : children) {
-    counts.add(visit(child.point, depth + 1));
-    if (!complete_) return counts;
+    const Subtree below = visit(child.point, depth + 1);
+    counts.add(below.counts);
+    if (node.kind == NodeKind::kDecision) {
+      for (std::size_t i = 0; i < tree.trees.size(); ++i) tree.trees[i].add(below.trees[i]);
+    } else if (node.kind == NodeKind::kChance && &child == &children.front()) {
+      // The trees below the other cards are the same. Those of a run-out are not walked.
+      for (std::size_t i = 1; i < tree.trees.size(); ++i) tree.trees[i] = below.trees[i - 1];
+      tree.trees[1].largest = tree.trees[1].nodes;
+    }
+    if (!complete_) return tree;
   }
   held_children_ -= children.size();
-  memo_->counts.emplace(key, counts);
-  return counts;
+  memo_->subtrees.emplace(key, tree);
+  return tree;
 }
 
 PlanCounts count_plan(const GameSettings& settings, const CardContext& cards) {

@@ -20,6 +20,24 @@ struct PlanCounts {
   void add(const PlanCounts& other);
 };
 
+/// The betting trees of one street, which a traversal holds in memory while it walks them: one for
+/// each way to deal the street's card, whichever card that is. Single precision will do: a sum goes
+/// up the tree, so its error stays at a few units in the last place for each level.
+struct StreetCounts {
+  float nodes = 0;
+  float largest = 0;                   ///< Nodes of the largest tree.
+  float deals = 0;                     ///< Chance nodes, at which the street ends.
+  float cards = 0;                     ///< Children of these.
+  std::array<float, 2> decisions{};    ///< By seat: those with at least one action.
+  std::array<float, 2> action_rows{};  ///< By seat: their actions.
+  std::array<float, 2> single_rows{};  ///< By seat: of these, the only ones of their node.
+
+  float terminals() const { return nodes - decisions[0] - decisions[1] - deals; }
+  void add(const StreetCounts& other);
+};
+/// The street of the root, the one after it, and the last.
+using BettingTrees = std::array<StreetCounts, 3>;
+
 /// Edges of a recursion from the root to a leaf, at most.
 inline constexpr std::size_t kMaxPlanDepth = 4000;
 
@@ -40,11 +58,17 @@ class PlanCounter {
   PlanCounts count_at_least(const PlanPoint& point);
   /// False once there were too many states: the counts are lower bounds.
   bool complete() const { return complete_; }
+  /// The betting trees of the point that was counted last.
+  const BettingTrees& betting_trees() const { return trees_; }
 
  private:
   struct Memo;
+  struct Subtree {
+    PlanCounts counts;
+    BettingTrees trees;
+  };
 
-  PlanCounts visit(const PlanPoint& point, std::size_t depth);
+  Subtree visit(const PlanPoint& point, std::size_t depth);
   /// Notes that so many sizes are about to be tried at a node. False if that is too much.
   bool may_expand(const PlanPoint& point);
 
@@ -54,6 +78,7 @@ class PlanCounter {
   std::uint64_t sizes_tried_ = 0;
   std::size_t held_children_ = 0;  ///< Along the path, by the recursion.
   bool complete_ = true;
+  BettingTrees trees_;
 };
 
 /// The counts of the whole tree of a spot. Throws as `PlanCounter::count`.

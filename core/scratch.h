@@ -1,6 +1,7 @@
 // Working memory of the traversals.
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -33,6 +34,14 @@ class ScratchStack {
     std::size_t used_;
   };
 
+  static constexpr double kHugePage = 2 << 20;  ///< Bytes.
+  /// Bytes that an item of so many takes.
+  static constexpr std::size_t taken_bytes(std::size_t bytes) {
+    return (bytes + kCacheLine - 1) / kCacheLine * kCacheLine;
+  }
+  /// Bytes that a stack takes from the machine when so many are in use at most: whole huge pages.
+  static double resident_bytes(double bytes) { return std::ceil(bytes / kHugePage) * kHugePage; }
+
   /// Room for `count` items that hold anything, on a cache line. Throws `std::bad_alloc`.
   template <typename T>
   T* take(std::size_t count) {
@@ -46,7 +55,7 @@ class ScratchStack {
   static constexpr std::size_t kCacheLine = 64;
 
   void* take_bytes(std::size_t bytes) {
-    const std::size_t size = (bytes + kCacheLine - 1) / kCacheLine * kCacheLine;
+    const std::size_t size = taken_bytes(bytes);
     while (block_ < blocks_.size() && blocks_[block_].size() - used_ < size) {
       ++block_;
       used_ = 0;

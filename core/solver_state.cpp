@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <limits>
 
 #include "multiversion.h"
 
@@ -60,17 +59,14 @@ void dequantize_block(std::size_t num_actions, std::size_t num_hands, const std:
   dequantize_row(out_floats, q, num_actions * padded(num_hands), scale);
 }
 
-std::uint64_t SolverState::table_bytes(const PlanCounts& counts, const CardContext& cards,
-                                       bool compressed) {
-  long double bytes = 0;
+double SolverState::bytes_for(const PlanCounts& counts, const CardContext& cards, bool compressed) {
+  double bytes = static_cast<double>(counts.nodes) * (sizeof(NodeState) + sizeof(std::uint8_t));
   for (const Seat seat : {kOop, kIp}) {
-    bytes += static_cast<long double>(counts.action_rows[seat]) *
-             static_cast<long double>(padded(cards.num_hands(seat)) * (compressed ? 4 : 8));
+    const std::size_t cell = compressed ? sizeof(std::int16_t) : sizeof(float);
+    bytes += 2.0 * static_cast<double>(counts.action_rows[seat]) *
+             static_cast<double>(padded(cards.num_hands(seat)) * cell);
   }
-  bytes += static_cast<long double>(counts.nodes) * sizeof(NodeState);
-  return bytes < static_cast<long double>(std::numeric_limits<std::uint64_t>::max())
-             ? static_cast<std::uint64_t>(bytes)
-             : std::numeric_limits<std::uint64_t>::max();
+  return bytes;
 }
 
 void SolverState::prepare(const Game& game, bool compressed, WorkerPool* pool) {

@@ -74,9 +74,8 @@ class SolverState {
   /// Lists the regrets or the strategy sums of one seat's nodes from `first` to `last`.
   void list_tables(std::size_t first, std::size_t last, bool sums, MemoryAhead& ahead) const;
 
-  /// Bytes of the tables that `prepare` would allocate for a tree of these counts.
-  static std::uint64_t table_bytes(const PlanCounts& counts, const CardContext& cards,
-                                   bool compressed);
+  /// Bytes that `prepare` allocates for a tree of these counts: padded tables and node records.
+  static double bytes_for(const PlanCounts& counts, const CardContext& cards, bool compressed);
 
  private:
   PageArray<NodeState> nodes_;

@@ -83,6 +83,60 @@ void Traversal::run(const StreetShape& shape, NodeIndex root, const float* reach
   walk({&line, 1}, {}, {scratch_[0], may_fan_out});
 }
 
+double Traversal::street_bytes(const CardContext& cards, const StreetCounts& trees, Seat seat,
+                               std::size_t responses) {
+  const auto row_bytes = [&cards](Seat of) {
+    return static_cast<double>(
+        ScratchStack::taken_bytes(padded(cards.num_hands(of)) * sizeof(float)));
+  };
+  const Seat other = opponent_of(seat);
+  const double own_row = row_bytes(seat);
+  const double opp_row = row_bytes(other);
+  const auto wide = [](float count) { return static_cast<double>(count); };
+  // At a node of the other seat with one action the child's values and reach are the node's.
+  const double split_rows = wide(trees.action_rows[other] - trees.single_rows[other]);
+  const double value_rows = wide(trees.action_rows[seat]) + split_rows;
+  // Two responses share what a terminal node pays.
+  const double inner = wide(trees.decisions[kOop] + trees.decisions[kIp] + trees.deals);
+  double bytes = wide(trees.nodes) * sizeof(Slot) + wide(trees.terminals()) * sizeof(PayoffLane);
+  // The lists of folds and of showdowns have room for every node. Where that is much, the huge page
+  // at which each of them ends is half empty on the average.
+  const double list = wide(trees.nodes) * sizeof(PayoffLane);
+  bytes += 2 * std::min(list, ScratchStack::kHugePage / 2);
+  bytes += (value_rows + static_cast<double>(responses - 1) * inner) * own_row;
+  bytes += split_rows * opp_row;
+  bytes += wide(trees.decisions[other]) * static_cast<double>(ScratchStack::taken_bytes(1));
+  bytes += wide(trees.deals) * (sizeof(Deal) + opp_row);
+  bytes += wide(trees.cards) * static_cast<double>(responses) * own_row;
+  return bytes;
+}
+
+double Traversal::scratch_bytes(const CardContext& cards, const BettingTrees& trees, Seat seat,
+                                bool learns, std::size_t responses, std::size_t workers) {
+  // What is walked together below a card: everything, or as much as the cache bears, or the largest
+  // tree alone.
+  const auto group_bytes = [&](const StreetCounts& street, bool river) {
+    const double all = street_bytes(cards, street, seat, responses);
+    const double rows =
+        static_cast<double>(street.nodes) + static_cast<double>(street.deals) * kNumCards;
+    const auto most = static_cast<double>(river ? kRiverRowsTogether : kRowsTogether);
+    if (rows <= most) return all;
+    return all * std::max(most / rows, static_cast<double>(street.largest / street.nodes));
+  };
+  const bool next_is_river = cards.board_street() != kFlop;
+  const double below = group_bytes(trees[1], next_is_river) + group_bytes(trees[2], true);
+  // The first cards that are dealt are spread over the threads.
+  const float deals = trees[0].deals;
+  const auto first_cards = deals > 0 ? static_cast<std::size_t>(trees[0].cards / deals) : 0;
+  const bool fans_out =
+      learns ? first_cards >= kLeastCards && cards.num_hands(opponent_of(seat)) >= kLeastHands
+             : first_cards > 1;
+  const std::size_t walkers = fans_out ? std::min(workers, first_cards) : 1;
+  const double root = street_bytes(cards, trees[0], seat, responses);
+  return ScratchStack::resident_bytes(root + below) +
+         static_cast<double>(walkers - 1) * ScratchStack::resident_bytes(below);
+}
+
 void Traversal::walk(std::span<const Line> lines, std::span<const Line> next,
                      const Worker& worker) {
   const ScratchStack::Frame frame(worker.scratch);

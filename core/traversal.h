@@ -48,6 +48,12 @@ class Traversal {
   Traversal(const Game& game, const SolverState& states, Seat seat,
             std::span<const Response> responses, WorkerPool* pool, std::span<ScratchStack> scratch);
 
+  /// Bytes of scratch memory that a traversal from the root takes from the machine, over all of
+  /// `workers` threads: the same rows and records that the sweeps take, one for each node of a
+  /// street. `responses` is 1 for one that learns.
+  static double scratch_bytes(const CardContext& cards, const BettingTrees& trees, Seat seat,
+                              bool learns, std::size_t responses, std::size_t workers);
+
   /// Values of all hands at a node, by response, against a reach. Rows are padded (see `rows.h`).
   /// `scratch` must have one stack for each worker of the pool, the caller included; without a pool
   /// everything runs on the calling thread.
@@ -86,6 +92,10 @@ class Traversal {
 
   /// Walks trees on one board. `next` are the ones that will follow, if that is known.
   void walk(std::span<const Line> lines, std::span<const Line> next, const Worker& worker);
+
+  /// Bytes of the rows and records of the trees of a street when all are walked together.
+  static double street_bytes(const CardContext& cards, const StreetCounts& trees, Seat seat,
+                             std::size_t responses);
 
   void sweep_down(const Line& line, Slot* slots, ScratchStack& scratch);
   void split_reach(NodeIndex node, std::size_t num_actions, const float* reach, float* rows,

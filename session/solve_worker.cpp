@@ -4,10 +4,12 @@
 #include <array>
 #include <charconv>
 #include <chrono>
-#include <new>
+#include <stdexcept>
 
+#include "betting_rules.h"
 #include "discounted_cfr.h"
 #include "game.h"
+#include "memory_estimate.h"
 #include "node_locks.h"
 #include "result_snapshot.h"
 #include "spot_translation.h"
@@ -36,15 +38,15 @@ std::string iteration_status(std::uint32_t iteration, float exploitability) {
 
 /// The system hands out more memory than it has and ends the program that uses it; so a spot that
 /// can't fit is refused before its tree and tables are made.
-void check_memory(const velmora::GameSettings& settings, const velmora::CardContext& cards,
-                  bool compressed) {
+void check_memory(const SolveConfig& config, const velmora::GameSettings& settings,
+                  const velmora::CardContext& cards) {
   const std::uint64_t available = available_memory_bytes();
   if (available == 0) return;
-  const velmora::PlanCounts counts = velmora::count_plan(settings, cards);
-  const std::uint64_t tables = velmora::SolverState::table_bytes(counts, cards, compressed);
-  const std::uint64_t per_node = sizeof(velmora::PlanNode) + sizeof(velmora::Action) +
-                                 sizeof(velmora::NodeIndex) + TreeSnapshot::bytes_for(1);
-  if (tables > available || counts.nodes > (available - tables) / per_node) throw std::bad_alloc();
+  velmora::PlanCounter counter(settings, cards);
+  const velmora::PlanCounts counts = counter.count(velmora::root_point(settings, cards.board()));
+  const std::uint64_t needed =
+      peak_memory_bytes(config, settings, cards, counts, counter.betting_trees());
+  if (needed > available) throw std::runtime_error(memory_shortage(needed, available));
 }
 
 double seconds_since(std::chrono::steady_clock::time_point start) {
@@ -73,8 +75,9 @@ SolvedSpot run_solve(const SolveConfig& config, const std::function<bool()>& can
 
   // Step 2. The game.
   stage(0, "Init: building game object...");
+  check_ranges_meet(spot);
   velmora::CardContext cards(spot.board, spot.weights);
-  check_memory(settings, cards, config.compressed_storage);
+  check_memory(config, settings, cards);
   const auto game = std::make_shared<velmora::Game>(std::move(settings), std::move(cards));
   if (!config.node_locks.empty()) velmora::build_node_locks(*game, config.node_locks);
 

@@ -63,7 +63,7 @@ class TreeSnapshot {
   NodeMeta node(std::size_t index) const;
   std::size_t memory_bytes() const;
   /// Bytes of a list of so many nodes, each of which is the child of one action but for the root.
-  static std::uint64_t bytes_for(std::uint64_t nodes) {
+  static double bytes_for(double nodes) {
     return nodes * (sizeof(Node) + sizeof(std::uint32_t) + sizeof(Action));
   }
 

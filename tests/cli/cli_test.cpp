@@ -151,8 +151,9 @@ TEST(Solve, LongFilesAreReadInPieces) {
   EXPECT_TRUE(cut.error.contains("Invalid JSON in line 2")) << cut.error.toStdString();
   const CliRun nested = run_cli({"estimate", files.write("deep.json", QByteArray(5000, '['))});
   EXPECT_EQ(nested.status, 1);
-  const CliRun board = run_cli(
-      {"estimate", files.write("board.json", "{\"board\": \"" + QByteArray(60 << 20, 'x') + "\"}")});
+  const CliRun board =
+      run_cli({"estimate",
+               files.write("board.json", "{\"board\": \"" + QByteArray(60 << 20, 'x') + "\"}")});
   EXPECT_TRUE(board.error.contains("A value is too long")) << board.error.toStdString();
 }
 
@@ -176,9 +177,9 @@ TEST(Solve, RefusesWhatTheMachineCannotHold) {
   EXPECT_EQ(estimate.json()["complete"], true);
   const CliRun run = run_cli({"solve", path});
   EXPECT_EQ(run.status, 1);
-  const QString text = "Not enough RAM to solve (after clearing previous results)";
+  const QString text = run.json()["error"].toString();
+  EXPECT_TRUE(text.startsWith("Not enough memory: this solve needs ")) << text.toStdString();
   EXPECT_EQ(run.error, "dunmarrow-cli: " + text.toUtf8() + "\n");
-  EXPECT_EQ(run.json()["error"], text);
 }
 
 TEST(Solve, EstimateIsThatOfTheResult) {

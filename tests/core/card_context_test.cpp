@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <malloc.h>
 #include <map>
 #include <optional>
 #include <set>
@@ -235,6 +236,16 @@ TEST(CardContext, TablesAreSharedWhileASpotIsAlive) {
     return make_context("Td9c2h").strength_table(parse_card("As"), parse_card("Ac"))[kOop];
   };
   EXPECT_EQ(river_list(), river_list());
+}
+
+TEST(CardContext, NothingStaysOfASpotThatIsGone) {
+  const auto build = [](int weight) {
+    make_context("Ah7c2sKd9h", "AA,KK:0." + std::to_string(1000 + weight), "QQ");
+  };
+  build(0);  // What is set up once.
+  const std::size_t before = mallinfo2().uordblks;
+  for (int i = 1; i <= 200; ++i) build(i);
+  EXPECT_LT(mallinfo2().uordblks, before + 10'000);
 }
 
 TEST(CardContext, TheKeyIsThatOfTheBoardAndTheRanges) {

@@ -62,6 +62,11 @@ std::vector<std::vector<float>> evaluate(const velmora::Game& game, const PlanNo
     lanes.push_back({reach + i * opp_row, results + i * own_row, shape.shares[seat]});
   }
   velmora::ScratchStack scratch;
+  {
+    // What was there before must not matter.
+    const velmora::ScratchStack::Frame frame(scratch);
+    std::fill_n(scratch.take<float>(1 << 20), 1 << 20, 7e34F);
+  }
   velmora::MemoryAhead ahead;
   const velmora::PayoffSeat payoff_seat{game.cards(), seat};
   if (shape.kind == velmora::StreetShape::Kind::kFold) {
@@ -224,6 +229,26 @@ TEST(TerminalPayoff, RakeIsCappedAndNeverUncapped) {
     spot.rake_cap = c.cap;
     EXPECT_DOUBLE_EQ(velmora::rake_of(*make_game(spot), c.pot), c.rake);
   }
+}
+
+/// A dealt card that every hand of both seats holds leaves nobody: all values are 0.
+TEST(TerminalPayoff, ACardThatBlocksAllHands) {
+  const auto game = make_game({.board = "Kh9d4s",
+                               .oop_range = "AsAh,AsQs",
+                               .ip_range = "AsAd,AsJs",
+                               .sizes = {{{}, {"50", ""}, {"50", ""}}}});
+  std::size_t on_turn = 0;
+  std::size_t on_river = 0;
+  for (const PlanNode& node : game->nodes()) {
+    const bool blocked = node.turn == velmora::parse_card("As");
+    if (node.kind != velmora::NodeKind::kTerminal || !blocked) continue;
+    if (node.river == kNoCard ? ++on_turn == 0 : ++on_river > 20) continue;
+    for (const Seat seat : {kOop, kIp}) {
+      EXPECT_EQ(evaluate(*game, node, seat, {{1, 1}, {1, 0}})[0], std::vector<float>(2, 0.0F));
+    }
+  }
+  EXPECT_GT(on_turn, 1U);
+  EXPECT_GT(on_river, 20U);
 }
 
 }  // namespace
