@@ -3,7 +3,6 @@ import QtQuick.Layouts
 import Velmora
 import "../logic/pages.js" as Pages
 import "../logic/presets.js" as Presets
-import "../logic/project_keys.js" as Keys
 import "../logic/solve_gate.js" as SolveGate
 import "../theme/font_families.js" as FontFamilies
 
@@ -25,11 +24,19 @@ Item {
     property bool hasProject: false
     readonly property int projectRecommendedWidth: projectPage.recommendedWindowWidth
     readonly property bool developerMode: controller.developerMode
-    readonly property bool canSolve: _canSolveBase && _hasEnoughRamToSolve
+    readonly property bool canSolve: _canSolveBase && !estimatePending && _hasEnoughRamToSolve
+    /// The memory figure is of an older spot than the one at hand.
+    readonly property bool estimatePending: memoryEstimateTimer.running || (controller.estimatePending ?? false)
+    /// Why no solve can start, in one sentence; "" if one can.
+    readonly property string solveRefusal: !hasProject
+            ? qsTr("Start a new project (or load one) from Home to enable Project")
+        : !_canSolveBase ? project_.faults.refusal
+        : estimatePending ? qsTr("The memory that this solve takes is still being estimated.")
+        : controller.solveRequiredMemoryBytes <= 0 ? qsTr("The memory that this solve takes could not be estimated.")
+        : !_hasEnoughRamToSolve ? qsTr("Not enough memory: this solve takes %1, and %2 is available.")
+              .arg(controller.solveRequiredMemoryText).arg(controller.effectiveAvailableMemoryText) : ""
 
-    readonly property bool _canSolveBase: SolveGate.isStrictBoardReady(project_.boardText)
-        && SolveGate.hasSizingFilled(Keys.sizeTexts.map(key => project_[key]))
-        && SolveGate.hasAnyHand(project_.oopRangeText) && SolveGate.hasAnyHand(project_.ipRangeText)
+    readonly property bool _canSolveBase: project_.faults.ready
     readonly property bool _hasEnoughRamToSolve: SolveGate.hasEnoughRamToSolve(
         controller.solveRequiredMemoryBytes, controller.systemAvailableMemoryBytes,
         controller.resultsReclaimableMemoryBytes)
@@ -47,6 +54,7 @@ Item {
 
     function applyProjectState(state: var) {
         project_.applyProjectState(state)
+        project_.clearHistory()
     }
 
     function targetExploitabilityAmount(): real {
@@ -86,13 +94,22 @@ Item {
 
     /// Shows a page, unless the rules of navigation refuse it.
     function requestPage(page: int) {
-        if (_navigationLocked || !isPageOpen(page))
+        if (_navigationLocked)
             return
+        if (!isPageOpen(page)) {
+            if (page === Pages.solve)
+                _answerRefusal()
+            return
+        }
         _commitEdits()
         navIndex = page
     }
 
     function startSolve() {
+        if (!canSolve) {
+            _answerRefusal()
+            return
+        }
         _commitEdits()
         navIndex = Pages.solve
         controller.startSolveWithConfig(project_.solveConfig())
@@ -117,6 +134,13 @@ Item {
         }
     }
 
+    /// Says why no solve can start, and leads to the field on Setup that is the reason.
+    function _answerRefusal() {
+        if (navIndex === Pages.setup && !_canSolveBase)
+            projectPage.showRefusedField()
+        refusalNote.show(solveRefusal, 6000)
+    }
+
     function _endDrawingAhead() {
         if (!_drawsAhead)
             return
@@ -135,6 +159,8 @@ Item {
     }
 
     onNavIndexChanged: _endDrawingAhead()
+    // What was estimated last may be of another spot: none is asked for while a field is at fault.
+    on_CanSolveBaseChanged: _scheduleSolveMemEstimate()
 
     Connections {
         target: shell._drawsAhead ? shell.Window.window : null
@@ -218,6 +244,8 @@ Item {
             type: type_
             controller: shell.controller
             canSolve: shell.canSolve
+            solveRefusal: shell.solveRefusal
+            missingFields: shell.hasProject ? project_.faults.missing : []
             projectEnabled: shell.hasProject
             currentPage: shell.navIndex
             follower: solveFollower
@@ -265,10 +293,12 @@ Item {
                 controller: shell.controller
                 project: project_
                 canSolve: shell.canSolve
+                estimatePending: shell.estimatePending
                 transform: Translate {
                     x: shell._drawsAhead ? pages.width : 0
                 }
                 onGoToSolve: shell.requestPage(Pages.solve)
+                onRefused: shell._answerRefusal()
             }
 
             SolvePage {
@@ -300,6 +330,29 @@ Item {
         }
     }
 
+    AppToolTip {
+        id: refusalNote
+
+        parent: pages
+        y: theme_.spaceSm
+        delay: 0
+        accentColor: theme_.warn
+        theme: theme_
+        type: type_
+    }
+
+    Shortcut {
+        sequence: "Ctrl+Z"
+        enabled: shell.navIndex === Pages.setup
+        onActivated: project_.undo()
+    }
+
+    Shortcut {
+        sequences: ["Ctrl+Shift+Z", "Ctrl+Y"]
+        enabled: shell.navIndex === Pages.setup
+        onActivated: project_.redo()
+    }
+
     Shortcut {
         sequence: "Ctrl+1"
         onActivated: shell.requestPage(Pages.home)
@@ -327,7 +380,7 @@ Item {
 
     Shortcut {
         sequence: "F5"
-        enabled: shell.canSolve && !shell.controller.running
+        enabled: !shell.controller.running
         onActivated: shell.startSolve()
     }
 
