@@ -3,7 +3,6 @@ import QtQuick.Layouts
 import Velmora
 import "../logic/pages.js" as Pages
 import "../logic/presets.js" as Presets
-import "../logic/project_keys.js" as Keys
 import "../logic/solve_gate.js" as SolveGate
 import "../theme/font_families.js" as FontFamilies
 
@@ -25,20 +24,27 @@ Item {
     property bool hasProject: false
     readonly property int projectRecommendedWidth: projectPage.recommendedWindowWidth
     readonly property bool developerMode: controller.developerMode
-    readonly property bool canSolve: _canSolveBase && (_memoryUnknown || _hasEnoughRamToSolve)
+    readonly property bool canSolve: _canSolveBase && (estimatePending || _hasEnoughRamToSolve)
+    /// The memory figure is of an older spot than the one at hand. The controller looks at the memory
+    /// itself before it starts.
+    readonly property bool estimatePending: memoryEstimateTimer.running || controller.estimatePending
+    /// Why no solve can start, in one sentence; "" if one can.
+    readonly property string solveRefusal: !hasProject
+            ? qsTr("Start a new project (or load one) from Home to enable Project")
+        : !_canSolveBase ? project_.faults.refusal
+        : canSolve ? ""
+        : controller.solveRequiredMemoryBytes <= 0 ? qsTr("The memory that this solve takes could not be estimated.")
+        : qsTr("Not enough memory: this solve takes %1, and %2 is available.")
+          .arg(controller.solveRequiredMemoryText).arg(controller.effectiveAvailableMemoryText)
     /// Whether something would be lost without a save: an edit of the spot, a result, its locks.
     readonly property bool unsaved: hasProject && (controller.resultUnsaved || _stateText !== _savedStateText)
     readonly property string windowTitle: !hasProject ? qsTr("Dunmarrow")
         : qsTr("%1%2 — Dunmarrow").arg(unsaved ? "• " : "").arg(files.currentName || files.suggestedName || qsTr("New spot"))
 
-    readonly property bool _canSolveBase: SolveGate.isStrictBoardReady(project_.boardText)
-        && SolveGate.hasSizingFilled(Keys.sizeTexts.map(key => project_[key]))
-        && SolveGate.hasAnyHand(project_.oopRangeText) && SolveGate.hasAnyHand(project_.ipRangeText)
+    readonly property bool _canSolveBase: project_.faults.ready
     readonly property bool _hasEnoughRamToSolve: SolveGate.hasEnoughRamToSolve(
         controller.solveRequiredMemoryBytes, controller.systemAvailableMemoryBytes,
         controller.resultsReclaimableMemoryBytes)
-    /// While it is being estimated anew: the controller looks at the memory itself, before a start.
-    readonly property bool _memoryUnknown: memoryEstimateTimer.running || controller.estimatePending
     readonly property bool _setupDiffers: controller.resultRevision >= 0 && controller.resultIterations > 0
         && hasProject && !controller.isResultSpot(project_.solveConfig())
     readonly property string _stateText: _comparable(project_.exportProjectState())
@@ -60,6 +66,7 @@ Item {
 
     function applyProjectState(state: var) {
         project_.applyProjectState(state)
+        project_.clearHistory()
     }
 
     function targetExploitabilityAmount(): real {
@@ -109,14 +116,23 @@ Item {
 
     /// Shows a page, unless the rules of navigation refuse it.
     function requestPage(page: int) {
-        if (!isPageOpen(page) || (_navigationLocked && page !== Pages.results))
+        if (_navigationLocked && page !== Pages.results)
             return
+        if (!isPageOpen(page)) {
+            if (page === Pages.solve)
+                _answerRefusal()
+            return
+        }
         _commitEdits()
         navIndex = page
     }
 
     function startSolve() {
         _commitEdits()
+        if (!canSolve) {
+            _answerRefusal()
+            return
+        }
         const config = project_.solveConfig()
         if (!controller.locksFit(config) || _locksAnswer !== "") {
             _start(config)
@@ -231,6 +247,13 @@ Item {
         }
     }
 
+    /// Says why no solve can start, and leads to the field on Setup that is the reason.
+    function _answerRefusal() {
+        if (navIndex === Pages.setup && !_canSolveBase)
+            projectPage.showRefusedField()
+        refusalNote.show(solveRefusal, 6000)
+    }
+
     function _endDrawingAhead() {
         if (!_drawsAhead)
             return
@@ -307,6 +330,8 @@ Item {
     }
 
     onNavIndexChanged: _endDrawingAhead()
+    // What was estimated last may be of another spot: none is asked for while a field is at fault.
+    on_CanSolveBaseChanged: _scheduleSolveMemEstimate()
 
     Connections {
         target: shell._drawsAhead ? shell.Window.window : null
@@ -402,6 +427,8 @@ Item {
             type: type_
             controller: shell.controller
             canSolve: shell.canSolve
+            solveRefusal: shell.solveRefusal
+            missingFields: shell.hasProject ? project_.faults.missing : []
             projectEnabled: shell.hasProject
             currentPage: shell.navIndex
             follower: solveFollower
@@ -440,10 +467,12 @@ Item {
                 controller: shell.controller
                 project: project_
                 canSolve: shell.canSolve
+                estimatePending: shell.estimatePending
                 transform: Translate {
                     x: shell._drawsAhead ? pages.width : 0
                 }
                 onGoToSolve: shell.requestPage(Pages.solve)
+                onRefused: shell._answerRefusal()
             }
 
             SolvePage {
@@ -504,6 +533,29 @@ Item {
         }
     }
 
+    AppToolTip {
+        id: refusalNote
+
+        parent: pages
+        y: theme_.spaceSm
+        delay: 0
+        accentColor: theme_.warn
+        theme: theme_
+        type: type_
+    }
+
+    Shortcut {
+        sequence: "Ctrl+Z"
+        enabled: shell.navIndex === Pages.setup
+        onActivated: project_.undo()
+    }
+
+    Shortcut {
+        sequences: ["Ctrl+Shift+Z", "Ctrl+Y"]
+        enabled: shell.navIndex === Pages.setup
+        onActivated: project_.redo()
+    }
+
     Shortcut {
         sequence: "Ctrl+1"
         onActivated: shell.requestPage(Pages.home)
@@ -557,7 +609,7 @@ Item {
 
     Shortcut {
         sequence: "F5"
-        enabled: shell.canSolve && !shell.controller.running
+        enabled: !shell.controller.running
         onActivated: shell.startSolve()
     }
 

@@ -75,9 +75,16 @@ TEST_F(AppControllerTest, RefusesWhatCannotBeSolvedAndKeepsTheResult) {
       {with(with(good, "board", "As"), "oop_range", ""), board},  // The board is looked at first,
       {with(good, "oop_range", ""), range},
       {with(good, "oop_range", " \t"), range},
-      {with(good, "ip_range", "A"), range},
-      {with(good, "ip_range", "A,K"), range},
-      {with(with(good, "ip_range", "50%"), "ip_turn_bet_sizes", ""), range},  // then the ranges,
+      {with(good, "ip_range", "AA:0"), range},
+      {with(with(good, "ip_range", ","), "ip_turn_bet_sizes", ""), range},  // then the ranges,
+      {with(with(good, "ip_range", "50%"), "ip_turn_bet_sizes", ""), sizing},
+      // A fault in a text is told by the parser, before anything that is only missing.
+      {with(good, "board", "AhAhAh"), "Board: Flop cards must be unique"},
+      {with(good, "board", "AsKdXx2c9s"), "Board: 'Xx': Invalid rank character"},
+      {with(good, "ip_range", "AA,KKs"), "IP Range: 'KKs': Pair cannot have suitedness suffix"},
+      {with(with(good, "board", ""), "oop_turn_raise_sizes", "33 75"),
+       "OOP Turn Raise sizes (%): Sizing: separate sizes by commas, as in '33, 75', not '33 75'"},
+      {with(good, "starting_pot", 0), "Starting Pot: The starting pot must be 1 chip or more"},
       {with(good, "oop_flop_bet_sizes", ""), sizing},
       {with(good, "ip_river_raise_sizes", "  "), sizing},
       {with(good, "ip_turn_raise_sizes", QVariant()), sizing},
@@ -160,7 +167,13 @@ TEST_F(AppControllerTest, SolvesASpotAndShowsItsResult) {
 
 TEST_F(AppControllerTest, AFailedSolveTellsWhy) {
   AppController controller;
-  solve(controller, with(riverSpot(), "oop_range", "AKx"));
+  QVariantMap spot = riverSpot();
+  // Every field is right by itself, but no tree can be as deep as this one.
+  spot["effective_stack"] = 100000;
+  for (const QString seat : {"oop", "ip"}) {
+    spot[seat + "_river_bet_sizes"] = spot[seat + "_river_raise_sizes"] = "1c";
+  }
+  solve(controller, spot);
   ASSERT_TRUE(controller.statusText().startsWith("Error: "));
   EXPECT_GT(controller.statusText().size(), 7);
   EXPECT_EQ(controller.resultsSummary(), "Solve failed: " + controller.statusText().mid(7));

@@ -16,6 +16,8 @@
 #include "turn_clock.h"
 #include "update_manager.h"
 
+extern void qml_register_types_Velmora();
+
 /// Readies each engine as the entry of the program does.
 class Setup : public QObject {
   Q_OBJECT
@@ -80,6 +82,8 @@ int main(int argc, char* argv[]) {
   qputenv("TMPDIR", home.path().toUtf8());
   qputenv("LC_ALL", "C.UTF-8");
   QQuickStyle::setStyle("Basic");
+  volatile auto registration = &qml_register_types_Velmora;
+  Q_UNUSED(registration);
   Setup setup(home.path());
   return quick_test_main_with_setup(argc, argv, "velmora_ui_tests", QUICK_TEST_SOURCE_DIR, &setup);
 }

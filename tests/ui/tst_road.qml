@@ -68,7 +68,7 @@ MainWindowCase {
             wait(150)
         }
         compare(project.startingStreet, "river")
-        verify(Find.text(page(), "Ready"))
+        verify(Find.text(page(), "Setup Required"))
 
         // Pot and stack, sizes and ranges, by keyboard.
         typeInto(field("Starting Pot"), "100")
@@ -82,7 +82,11 @@ MainWindowCase {
         }
         typeInto(field("OOP Range"), "AA,KK,QJs")
         verify(!shell.canSolve)
-        verify(!Find.button(page(), "Continue to Solve →").enabled)
+        // The way on answers with what is missing, and stays.
+        clickButton("Continue to Solve →")
+        compare(shell.navIndex, 1)
+        verify(field("IP Range").activeFocus)
+        tryVerify(() => Find.text(window.contentItem.parent, "Not ready: select at least one hand in both ranges"))
         typeInto(field("IP Range"), "AK,QQ,JJ")
         compare(project.ipRangeText, "AK,QQ,JJ")
         tryVerify(() => shell.canSolve, 10000)
@@ -110,6 +114,7 @@ MainWindowCase {
         compare(project.ipRiverBetSizesText, "70")
         compare(project.maxIterations, 400)
         tryVerify(() => controller.solveRequiredMemoryBytes > 0, 20000)
+        tryVerify(() => !shell.estimatePending)
         compare(shell.canSolve, controller.systemAvailableMemoryBytes > controller.solveRequiredMemoryBytes)
         // Back to a new project: nothing of it stays, also in fields that were edited by hand.
         typeInto(field("OOP Flop Bet sizes (%)"), "33")
