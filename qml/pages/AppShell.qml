@@ -3,6 +3,7 @@ import QtQuick.Layouts
 import Velmora
 import "../logic/pages.js" as Pages
 import "../logic/presets.js" as Presets
+import "../logic/project_keys.js" as ProjectKeys
 import "../logic/solve_gate.js" as SolveGate
 import "../theme/font_families.js" as FontFamilies
 
@@ -198,8 +199,8 @@ Item {
 
     /// A project state as a text that is equal for what a file keeps alike.
     function _comparable(state: var): string {
-        return JSON.stringify(Keys.all.filter(key => key !== "threadCount")
-                              .map(key => Keys.coerced(key, state[key])))
+        return JSON.stringify(ProjectKeys.all.filter(key => key !== "threadCount")
+                              .map(key => ProjectKeys.coerced(key, state[key])))
     }
 
     function _noteSaved(state: var) {

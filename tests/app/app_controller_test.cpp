@@ -24,6 +24,20 @@ QVariantMap with(QVariantMap map, const QString& key, const QVariant& value) {
   return map;
 }
 
+/// A spot that no machine has the memory for.
+QVariantMap tooLarge() {
+  QStringList sizes;
+  for (int size = 10; size <= 400; size += 10) sizes << QString::number(size);
+  QVariantMap map = riverSpot();
+  map["board"] = "KsQd7h";
+  map["starting_street"] = "flop";
+  map["effective_stack"] = 100000;
+  for (const QString& key : map.keys()) {
+    if (key.endsWith("_sizes")) map[key] = sizes.join(',');
+  }
+  return map;
+}
+
 /// Starts a solve and waits for its end.
 void solve(AppController& controller, const QVariantMap& map) {
   controller.startSolveWithConfig(map);
@@ -282,7 +296,8 @@ TEST_F(AppControllerTest, TheLatestOfLoadsAndStartsCounts) {
 }
 
 TEST_F(AppControllerTest, ARunThatFailsCostsNothingAndSaysHowItEnded) {
-  AppController controller;
+  // Without an estimate nothing is in the way of a start.
+  AppController controller({[] { return 0U; }, [] { return 0U; }, [](const auto&) { return 0U; }});
   const QSignalSpy results(&controller, &AppController::resultsChanged);
   const QSignalSpy started(&controller, &AppController::runStarted);
   const QSignalSpy ended(&controller, &AppController::runEnded);
@@ -295,7 +310,7 @@ TEST_F(AppControllerTest, ARunThatFailsCostsNothingAndSaysHowItEnded) {
   EXPECT_EQ(controller.resultIterations(), 60);
   controller.cancelSolve();
   ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
-  solve(controller, with(other, "oop_range", "AKx"));
+  solve(controller, tooLarge());
   controller.startSolveWithConfig(with(other, "board", ""));
 
   EXPECT_EQ(results.count(), 1);
@@ -485,7 +500,7 @@ TEST_F(AppControllerTest, EstimatesTheSpotOnScreen) {
   std::string error;
   const auto estimate = velmora_app::estimate_memory(makeSolveConfig(riverSpot()), error);
   ASSERT_TRUE(estimate) << error;
-  EXPECT_EQ(controller.solveRequiredMemoryBytes(), estimate->total_bytes);
+  EXPECT_EQ(controller.solveRequiredMemoryBytes(), estimate->peak_bytes);
   controller.requestSolveMemoryEstimate({});
   ASSERT_TRUE(waitUntil([&] { return controller.solveRequiredMemoryBytes() == 0; }));
   EXPECT_EQ(controller.solveRequiredMemoryText(), "—");
