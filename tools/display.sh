@@ -16,11 +16,13 @@ start_program() {
   server=$!
   read -r display <&3
   export DISPLAY=":$display"
+  # A program that is killed keeps a draft, which the next one would ask about.
+  rm -rf -- "$home/data"
   mkdir -p "$home/config/Dunmarrow" "$home/cache" "$home/tmp"
   printf '[ui]\ndarkMode=%s\nlanguage=%s\n' "$([[ $mode == dark ]] && echo true || echo false)" \
     "${UI_LANGUAGE:-en}" >"$home/config/Dunmarrow/Dunmarrow.conf"
-  env XDG_CONFIG_HOME="$home/config" XDG_CACHE_HOME="$home/cache" TMPDIR="$home/tmp" \
-    "$program" "${@:4}" &
+  env XDG_CONFIG_HOME="$home/config" XDG_DATA_HOME="$home/data" XDG_CACHE_HOME="$home/cache" \
+    TMPDIR="$home/tmp" "$program" "${@:4}" &
   app=$!
   for _ in {1..300}; do
     xdotool search --onlyvisible --name 'Dunmarrow' >/dev/null 2>&1 && break
