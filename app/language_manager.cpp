@@ -99,7 +99,8 @@ void LanguageManager::install(const QString& code) {
     // A system may lack these. In a language that the program does not speak, they would only mix
     // two languages.
     const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-    for (const char* catalogue : {"qtbase_", "qtdeclarative_"}) installFirst(catalogue, names, folder);
+    for (const char* catalogue : {"qtbase_", "qtdeclarative_"})
+      installFirst(catalogue, names, folder);
   }
   qInfo().noquote() << "Language set to" << code << "(translator"
                     << (loaded ? "loaded" : "not loaded") << ")";

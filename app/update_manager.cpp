@@ -22,7 +22,8 @@ QString normalizeUrl(const QString& text) {
   return url;
 }
 
-/// The first address that is set: the user's, the environment's, that of the build. Empty if none is.
+/// The first address that is set: the user's, the environment's, that of the build. Empty if none
+/// is.
 QString initialManifestUrl() {
   for (const QString& candidate :
        {QSettings().value(kManifestUrlKey).toString(),

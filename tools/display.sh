@@ -16,6 +16,8 @@ start_program() {
   server=$!
   read -r display <&3
   export DISPLAY=":$display"
+  # A program that is killed keeps a draft, which the next one would ask about.
+  rm -rf -- "$home/data"
   mkdir -p "$home/config/Dunmarrow" "$home/cache" "$home/tmp"
   printf '[ui]\ndarkMode=%s\nlanguage=%s\n' "$([[ $mode == dark ]] && echo true || echo false)" \
     "${UI_LANGUAGE:-en}" >"$home/config/Dunmarrow/Dunmarrow.conf"

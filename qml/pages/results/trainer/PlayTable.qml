@@ -15,8 +15,9 @@ Item {
 
     readonly property real pictureRatio: 700 / 1200
     readonly property bool _small: picture.paintedHeight < 400
-    /// Of the full size of cards, or of small ones, where the table is a little low for it.
-    readonly property real _fit: Math.min(1, picture.paintedHeight / (_small ? 280 : 460))
+    /// Of the usual size of cards, or of small ones: less where the table is a little low for it, more
+    /// where it is large.
+    readonly property real _fit: Math.min(_small ? 1 : 1.5, picture.paintedHeight / (_small ? 280 : 460))
     readonly property real _seatScale: (_small ? 0.62 : 0.95) * _fit
     readonly property string _actingSeat: play.playHandComplete ? _heroSeat : play.playMeta.player ?? ""
     /// Where the end of a hand is told: at the seat that went wrong, else at the user's own.
@@ -27,7 +28,7 @@ Item {
     readonly property color _ground: "#0B0F14"
     /// From the middle of the table to where the dealer button leaves room, in pixels.
     readonly property int _besideDealer: _dealerX + 13 + (_small ? theme.spaceSm : theme.spaceMd)
-    readonly property int _dealerX: _small ? 56 : 86
+    readonly property int _dealerX: _small ? 56 : 86 * Math.max(1, _fit)
 
     /// A turn or river on the table is to be another one.
     signal cardChangeWanted(levelIndex: int, nodeIndex: int)
@@ -190,7 +191,7 @@ Item {
             PlayBubble {
                 readonly property Item seat: root.play.playLastActionActor === "IP" ? ip : oop
 
-                x: Math.min(table.width - width, table.width / 2 + (root._small ? root._besideDealer : 140))
+                x: Math.min(table.width - width, table.width / 2 + (root._small ? root._besideDealer : 140 * Math.max(1, root._fit)))
                 y: seat.y + (seat.height - height) / 2
                 theme: root.theme
                 type: root.type
