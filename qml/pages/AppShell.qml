@@ -159,6 +159,7 @@ Item {
     }
 
     onNavIndexChanged: _endDrawingAhead()
+    onSolveRefusalChanged: refusalNote.hide()
     // What was estimated last may be of another spot: none is asked for while a field is at fault.
     on_CanSolveBaseChanged: _scheduleSolveMemEstimate()
 
@@ -334,7 +335,7 @@ Item {
         id: refusalNote
 
         parent: pages
-        y: theme_.spaceSm
+        y: pages.height - height - theme_.spaceXl
         delay: 0
         accentColor: theme_.warn
         theme: theme_
