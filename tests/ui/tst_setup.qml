@@ -369,6 +369,11 @@ MainWindowCase {
         verify(Find.text(page(), "Setup Required"))
         compare(project.startingStreet, "flop")
         verify(!shell._canSolveBase)
+        verify(tab("Solve").disabledReason.startsWith(
+            "Not ready: enter a valid board first. Still missing: Board, OOP Range, IP Range, OOP Flop Bet sizes (%), "))
+        project.boardText = "AhAhAh"
+        verify(Find.text(page(), "Flop cards must be unique"))
+        verify(Find.text(page(), "Board: Flop cards must be unique"))
         project.boardText = "AsKd7h2c9s"
         compare(project.startingStreet, "river")
         // The picker by keyboard: it opens on a slot, clears it and what follows.
