@@ -14,6 +14,8 @@ T.TextField {
     property bool mono: false
     /// What is wrong with the text, in one sentence, or "".
     property string fault: ""
+    /// Where the reason stands: above, unless other fields are there.
+    property bool faultBelow: false
     /// The project that the text is part of, if it is: undo and redo then go to all of it, and not to
     /// the text of this field alone.
     property ProjectState project: null
@@ -59,6 +61,7 @@ T.TextField {
     AppToolTip {
         theme: root.theme
         type: root.type
+        y: root.faultBelow ? root.height + 6 : -height - 6
         delay: 0
         closePolicy: T.Popup.NoAutoClose
         accentColor: root.theme.danger

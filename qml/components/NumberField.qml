@@ -16,6 +16,10 @@ ValueField {
     /// What is wrong with the text that stands here. The owner keeps what `checked` says.
     property string inputFault: ""
 
+    /// The number from before the typing that goes on, to go back to if it comes to nothing.
+    property real _before: 0
+    property bool _underWay: false
+
     readonly property string _rule: decimals > 0
         ? qsTr("Enter a number from %1 to %2 with at most %3 decimals.").arg(low).arg(high).arg(decimals)
         : qsTr("Enter a whole number from %1 to %2.").arg(low).arg(high)
@@ -24,15 +28,18 @@ ValueField {
     signal checked(string sentence)
 
     function _take(text: string) {
+        if (!_underWay)
+            _before = number
+        _underWay = true
         const typedNumber = NumberText.parsed(text, decimals)
         const fits = typedNumber >= low && typedNumber <= high
-        if (fits)
-            numberCommitted(typedNumber)
+        numberCommitted(fits ? typedNumber : _before)
         checked(fits ? "" : _rule)
     }
 
     /// A number out of range is held to it and an empty field gets its fallback; anything else stays.
     function _leave() {
+        _underWay = false
         if (text === value)
             return
         const typedNumber = text.trim() === "" ? fallback : NumberText.parsed(text, decimals)
@@ -53,6 +60,10 @@ ValueField {
     onEnabledChanged: {
         if (!enabled)
             checked("")
+    }
+    onNumberChanged: {
+        if (!_typing)
+            _underWay = false
     }
     onInputFaultChanged: {
         if (inputFault === "" && !_typing)

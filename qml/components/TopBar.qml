@@ -24,7 +24,7 @@ Rectangle {
 
     readonly property string _solveReason: missingFields.length === 0
         ? solveRefusal || qsTr("Fill board, ranges, and sizings to enable Solve")
-        : solveRefusal + "\n" + qsTr("Still missing: %1").arg(Array.from(missingFields).join(", "))
+        : qsTr("%1. Still missing: %2.").arg(solveRefusal).arg(Array.from(missingFields).join(", "))
 
     signal pageRequested(int page)
 

@@ -331,6 +331,7 @@ Item {
     }
 
     onNavIndexChanged: _endDrawingAhead()
+    onSolveRefusalChanged: refusalNote.hide()
     // What was estimated last may be of another spot: none is asked for while a field is at fault.
     on_CanSolveBaseChanged: _scheduleSolveMemEstimate()
 
@@ -538,7 +539,7 @@ Item {
         id: refusalNote
 
         parent: pages
-        y: theme_.spaceSm
+        y: pages.height - height - theme_.spaceXl
         delay: 0
         accentColor: theme_.warn
         theme: theme_

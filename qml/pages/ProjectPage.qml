@@ -129,7 +129,8 @@ ScrollPage {
     RowLayout {
         id: ranges
 
-        readonly property real heightLimit: root.height - 2 * root.margins - y
+        // The importer is a row below without a height of its own.
+        readonly property real heightLimit: root.height - 2 * root.margins - root.spacing - y
 
         Layout.fillWidth: true
         spacing: root.theme.spaceLg

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls
 import QtTest
 import "find.js" as Find
 
@@ -85,6 +86,217 @@ MainWindowCase {
         compare(text.text, "")
     }
 
+    function type(item: Item, text: string) {
+        click(item)
+        keyClick(Qt.Key_A, Qt.ControlModifier)
+        for (const character of text)
+            keyClick(character)
+    }
+
+    /// Whether a text shows in the window or above it.
+    function says(text: string): bool {
+        return Find.text(window.contentItem.parent, text) !== undefined
+    }
+
+    function test_a_bad_size_is_told_at_its_field_and_by_the_way_on() {
+        setRiverSpot()
+        keyClick(Qt.Key_2, Qt.ControlModifier)
+        const sentence = "Sizing: separate sizes by commas, as in '33, 75', not '33 75'"
+        const refusal = "IP Turn Bet sizes (%): " + sentence
+        const size = field("IP Turn Bet sizes (%)")
+        type(size, "33 75")
+        compare(project.ipTurnBetSizesText, "33 75")
+        compare(size.fault, sentence)
+        tryVerify(() => says(sentence))
+        verify(Find.text(page(), refusal))
+        verify(Find.text(page(), "Setup Required"))
+        compare(tab("Solve").disabledReason, refusal)
+        // The way on and F5 are open, stay here, say the same and lead to the field.
+        for (const ask of [() => clickButton("Continue to Solve →"), () => keyClick(Qt.Key_F5),
+                           () => keyClick(Qt.Key_3, Qt.ControlModifier)]) {
+            field("OOP Range").forceActiveFocus()
+            ask()
+            compare(shell.navIndex, 1)
+            verify(size.activeFocus)
+            tryVerify(() => Find.all(window.contentItem.parent, item => item.text === refusal).length > 1)
+        }
+        verify(!controller.running)
+        type(size, "33, 75")
+        verify(!says(sentence))
+        compare(shell.solveRefusal, "The memory that this solve takes is still being estimated.")
+        tryVerify(() => shell.canSolve, 10000)
+        compare(shell.solveRefusal, "")
+    }
+
+    function test_a_range_is_what_the_parser_reads_data() {
+        return [
+            { tag: "one combo", text: "AhKc", combos: "1.0 combos (0.1%)", weight: 1 / 12 },
+            { tag: "half of all", text: "50%", combos: "663.0 combos (50.0%)", weight: 0.5 },
+            { tag: "last token wins", text: "AKo, AK:0.25", combos: "4.0 combos (0.3%)", weight: 0.25 },
+            { tag: "a fault", text: "AA, AKoo", fault: "'AKoo': Invalid suit character", weight: undefined },
+            { tag: "no hand", text: "AA:0", weight: undefined,
+              refusal: "Not ready: select at least one hand in both ranges" }
+        ]
+    }
+
+    function test_a_range_is_what_the_parser_reads(data) {
+        setRiverSpot()
+        keyClick(Qt.Key_2, Qt.ControlModifier)
+        type(field("OOP Range"), data.text)
+        compare(field("OOP Range").fault, data.fault ?? "")
+        compare(project.faults.refusal, data.refusal ?? (data.fault ? "OOP Range: " + data.fault : ""))
+        compare(shell._canSolveBase, data.combos !== undefined)
+        compare(Find.all(page(), item => / combos \(/.test(item.text ?? "")).length, data.combos ? 2 : 1)
+        verify(!data.combos || Find.text(page(), data.combos))
+        fuzzyCompare(matrix(0).weights["AKo"] ?? -1, data.weight ?? -1, 1e-6)
+    }
+
+    function test_a_text_that_is_no_number_is_refused_data() {
+        return [
+            { tag: "a fraction", label: "Starting Pot", typed: "5.5", key: "startingPot" },
+            { tag: "a decimal comma", label: "Effective Stack", typed: "10,5", key: "effectiveStack" },
+            { tag: "of the cap", label: "Rake Cap", typed: "2.5", key: "rakeCap" },
+            { tag: "letters", label: "Starting Pot", typed: "x7x5", key: "startingPot" },
+            { tag: "two numbers", label: "Effective Stack", typed: "10 000", key: "effectiveStack" },
+            { tag: "decimals", label: "Rake (%)", typed: "2.1255", key: "rakePercent" }
+        ]
+    }
+
+    function test_a_text_that_is_no_number_is_refused(data) {
+        openNewProject()
+        const item = field(data.label)
+        const before = project[data.key]
+        typeInto(item, data.typed)
+        // It stands as typed, with the reason, and changes nothing.
+        compare(item.text, data.typed)
+        verify(/^Enter a /.test(item.fault), item.fault)
+        compare(project[data.key], before)
+        compare(project.faults.refusal, data.label + ": " + item.fault)
+        verify(!shell._canSolveBase)
+        item.forceActiveFocus()
+        keyClick(Qt.Key_Z, Qt.ControlModifier)
+        compare(item.text, String(before))
+        compare(item.fault, "")
+        // Another project has nothing of it either.
+        typeInto(item, data.typed)
+        shell.resetToNewProject()
+        compare(item.text, String(before))
+        compare(item.fault, "")
+    }
+
+    function test_a_start_takes_what_stands_in_the_field() {
+        setRiverSpot()
+        keyClick(Qt.Key_2, Qt.ControlModifier)
+        type(field("Starting Pot"), "77")
+        compare(project.startingPot, 77)
+        // What is out of range would be held to it on leaving: nothing is solved that nobody typed.
+        type(field("Effective Stack"), "999999")
+        keyClick(Qt.Key_F5)
+        compare(shell.navIndex, 1)
+        compare(field("Effective Stack").text, "999999")
+        compare(project.effectiveStack, 200)
+        type(field("Effective Stack"), "150")
+        tryVerify(() => shell.canSolve, 10000)
+        keyClick(Qt.Key_F5)
+        tryVerify(() => !controller.running && controller.resultIterations > 0, 30000)
+        compare(controller.resultStartingPot, 77)
+        compare(project.effectiveStack, 150)
+    }
+
+    function test_a_click_anywhere_ends_typing() {
+        openNewProject()
+        const pot = field("Starting Pot")
+        for (const place of [() => mouseClick(page(), 5, 5), () => mouseClick(Find.text(page(), "Rake Cap")),
+                             () => clickCell(matrix(0), 0, 0)]) {
+            type(pot, "999999")
+            verify(pot.activeFocus)
+            place()
+            verify(!pot.activeFocus, String(place))
+            compare(project.startingPot, 100000)
+            project.startingPot = 5
+        }
+        verify(matrix(0).activeFocus)
+    }
+
+    function test_undo_and_redo() {
+        openNewProject()
+        const z = modifiers => keyClick(Qt.Key_Z, Qt.ControlModifier | (modifiers ?? Qt.NoModifier))
+        verify(!Find.button(page(), "Undo").enabled)
+        const states = [shell.exportProjectState()]
+        const oop = matrix(0)
+        const toggle = Find.all(page(), item => item.text === "OOP Turn Don't donk" && item.value !== undefined)[0]
+        const steps = [
+            () => {  // One drag over three cells.
+                page().reveal(oop)
+                wait(50)
+                mousePress(oop, cell(0, 0).x, cell(0, 0).y)
+                for (const column of [1, 2]) {
+                    mouseMove(oop, cell(0, column).x, cell(0, column).y)
+                    wait(1)
+                }
+                mouseRelease(oop, cell(0, 2).x, cell(0, 2).y)
+            },
+            () => clickCell(oop, 1, 1),
+            () => typeInto(field("IP Range"), "AA, KQs"),
+            () => typeInto(field("Starting Pot"), "250"),
+            () => typeInto(field("OOP Flop Bet sizes (%)"), "33, 75"),
+            () => click(toggle),
+            () => project.edit("", "boardText", "AsKd7h2c"),
+            () => clickButton("0.1%"),
+            () => shell.project.applyProjectState({ rakePercent: 1, rakeCap: 2, oopFlopAddAllIn: true }),
+            () => click(Find.all(page(), item => item.text === "Clear" && item.clicked !== undefined)[0])
+        ]
+        for (const step of steps) {
+            step()
+            wait(5)
+            states.push(shell.exportProjectState())
+        }
+        compare(states[1].oopRangeText, "AA, AKs, AQs")
+        compare(states[7].startingStreet, "turn")
+        for (let place = steps.length - 1; place >= 0; --place) {
+            z()
+            compare(shell.exportProjectState(), states[place], "back to " + place)
+        }
+        verify(!project.canUndo)
+        compare(field("Starting Pot").text, "180")
+        verify(!toggle.checked)
+        for (let place = 1; place < states.length; ++place) {
+            z(Qt.ShiftModifier)
+            compare(shell.exportProjectState(), states[place], "on to " + place)
+        }
+        verify(!project.canRedo)
+        // Inside a field it goes to the spot as well, and what is typed then ends what could be redone.
+        type(field("IP Range"), "QQ")
+        z()
+        compare(project.ipRangeText, "AA, KQs")
+        compare(field("IP Range").text, "AA, KQs")
+        z()
+        compare(project.oopRangeText, "AA, AKs, AQs, KK")
+        clickButton("Redo")
+        compare(project.oopRangeText, "")
+        clickButton("Undo")
+        type(field("IP Range"), "JJ")
+        wait(5)
+        verify(!project.canRedo)
+        shell.resetToNewProject()
+        verify(!project.canUndo)
+        z()
+        compare(project.ipRangeText, "")
+    }
+
+    function test_the_matrices_use_a_large_window() {
+        clickButton("Quick Solve")
+        const least = shell.projectRecommendedWidth
+        verify(matrix(0).cellSize >= 36)
+        window.width = 2560
+        window.height = 1440
+        tryVerify(() => matrix(0).cellSize > 50)
+        compare(matrix(1).cellSize, matrix(0).cellSize)
+        compare(shell.projectRecommendedWidth, least)
+        const bars = Find.all(page(), item => item.policy !== undefined && item.policy === ScrollBar.AlwaysOn)
+        compare(bars.length, 0)
+    }
+
     function test_numbers_are_held_to_their_range_data() {
         return [
             { tag: "pot of nothing", label: "Starting Pot", typed: "0", key: "startingPot", value: 1 },
@@ -157,6 +369,11 @@ MainWindowCase {
         verify(Find.text(page(), "Setup Required"))
         compare(project.startingStreet, "flop")
         verify(!shell._canSolveBase)
+        verify(tab("Solve").disabledReason.startsWith(
+            "Not ready: enter a valid board first. Still missing: Board, OOP Range, IP Range, OOP Flop Bet sizes (%), "))
+        project.boardText = "AhAhAh"
+        verify(Find.text(page(), "Flop cards must be unique"))
+        verify(Find.text(page(), "Board: Flop cards must be unique"))
         project.boardText = "AsKd7h2c9s"
         compare(project.startingStreet, "river")
         // The picker by keyboard: it opens on a slot, clears it and what follows.

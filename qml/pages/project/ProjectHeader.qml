@@ -28,7 +28,7 @@ RowLayout {
 
     SectionHeader {
         Layout.fillWidth: true
-        Layout.minimumWidth: 200
+        Layout.minimumWidth: implicitWidth
         theme: root.theme
         title: qsTr("Project Setup")
         badge: root.project.faults.ready ? qsTr("Ready") : qsTr("Setup Required")
@@ -38,6 +38,7 @@ RowLayout {
     ColumnLayout {
         Layout.fillWidth: true
         Layout.preferredWidth: 340
+        Layout.minimumWidth: 180
         Layout.maximumWidth: 460
         spacing: 2
 
@@ -51,7 +52,7 @@ RowLayout {
             color: Object.keys(root.project.faults.sentences).length > 0 ? root.theme.danger : root.theme.warn
             font.pixelSize: root.type.labelMd
             wrapMode: Text.Wrap
-            maximumLineCount: 2
+            maximumLineCount: 3
             elide: Text.ElideRight
 
             HoverHandler {

@@ -49,7 +49,7 @@ Card {
     }
 
     // The page asks for no more width than the smallest matrix needs.
-    contentWidth: grid.implicitWidth - matrix.implicitWidth + _smallestMatrix
+    contentWidth: _smallestMatrix + grid.columnSpacing + Math.max(180, libraryColumn.implicitWidth)
 
     Connections {
         function onRangeChosen(text: string) {
@@ -104,6 +104,8 @@ Card {
         }
 
         LibraryColumn {
+            id: libraryColumn
+
             Layout.rowSpan: 2
             Layout.fillWidth: true
             Layout.fillHeight: true

@@ -38,6 +38,7 @@ Repeater {
             placeholderText: root.placeholder
             value: root.project[cell.key]
             spotKey: cell.spotKey
+            faultBelow: root.suffix === "RaiseSizesText"
             fault: root.project.faultAt(spotKey)
             project: root.project
             onTyped: text => root.project.edit(cell.key, cell.key, text)
