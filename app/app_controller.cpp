@@ -1,6 +1,8 @@
 #include "app_controller.h"
 
+#include <algorithm>
 #include <exception>
+#include <optional>
 #include <utility>
 
 #include <QCoreApplication>
@@ -10,6 +12,8 @@
 #include <QTimer>
 
 #include "developer_mode.h"
+#include "fault_scope.h"
+#include "file_places.h"
 #include "processor_count.h"
 #include "project_writer.h"
 #include "result_variants.h"
@@ -17,6 +21,7 @@
 #include "solve_activity.h"
 #include "solve_config_map.h"
 #include "solve_request.h"
+#include "spot_compare.h"
 #include "text_files.h"
 #include "trainer_stats.h"
 
@@ -43,17 +48,21 @@ LocalPath pathToSave(const QUrl& fileUrl) {
   return file;
 }
 
-/// A project with the answers about the root among its others: they are in every file.
-Project withRootAnswers(Project project, const velmora_app::SolvedSpot& spot,
+/// A project with the answers about the root among its others: they are in every file. Dropping the
+/// solver meanwhile ends the walk, and the file gets what was there.
+Project withRootAnswers(Project project, const std::weak_ptr<const velmora::DiscountedCfr>& solver,
+                        const std::weak_ptr<const velmora::Game>& game,
                         const std::shared_ptr<velmora_app::ActionValues>& values) {
-  ResultQueries queries([&spot] { return spot; }, project.tree, values);
-  queries.caches() = project.caches;
   try {
+    const velmora_app::FaultScope scope;
+    const auto spot = [&] { return velmora_app::SolvedSpot{game.lock(), solver.lock()}; };
+    ResultQueries queries(spot, project.tree, values);
+    queries.caches() = project.caches;
     queries.askAll(0);
+    project.caches = queries.caches();
   } catch (const std::exception& fault) {
     qWarning() << "saveProject: the root gives no answers:" << fault.what();
   }
-  project.caches = queries.caches();
   return project;
 }
 
@@ -74,10 +83,17 @@ AppController::AppController(MemoryMonitor::Sources memorySources, QObject* pare
   connect(&memory_, &MemoryMonitor::systemMemoryChanged, this, &AppController::systemMemoryChanged);
   connect(&memory_, &MemoryMonitor::solveRequiredMemoryChanged, this,
           &AppController::solveRequiredMemoryChanged);
-  connect(&preparer_, &NodePreparer::ready, this, [this](int node, const ResultCaches& answers) {
-    results_.caches().take(answers);
-    emit nodeAnswersReady(node);
+  connect(&memory_, &MemoryMonitor::estimatePendingChanged, this,
+          &AppController::estimatePendingChanged);
+  connect(&memory_, &MemoryMonitor::estimateArrived, this, [this] {
+    if (awaitsEstimate_) startWithMemoryKnown(0);
   });
+  connect(&preparer_, &NodePreparer::ready, this,
+          [this](int node, const ResultCaches& answers, const QString& error) {
+            results_.take(node, answers);
+            if (!error.isEmpty()) emit nodeAnswersFailed(node, error);
+            emit nodeAnswersReady(node);
+          });
   connect(&fileWorker_, &FileWorker::progressChanged, this, &AppController::fileProgressChanged);
   setStatus(tr("Ready"));
 }
@@ -104,11 +120,55 @@ void AppController::setStatus(const QString& text) {
   emit statusTextChanged();
 }
 
+void AppController::setResultUnsaved(bool unsaved) {
+  if (unsaved == resultUnsaved_) return;
+  resultUnsaved_ = unsaved;
+  emit resultUnsavedChanged();
+}
+
+QString AppController::resultBoard() const {
+  return normalizedBoard(resultCfg_.value("board").toString());
+}
+
+bool AppController::hasResult() const {
+  return outcome_.iterations > 0 || tree_.nodeCount() > 0 || !outcome_.rootActions.isEmpty();
+}
+
 void AppController::dropResult() {
   outcome_ = {};
   tree_.clear();
+  resultCfg_.clear();
   results_.caches().clear();
+  nodeLockTable_.clear();
+  solvedLocks_.clear();
+  ++resultRevision_;
+  dropTables();
+}
+
+void AppController::dropTables() {
   preparer_.giveUp();
+  solved_ = {};
+  memory_.noteResultsDropped();
+}
+
+void AppController::tellOfResult() {
+  emit locksChanged(-1);
+  emit resultTablesChanged();
+  emit systemMemoryChanged();
+  emit resultsChanged();
+}
+
+bool AppController::isResultSpot(const QVariantMap& cfg) const {
+  return hasResult() && velmora_app::same_spot(makeSolveConfig(cfg), makeSolveConfig(resultCfg_));
+}
+
+bool AppController::locksFit(const QVariantMap& cfg) const {
+  return nodeLockTable_.count() > 0 && hasResult() &&
+         velmora_app::same_tree(makeSolveConfig(cfg), makeSolveConfig(resultCfg_));
+}
+
+QVariantMap AppController::resultProjectState() const {
+  return projectStateOfSolveConfigMap(resultCfg_);
 }
 
 void AppController::startSolve() {
@@ -117,39 +177,88 @@ void AppController::startSolve() {
 
 void AppController::startSolveWithConfig(const QVariantMap& cfg) {
   if (running_) return;
+  fileWorker_.giveUpReading();
   setStatus(tr("Starting..."));
   qInfo().noquote() << describeSolveRequest(cfg);
   lastUiCfg_ = cfg;
+  lastRunOutcome_.clear();
+  lastRunText_.clear();
+  emit lastRunChanged();
 
-  // Step 1. Refuse what can't be solved, while the previous result is still there.
+  // Step 1. Refuse what can't be solved.
   if (const QString refusal = refusalOf(cfg); !refusal.isEmpty()) {
+    emit runStarted(cfg);
     setStatus(refusal);
+    endRun("Refused", refusal);
     return;
   }
-  SolveConfig config = makeSolveConfig(cfg);
-  if (cfg.value("apply_node_locks", false).toBool()) config.node_locks = nodeLockTable_.entries();
+  runLocks_ = cfg.value("apply_node_locks", false).toBool() ? nodeLockTable_ : NodeLockTable();
 
-  // Step 2. Make room: only then is the available memory what the solve may take.
-  session_.clear();
-  dropResult();
-  memory_.noteResultsDropped();
-  emit resultsChanged();
-  emit systemMemoryChanged();
-  memory_.refreshAvailable();
-  memory_.noteSolveStarted();
-  const quint64 required = memory_.requiredBytes();
-  const quint64 available = memory_.availableBytes();
-  if (required != 0 && available != 0 && available <= required) {
-    setStatus(tr("Not enough RAM to solve (after clearing previous results)"));
+  // Step 2. Only an estimate of this very spot says whether the result on view may keep its memory.
+  if (resultHasTables() && !memory_.requiredFor(makeSolveConfig(cfg))) {
+    awaitsEstimate_ = true;
+    setStatus(tr("Estimating the memory..."));
+    setRunning(true);
+    memory_.requestEstimate(cfg);
     return;
   }
-
-  // Step 3. Go.
-  setRunning(true);
-  startSession(config);
+  startWithMemoryKnown(0);
 }
 
-void AppController::startSession(const SolveConfig& config) {
+void AppController::startSolveInFreedMemory(const QVariantMap& cfg) {
+  if (running_) return;
+  lastUiCfg_ = cfg;
+  runLocks_ = cfg.value("apply_node_locks", false).toBool() ? nodeLockTable_ : NodeLockTable();
+  const quint64 freed = memory_.reclaimableBytes();
+  dropTables();
+  emit resultTablesChanged();
+  emit systemMemoryChanged();
+  startWithMemoryKnown(freed);
+}
+
+void AppController::startWithMemoryKnown(quint64 freed) {
+  const SolveConfig config = makeSolveConfig(lastUiCfg_);
+  const std::optional<quint64> estimate = memory_.requiredFor(config);
+  if (awaitsEstimate_ && !estimate) {
+    memory_.requestEstimate(lastUiCfg_);  // The pages have asked for another spot's meanwhile.
+    return;
+  }
+  awaitsEstimate_ = false;
+
+  // Step 3. An unknown figure is in nobody's way: the run looks at the memory itself.
+  const quint64 before = memory_.availableBytes();
+  memory_.refreshAvailable();
+  const quint64 required = estimate.value_or(0);
+  // What was just given up may not have come back to the system yet.
+  const quint64 available =
+      freed == 0 ? memory_.availableBytes() : std::max(memory_.availableBytes(), before + freed);
+  if (required != 0 && memory_.availableBytes() != 0 && available <= required) {
+    const QString needed = memoryText(required);
+    if (resultHasTables() && memory_.effectiveAvailable() > required) {
+      setStatus(tr("Not started: the solve needs the memory of the result on view"));
+      setRunning(false);
+      emit memoryWanted(lastUiCfg_, needed, memory_.availableText());
+      return;
+    }
+    const QString text =
+        tr("Not enough RAM to solve: %1 needed, %2 available").arg(needed, memoryText(available));
+    emit runStarted(lastUiCfg_);
+    setStatus(text);
+    endRun("Refused", text);
+    return;
+  }
+  memory_.noteSolveStarted(required);
+
+  // Step 4. Go.
+  emit runStarted(lastUiCfg_);
+  setProgress(0);
+  setRunning(true);
+  startSession();
+}
+
+void AppController::startSession() {
+  SolveConfig config = makeSolveConfig(lastUiCfg_);
+  config.node_locks = runLocks_.entries();
   const auto inbox = std::make_shared<ReportInbox>();
   // On the worker's thread.
   const auto post = [this, inbox](const SolveProgress& report) {
@@ -157,13 +266,13 @@ void AppController::startSession(const SolveConfig& config) {
     QMetaObject::invokeMethod(
         this, [this, inbox] { readInbox(inbox); }, Qt::QueuedConnection);
   };
+  inbox_ = inbox;
   try {
-    if (!session_.start(config, post)) {
-      // A run whose results were cleared is still on its way to its end, which is reported.
-      setStatus(tr("Already running"));
-      return;
+    awaitsOldRun_ = !session_.start(config, post);
+    if (awaitsOldRun_) {
+      inbox_.reset();
+      setStatus(tr("Waiting for the cancelled solve to stop..."));
     }
-    inbox_ = inbox;
   } catch (const std::exception& fault) {
     SolveProgress report;
     report.status = std::string("Error: ") + fault.what();
@@ -172,10 +281,34 @@ void AppController::startSession(const SolveConfig& config) {
   }
 }
 
+void AppController::abandonRun() {
+  if (!running_) return;
+  session_.cancel();
+  inbox_.reset();
+  awaitsEstimate_ = awaitsOldRun_ = false;
+  setProgress(0);
+  setStatus(tr("Cancelled"));
+  endRun("Cancelled", {});
+}
+
+void AppController::endRun(const QString& outcome, const QString& text) {
+  lastRunOutcome_ = outcome;
+  lastRunText_ = text;
+  emit lastRunChanged();
+  emit runEnded(outcome, text, outcome == "Completed" ? outcome_.iterations : 0);
+  setRunning(false);  // Last: it may start the next run.
+}
+
 void AppController::readInbox(const std::shared_ptr<ReportInbox>& inbox) {
-  if (inbox != inbox_) return;  // Of a run that a newer one has replaced.
   const auto report = inbox->take();
   if (!report) return;
+  if (inbox != inbox_) {
+    if (!report->result) return;
+    // An abandoned run has ended: nobody wants what it made, and its successor can start.
+    session_.clear();
+    if (awaitsOldRun_) startSession();
+    return;
+  }
   if (!report->result) {
     QTimer::singleShot(kReportIntervalMilliseconds, this, [this, inbox] { readInbox(inbox); });
   }
@@ -191,52 +324,78 @@ void AppController::handleSolveProgress(const SolveProgress& report) {
   if (!report.result) return;  // A run ends with its result, even if its thread is gone by now.
 
   const SolveResult& result = *report.result;
+  inbox_.reset();
+  if (result.success) {
+    takeResult(result);
+  } else if (!hasResult()) {
+    outcome_ = outcomeOf(result);
+    emit resultsChanged();
+  }
+  // No report follows this one. The session may need a moment more to put its thread away.
+  if (result.success) {
+    endRun("Completed", {});
+  } else if (result.error == "Cancelled") {
+    endRun("Cancelled", {});
+  } else {
+    endRun("Failed", QString::fromStdString(result.error));
+  }
+}
+
+void AppController::takeResult(const SolveResult& result) {
+  // Locks are by node index, so they live on where the new tree is the old one.
+  const bool sameTree = hasResult() && velmora_app::same_tree(makeSolveConfig(lastUiCfg_),
+                                                              makeSolveConfig(resultCfg_));
+  NodeLockTable locks = sameTree ? nodeLockTable_ : NodeLockTable();
   dropResult();
   outcome_ = outcomeOf(result);
-  if (result.success) {
-    SolveActivity::record(QDate::currentDate(), outcome_.iterations, outcome_.exploitability);
-    emit solveStatsChanged();
-    tree_.set(result.nodes, result.effective_stack);
-    memory_.noteResultsHeld();
-    emit systemMemoryChanged();
-  }
+  SolveActivity::record(QDate::currentDate(), outcome_.iterations, outcome_.exploitability);
+  emit solveStatsChanged();
+  tree_.set(result.nodes, result.effective_stack);
+  resultCfg_ = lastUiCfg_;
+  nodeLockTable_ = std::move(locks);
+  solvedLocks_ = runLocks_;
+  solved_ = session_.solved_spot();
+  session_.clear();
+  memory_.noteResultsHeld();
+  setResultUnsaved(true);
   qInfo().noquote().nospace() << "UI about to emit resultsChanged: root_actions="
                               << outcome_.rootActions.size()
                               << " summary.len=" << outcome_.summary.size();
-  emit resultsChanged();
+  tellOfResult();
   qInfo().noquote() << "UI emitted resultsChanged";
-  // No report follows this one. The session may need a moment more to put its thread away.
-  setRunning(false);
 }
 
 void AppController::reSolveWithNodeLocks() {
   if (running_) return;
-  if (lastUiCfg_.isEmpty()) {
+  if (!hasResult() || resultCfg_.isEmpty()) {
     setStatus(tr("No previous solve config (solve once first)"));
     return;
   }
-  QVariantMap cfg = lastUiCfg_;
+  QVariantMap cfg = resultCfg_;
   cfg["apply_node_locks"] = true;
   startSolveWithConfig(cfg);
 }
 
 void AppController::cancelSolve() {
+  if (awaitsEstimate_ || awaitsOldRun_) {
+    abandonRun();
+    return;
+  }
   session_.cancel();
   setStatus(tr("Cancelling..."));
 }
 
 void AppController::clearResults() {
-  session_.cancel();
+  abandonRun();
+  fileWorker_.giveUpReading();
   session_.clear();
-  nodeLockTable_.clear();
   dropResult();
   lastUiCfg_.clear();
   setProgress(0);
   setStatus(tr("Ready"));
-  setRunning(false);
   memory_.reset();
-  emit resultsChanged();
-  emit systemMemoryChanged();
+  setResultUnsaved(false);
+  tellOfResult();
 }
 
 void AppController::requestSolveMemoryEstimate(const QVariantMap& cfg) {
@@ -278,21 +437,31 @@ QString AppController::readTextResource(const QString& path) {
 }
 
 Project AppController::projectWith(const QVariantMap& state) {
-  const bool hasResults =
-      outcome_.iterations > 0 || tree_.nodeCount() > 0 || !outcome_.rootActions.isEmpty();
-  return {state, hasResults, outcome_, tree_, results_.caches(), nodeLockTable_, lastUiCfg_};
+  const bool result = hasResult();
+  return {state,
+          result,
+          outcome_,
+          tree_,
+          results_.caches(),
+          resultCfg_,
+          solvedLocks_,
+          nodeLockTable_,
+          result ? resultCfg_ : lastUiCfg_};
 }
 
 bool AppController::saveProject(const QUrl& fileUrl, const QVariantMap& projectState) {
   const LocalPath file = pathToSave(fileUrl);
   if (!file.error.isEmpty()) return false;
-  const Project project = withRootAnswers(projectWith(projectState), session_.solved_spot(),
+  const Project project = withRootAnswers(projectWith(projectState), solved_.solver, solved_.game,
                                           results_.actionValues());
   results_.caches() = project.caches;
-  return writeProject(project, file.path).isEmpty();
+  const bool saved = writeProject(project, file.path).isEmpty();
+  if (saved) setResultUnsaved(false);
+  return saved;
 }
 
 void AppController::saveProjectInBackground(const QUrl& fileUrl, const QVariantMap& projectState) {
+  fileWorker_.giveUpReading();
   if (fileWorker_.busy()) {
     emit projectSaved(false, tr("Another file is still being saved or opened"));
     return;
@@ -302,22 +471,33 @@ void AppController::saveProjectInBackground(const QUrl& fileUrl, const QVariantM
     emit projectSaved(false, file.error);
     return;
   }
+  // What changes from here on is not in the file.
+  const bool unsaved = resultUnsaved_;
+  setResultUnsaved(false);
   const auto error = std::make_shared<QString>();
   fileWorker_.run(
-      [project = projectWith(projectState), path = file.path, spot = session_.solved_spot(),
+      FileWorker::Kind::kWriting,
+      [project = projectWith(projectState), path = file.path,
+       solver = std::weak_ptr(solved_.solver), game = std::weak_ptr(solved_.game),
        values = results_.actionValues(), error](const FileWorker::Progress& progress) {
-        *error = writeProject(withRootAnswers(project, spot, values), path, progress);
+        *error = writeProject(withRootAnswers(project, solver, game, values), path, progress);
       },
-      [this, error] { emit projectSaved(error->isEmpty(), *error); });
+      [this, error, unsaved](const QString& fault) {
+        const QString text = fault.isEmpty() ? *error : tr("Failed to save file: %1").arg(fault);
+        if (!text.isEmpty() && unsaved) setResultUnsaved(true);
+        emit projectSaved(text.isEmpty(), text);
+      });
 }
 
 QVariantMap AppController::loadProject(const QUrl& fileUrl) {
   const LocalPath file = localPathOf(fileUrl);
   if (!file.error.isEmpty()) return refusedLoad(file.error);
+  fileWorker_.giveUpReading();
   return adopt(readProject(file.path), file.path);
 }
 
 void AppController::loadProjectInBackground(const QUrl& fileUrl) {
+  fileWorker_.giveUpReading();
   if (fileWorker_.busy()) {
     emit projectLoaded(refusedLoad(tr("Another file is still being saved or opened")));
     return;
@@ -329,31 +509,39 @@ void AppController::loadProjectInBackground(const QUrl& fileUrl) {
   }
   const auto reading = std::make_shared<ProjectReading>();
   fileWorker_.run(
+      FileWorker::Kind::kReading,
       [reading, path = file.path](const FileWorker::Progress& progress) {
         *reading = readProject(path, progress);
       },
-      [this, reading, path = file.path] { emit projectLoaded(adopt(*reading, path)); });
+      [this, reading, path = file.path](const QString& fault) {
+        emit projectLoaded(fault.isEmpty() ? adopt(*reading, path) : refusedLoad(fault));
+      });
 }
 
 QVariantMap AppController::adopt(const ProjectReading& reading, const QString& path) {
   if (!reading.error.isEmpty()) return refusedLoad(reading.error);
   const Project& project = reading.project;
+  abandonRun();
   session_.clear();
   dropResult();
   outcome_ = project.outcome;
   tree_ = project.tree;
+  resultCfg_ = project.resultCfg;
   results_.caches() = project.caches;
   nodeLockTable_ = project.nodeLocks;
+  solvedLocks_ = project.solvedLocks;
   lastUiCfg_ = project.lastUiCfg;
-  setRunning(false);
+  memory_.reset();
   setProgress(0);
   setStatus(tr("Loaded project (%1 strategy nodes, %2 combo nodes)")
                 .arg(project.caches.handStrategyCache.size())
                 .arg(project.caches.handCombosCache.size()));
-  emit resultsChanged();
+  setResultUnsaved(false);
+  tellOfResult();
   qInfo() << "Loaded project:" << path << "hasResults=" << project.hasResults;
   return {{"ok", true},
           {"error", QString()},
+          {"file", QUrl::fromLocalFile(path)},
           {"project", project.state},
           {"hasResults", project.hasResults}};
 }
@@ -366,13 +554,35 @@ QVariantMap AppController::readTextFile(const QUrl& fileUrl) {
   return ::readTextFile(fileUrl);
 }
 
+QVariantList AppController::standardFolders() {
+  return ::standardFolders();
+}
+
+QString AppController::fileKind(const QUrl& fileUrl) {
+  return ::fileKind(fileUrl);
+}
+
 void AppController::setNodeLock(int nodeIndex, const QString& handLabel169, int actionIndex,
                                 double actionProb) {
+  const QVariantMap meta = tree_.meta(nodeIndex);
+  if (meta.value("nodeType") != "decision" || actionIndex < 0 ||
+      actionIndex >= tree_.actions(nodeIndex).size()) {
+    return;
+  }
   nodeLockTable_.set(nodeIndex, handLabel169, actionIndex, actionProb);
+  setResultUnsaved(true);
+  emit locksChanged(nodeIndex);
 }
 
 void AppController::clearNodeLocks(int nodeIndex) {
+  if (nodeLockTable_.locksAt(nodeIndex).isEmpty()) return;
   nodeLockTable_.clear(nodeIndex);
+  setResultUnsaved(true);
+  emit locksChanged(nodeIndex);
+}
+
+bool AppController::nodeLocksPending(int nodeIndex) const {
+  return nodeLockTable_.locksAt(nodeIndex) != solvedLocks_.locksAt(nodeIndex);
 }
 
 QVariantList AppController::nodeLocks(int nodeIndex) {
@@ -424,10 +634,12 @@ QVariantList AppController::nodeSeatHandCombos(int nodeIndex, const QString& pla
 }
 
 QVariantList AppController::nodeHandBuckets(int nodeIndex) {
-  return results_.nodeHandBuckets(nodeIndex);
+  return nodeLocksPending(nodeIndex)
+             ? results_.nodeHandBuckets(nodeIndex, nodeLockTable_.entriesAt(nodeIndex))
+             : results_.nodeHandBuckets(nodeIndex);
 }
 
 void AppController::prepareNodeAnswers(int nodeIndex) {
-  preparer_.prepare(nodeIndex, session_.solved_spot(), tree_, results_.actionValues(),
-                    results_.caches());
+  preparer_.prepare(nodeIndex, solved_, tree_, results_.actionValues(),
+                    results_.caches().ofNode(nodeIndex));
 }

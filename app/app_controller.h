@@ -9,6 +9,7 @@
 #include <QVariantList>
 #include <QVariantMap>
 
+#include "draft.h"
 #include "file_worker.h"
 #include "memory_monitor.h"
 #include "node_lock_table.h"
@@ -56,6 +57,18 @@ class AppController : public QObject {
                  resultsChanged)
   Q_PROPERTY(bool developerMode READ developerMode CONSTANT)
   Q_PROPERTY(double fileProgress READ fileProgress NOTIFY fileProgressChanged)
+  Q_PROPERTY(bool estimatePending READ estimatePending NOTIFY estimatePendingChanged)
+  Q_PROPERTY(int resultRevision READ resultRevision NOTIFY resultsChanged)
+  Q_PROPERTY(QString resultBoard READ resultBoard NOTIFY resultsChanged)
+  Q_PROPERTY(double resultRakePercent READ resultRakePercent NOTIFY resultsChanged)
+  Q_PROPERTY(double resultRakeCap READ resultRakeCap NOTIFY resultsChanged)
+  Q_PROPERTY(bool resultHasTables READ resultHasTables NOTIFY resultTablesChanged)
+  Q_PROPERTY(bool resultUnsaved READ resultUnsaved NOTIFY resultUnsavedChanged)
+  Q_PROPERTY(int lockCount READ lockCount NOTIFY locksChanged)
+  Q_PROPERTY(bool locksPending READ locksPending NOTIFY locksChanged)
+  Q_PROPERTY(QVariantMap runSettings READ runSettings NOTIFY runStarted)
+  Q_PROPERTY(QString lastRunOutcome READ lastRunOutcome NOTIFY lastRunChanged)
+  Q_PROPERTY(QString lastRunText READ lastRunText NOTIFY lastRunChanged)
 
  public:
   explicit AppController(QObject* parent = nullptr);
@@ -87,6 +100,29 @@ class AppController : public QObject {
   bool developerMode() const { return developerMode_; }
   /// 0..1 while a file is worked on in the background, else -1.
   double fileProgress() const { return fileWorker_.progress(); }
+  /// True until the latest requested memory estimate has arrived.
+  bool estimatePending() const { return memory_.estimatePending(); }
+  /// Goes up with each new or dropped result.
+  int resultRevision() const { return resultRevision_; }
+  /// The spot of the solve that made the result, whatever Setup shows by now.
+  QString resultBoard() const;
+  double resultRakePercent() const { return resultCfg_.value("rake_percent").toDouble(); }
+  double resultRakeCap() const { return resultCfg_.value("rake_cap").toDouble(); }
+  /// False for a result whose solver is gone, as after a load: then there are only the answers
+  /// that were given before.
+  bool resultHasTables() const { return solved_.solver != nullptr; }
+  /// Whether the result or its locks have changed since they were last saved or loaded.
+  bool resultUnsaved() const { return resultUnsaved_; }
+  int lockCount() const { return nodeLockTable_.count(); }
+  /// Whether the locks are others than those the result was solved with.
+  bool locksPending() const { return !(nodeLockTable_ == solvedLocks_); }
+  /// The solve configuration map of the latest run.
+  QVariantMap runSettings() const { return lastUiCfg_; }
+  /// How the latest run ended: "Completed", "Cancelled", "Failed" or "Refused"; empty while one is
+  /// under way and before the first.
+  QString lastRunOutcome() const { return lastRunOutcome_; }
+  /// Why it ended so.
+  QString lastRunText() const { return lastRunText_; }
 
   /// A solve of nothing, which is refused for its board.
   Q_INVOKABLE void startSolve();
@@ -94,7 +130,18 @@ class AppController : public QObject {
   Q_INVOKABLE void startSolveWithConfig(const QVariantMap& cfg);
   /// Solves the latest spot again with the node locks in force.
   Q_INVOKABLE void reSolveWithNodeLocks();
+  /// The same in the memory of the result on view: its solver's tables go first, and of the result
+  /// only the answers that were given so far stay.
+  Q_INVOKABLE void startSolveInFreedMemory(const QVariantMap& cfg);
   Q_INVOKABLE void cancelSolve();
+  /// Cancels the run under way, and nothing that it still gives is taken.
+  Q_INVOKABLE void abandonRun();
+  /// Whether a solve configuration map describes the spot of the result: the same tree and rake.
+  Q_INVOKABLE bool isResultSpot(const QVariantMap& cfg) const;
+  /// Whether locks exist that were set on the tree that the map describes.
+  Q_INVOKABLE bool locksFit(const QVariantMap& cfg) const;
+  /// The project state that the result was solved from, without `threadCount`.
+  Q_INVOKABLE QVariantMap resultProjectState() const;
   /// Drops the result, the node locks and the settings of the latest solve.
   Q_INVOKABLE void clearResults();
   /// Answers by `solveRequiredMemoryChanged`.
@@ -123,12 +170,22 @@ class AppController : public QObject {
   /// `projectLoaded`. One file is worked on at a time; a second is refused.
   Q_INVOKABLE void saveProjectInBackground(const QUrl& fileUrl, const QVariantMap& projectState);
   Q_INVOKABLE void loadProjectInBackground(const QUrl& fileUrl);
+  /// Keeps the spot under edit on disk until `dropDraft`, in case the program ends in another way.
+  Q_INVOKABLE void keepDraft(const QVariantMap& projectState) { draft_.keep(projectState); }
+  Q_INVOKABLE void dropDraft() { draft_.drop(); }
+  /// What an earlier run kept and did not drop: "savedAt" (ISO) and "project"; empty if nothing.
+  Q_INVOKABLE QVariantMap draftLeftBehind() const { return draft_.leftBehind(); }
   Q_INVOKABLE QVariantMap saveTextFile(const QUrl& fileUrl, const QString& text);
   Q_INVOKABLE QVariantMap readTextFile(const QUrl& fileUrl);
+  /// See file_places.h.
+  Q_INVOKABLE QVariantList standardFolders();
+  Q_INVOKABLE QString fileKind(const QUrl& fileUrl);
   Q_INVOKABLE void setNodeLock(int nodeIndex, const QString& handLabel169, int actionIndex,
                                double actionProb);
   Q_INVOKABLE void clearNodeLocks(int nodeIndex);
   Q_INVOKABLE QVariantList nodeLocks(int nodeIndex);
+  /// Whether the locks of a node are others than those the result was solved with.
+  Q_INVOKABLE bool nodeLocksPending(int nodeIndex) const;
   Q_INVOKABLE int treeNodeCount();
   Q_INVOKABLE QVariantMap nodeMeta(int nodeIndex);
   Q_INVOKABLE QVariantList nodeActions(int nodeIndex);
@@ -152,7 +209,8 @@ class AppController : public QObject {
   Q_INVOKABLE QVariantList nodeHandCombos(int nodeIndex);
   /// The hands that a player can hold at a node of any kind: "c1", "c2" and "weight".
   Q_INVOKABLE QVariantList nodeSeatHandCombos(int nodeIndex, const QString& player);
-  /// "name", "displayName", "combos" (range weight) and "actionProbs" of each hand category.
+  /// "name", "displayName", "combos" (range weight) and "actionProbs" of each hand category. Where
+  /// the node has locks that are not solved yet and the solver is there, its hands play them.
   Q_INVOKABLE QVariantList nodeHandBuckets(int nodeIndex);
   /// Computes what the calls above need for a node away from the window's thread, and answers by
   /// `nodeAnswersReady`; then they are quick. The node asked for last is the only one that counts.
@@ -167,7 +225,22 @@ class AppController : public QObject {
   void playVsSolutionStatsChanged();
   void systemMemoryChanged();
   void solveRequiredMemoryChanged();
+  void estimatePendingChanged();
+  void resultTablesChanged();
+  void resultUnsavedChanged();
+  /// The locks of a node changed; -1 for those of all nodes.
+  void locksChanged(int nodeIndex);
+  void lastRunChanged();
+  /// A solve of `cfg` begins, or is refused.
+  void runStarted(const QVariantMap& cfg);
+  /// `outcome` and `text` are those of `lastRunOutcome` and `lastRunText`.
+  void runEnded(const QString& outcome, const QString& text, int iterations);
+  /// The solve of `cfg` fits into the memory only if the solver of the result on view goes. Nothing
+  /// was started.
+  void memoryWanted(const QVariantMap& cfg, const QString& needed, const QString& available);
   void nodeAnswersReady(int nodeIndex);
+  /// A node's answers could not be computed; `error` says why.
+  void nodeAnswersFailed(int nodeIndex, const QString& error);
   void fileProgressChanged();
   /// `error` tells why it is not `ok`.
   void projectSaved(bool ok, const QString& error);
@@ -179,30 +252,58 @@ class AppController : public QObject {
   void setProgress(double progress);
   void setStatus(const QString& text);
 
+  void setResultUnsaved(bool unsaved);
+
   /// What a project file gets, with the answers that were given so far.
   Project projectWith(const QVariantMap& state);
   /// Replaces everything by a project that was read.
   QVariantMap adopt(const ProjectReading& reading, const QString& path);
-  /// Drops what the pages show of a result.
+  bool hasResult() const;
+  /// Drops the result with all that belongs to it.
   void dropResult();
-  void startSession(const velmora_app::SolveConfig& config);
+  /// Emits all signals of the result and its locks.
+  void tellOfResult();
+  /// Drops the solver of the result and keeps what it has answered.
+  void dropTables();
+  void setSolvedLocks(const NodeLockTable& locks);
+  /// Starts the run of `lastUiCfg_` once its memory is known. `freed` bytes were given up for it.
+  void startWithMemoryKnown(quint64 freed);
+  void startSession();
+  void endRun(const QString& outcome, const QString& text);
   void readInbox(const std::shared_ptr<ReportInbox>& inbox);
   void handleSolveProgress(const velmora_app::SolveProgress& report);
+  void takeResult(const velmora_app::SolveResult& result);
 
   bool running_ = false;
   double progress_ = 0;
   QString statusText_;
+  QString lastRunOutcome_;
+  QString lastRunText_;
+
+  // The result on view and what belongs to it.
   SolveOutcome outcome_;
   TreeMirror tree_;
-  NodeLockTable nodeLockTable_;
-  QVariantMap lastUiCfg_;  ///< Of the latest start, refused or not.
-  ResultQueries results_{[this] { return session_.solved_spot(); }, tree_};
+  QVariantMap resultCfg_;           ///< The settings of its solve.
+  NodeLockTable solvedLocks_;       ///< In force in its solve.
+  NodeLockTable nodeLockTable_;     ///< The user's, set on its tree.
+  velmora_app::SolvedSpot solved_;  ///< Empty if its tables are gone.
+  int resultRevision_ = 0;
+  bool resultUnsaved_ = false;
+  ResultQueries results_{[this] { return solved_; }, tree_};
+
+  // The latest run.
+  QVariantMap lastUiCfg_;        ///< Of the latest start, refused or not.
+  NodeLockTable runLocks_;       ///< In force in the run.
+  bool awaitsEstimate_ = false;  ///< It starts when its memory is known.
+  bool awaitsOldRun_ = false;    ///< It starts when an abandoned run has ended.
+
   NodePreparer preparer_;
   const bool developerMode_;
   const int systemThreadCount_;
   MemoryMonitor memory_;
   FileWorker fileWorker_;
-  std::shared_ptr<ReportInbox> inbox_;  ///< Of the latest run.
+  Draft draft_;
+  std::shared_ptr<ReportInbox> inbox_;  ///< Of the run under way; empty if it was abandoned.
   /// Last, so that it goes first: it waits for its run, whose reports are still posted here.
   velmora_app::SolveSession session_;
 };

@@ -1,9 +1,11 @@
 #include "language_manager.h"
 
 #include <memory>
+#include <vector>
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QQmlEngine>
 #include <QSettings>
@@ -15,10 +17,25 @@ constexpr char kSettingsKey[] = "ui/language";
 constexpr char kSystem[] = "system";
 constexpr char kEnglish[] = "en";
 
-/// The one installed catalogue. It belongs to the process: texts are translated until its end.
-std::unique_ptr<QTranslator>& installedTranslator() {
-  static std::unique_ptr<QTranslator> translator;
-  return translator;
+using Translators = std::vector<std::unique_ptr<QTranslator>>;
+
+/// The installed catalogues: the program's own and those of Qt, for its dialogs and the texts of
+/// network faults. They belong to the process: texts are translated until its end.
+Translators& installedTranslators() {
+  static Translators translators;
+  return translators;
+}
+
+/// Installs the first catalogue of a folder that there is for `names`, in front of those before it.
+bool installFirst(const QString& prefix, const QStringList& names, const QString& folder) {
+  auto translator = std::make_unique<QTranslator>();
+  for (const QString& name : names) {
+    if (!translator->load(prefix + name, folder)) continue;
+    QCoreApplication::installTranslator(translator.get());
+    installedTranslators().push_back(std::move(translator));
+    return true;
+  }
+  return false;
 }
 
 QLocale localeOf(const QString& code) {
@@ -71,17 +88,19 @@ void LanguageManager::applyLanguage(const QString& code, bool persist) {
 }
 
 void LanguageManager::install(const QString& code) {
-  std::unique_ptr<QTranslator>& installed = installedTranslator();
-  if (installed) QCoreApplication::removeTranslator(installed.get());
-  installed = std::make_unique<QTranslator>();
-  bool loaded = false;
-  if (code != kEnglish) {
-    for (const QString& name : candidateNames(code, QLocale::system().name())) {
-      loaded = installed->load("velmora_" + name, ":/Velmora/i18n");
-      if (loaded) break;
-    }
+  for (const auto& translator : installedTranslators()) {
+    QCoreApplication::removeTranslator(translator.get());
   }
-  if (loaded) QCoreApplication::installTranslator(installed.get());
+  installedTranslators().clear();
+  const QStringList names =
+      code == kEnglish ? QStringList() : candidateNames(code, QLocale::system().name());
+  const bool loaded = installFirst("velmora_", names, ":/Velmora/i18n");
+  if (loaded) {
+    // A system may lack these. In a language that the program does not speak, they would only mix
+    // two languages.
+    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    for (const char* catalogue : {"qtbase_", "qtdeclarative_"}) installFirst(catalogue, names, folder);
+  }
   qInfo().noquote() << "Language set to" << code << "(translator"
                     << (loaded ? "loaded" : "not loaded") << ")";
 }

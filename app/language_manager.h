@@ -8,8 +8,9 @@
 class QQmlEngine;
 
 /// Chooses the translation catalogue and switches a running window to another at once. A language
-/// code is "system", "en" (the source language, which has no catalogue) or the name of a locale such
-/// as "de" or "pt_BR". A code without a catalogue leaves the texts in English.
+/// code is "system", "en" (the source language, which has no catalogue) or the name of a locale
+/// such as "de" or "pt_BR". A code without a catalogue leaves the texts in English. The texts of Qt
+/// itself follow where the system has its catalogues.
 class LanguageManager : public QObject {
   Q_OBJECT
   Q_PROPERTY(QString currentLanguage READ currentLanguage NOTIFY currentLanguageChanged)

@@ -22,6 +22,9 @@
 #include "logging.h"
 #include "update_manager.h"
 
+// Nothing else asks for the types of the pages' module, and a linker drops what nobody asks for.
+extern void qml_register_types_Velmora();
+
 namespace {
 
 constexpr int kWrongUse = 2;
@@ -91,6 +94,8 @@ int main(int argc, char* argv[]) {
   if (logFiles.open()) logStart(paths);
 
   QGuiApplication::setQuitOnLastWindowClosed(true);
+  volatile auto registration = &qml_register_types_Velmora;
+  Q_UNUSED(registration);
   QQmlApplicationEngine engine;
   engine.addImportPath("qrc:/");
   LanguageManager languageManager(&engine);

@@ -7,8 +7,10 @@
 
 #include <QCoreApplication>
 
+#include "fault_scope.h"
 #include "memory_estimate.h"
 #include "solve_config_map.h"
+#include "spot_compare.h"
 #include "system_memory.h"
 
 namespace {
@@ -21,6 +23,11 @@ constexpr int kEstimateThreads = 2;
 
 QString memoryText(quint64 bytes) {
   if (bytes == 0) return QStringLiteral("—");
+  if (bytes < 1ULL << 30) {
+    const double megabytes = std::max(1.0, static_cast<double>(bytes) / (1ULL << 20));
+    return QCoreApplication::translate("AppController", "%1 MB")
+        .arg(QString::number(megabytes, 'f', 0));
+  }
   const double gigabytes = static_cast<double>(bytes) / (1ULL << 30);
   return QCoreApplication::translate("AppController", "%1 GB")
       .arg(QString::number(gigabytes, 'f', gigabytes < 10 ? 1 : 0));
@@ -70,15 +77,30 @@ void MemoryMonitor::refreshAvailable() {
   emit systemMemoryChanged();
 }
 
+std::optional<quint64> MemoryMonitor::requiredFor(const velmora_app::SolveConfig& config) const {
+  const bool same = requiredFor_ && velmora_app::same_spot(*requiredFor_, config) &&
+                    requiredFor_->thread_count == config.thread_count;
+  return same ? std::optional(requiredBytes_) : std::nullopt;
+}
+
+void MemoryMonitor::setEstimatePending(bool pending) {
+  if (pending == estimatePending_) return;
+  estimatePending_ = pending;
+  emit estimatePendingChanged();
+}
+
 void MemoryMonitor::requestEstimate(const QVariantMap& map) {
   const quint64 generation = ++memoryEstimateGeneration_;
+  requestedFor_ = makeSolveConfig(map);
+  setEstimatePending(true);
   estimatePool_.clear();
-  estimatePool_.start([this, generation, map] {
+  estimatePool_.start([this, generation, config = requestedFor_] {
     quint64 bytes = 0;
     try {
-      bytes = sources_.estimate(makeSolveConfig(map));
+      const velmora_app::FaultScope scope;
+      bytes = sources_.estimate(config);
     } catch (...) {
-      bytes = 0;  // No estimate; the solve itself will tell why.
+      bytes = 0;  // No estimate; the solve itself will say why.
     }
     QMetaObject::invokeMethod(
         this, [this, generation, bytes] { takeEstimate(generation, bytes); }, Qt::QueuedConnection);
@@ -86,7 +108,12 @@ void MemoryMonitor::requestEstimate(const QVariantMap& map) {
 }
 
 void MemoryMonitor::takeEstimate(quint64 generation, quint64 bytes) {
-  if (generation != memoryEstimateGeneration_ || bytes == requiredBytes_) return;
-  requiredBytes_ = bytes;
-  emit solveRequiredMemoryChanged();
+  if (generation != memoryEstimateGeneration_) return;
+  requiredFor_ = requestedFor_;
+  if (bytes != requiredBytes_) {
+    requiredBytes_ = bytes;
+    emit solveRequiredMemoryChanged();
+  }
+  setEstimatePending(false);
+  emit estimateArrived();
 }

@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <functional>
+#include <optional>
 
 #include <QObject>
 #include <QString>
@@ -12,7 +13,8 @@
 
 #include "solve_session.h"
 
-/// "—" for 0, else gigabytes of 2^30 bytes, with one decimal below 10.
+/// "—" for 0, else gigabytes of 2^30 bytes, with one decimal below 10; below 1 megabytes of 2^20,
+/// at least 1.
 QString memoryText(quint64 bytes);
 
 /// `available` plus `reclaimable` without wrapping, and no more than `total` unless that is 0.
@@ -48,6 +50,11 @@ class MemoryMonitor : public QObject {
   /// The newest estimate that has arrived; 0 if there is none.
   quint64 requiredBytes() const { return requiredBytes_; }
   QString requiredText() const { return memoryText(requiredBytes_); }
+  /// The estimate of just this spot, rake and number of threads; empty if the newest one is of
+  /// another.
+  std::optional<quint64> requiredFor(const velmora_app::SolveConfig& config) const;
+  /// True while the answer to the last request is awaited.
+  bool estimatePending() const { return estimatePending_; }
   /// What the held results are reckoned to occupy.
   quint64 reclaimableBytes() const { return reclaimableBytes_; }
 
@@ -59,8 +66,8 @@ class MemoryMonitor : public QObject {
 
   // What is held and what may be taken. Who calls these tells the pages.
 
-  /// A solve starts: what is required now is what its results will occupy.
-  void noteSolveStarted() { pendingResultBytes_ = requiredBytes_; }
+  /// A solve starts whose results will occupy so many bytes; 0 if that is unknown.
+  void noteSolveStarted(quint64 bytes) { pendingResultBytes_ = bytes; }
   /// The results of the solve that started last are held from now on.
   void noteResultsHeld() { reclaimableBytes_ = pendingResultBytes_; }
   void noteResultsDropped() { reclaimableBytes_ = 0; }
@@ -70,14 +77,21 @@ class MemoryMonitor : public QObject {
  signals:
   void systemMemoryChanged();
   void solveRequiredMemoryChanged();
+  void estimatePendingChanged();
+  /// The answer to the last request is there.
+  void estimateArrived();
 
  private:
   void takeEstimate(quint64 generation, quint64 bytes);
+  void setEstimatePending(bool pending);
 
   const Sources sources_;
   quint64 systemBytes_ = 0;
   quint64 availableBytes_ = 0;
   quint64 requiredBytes_ = 0;
+  velmora_app::SolveConfig requestedFor_;
+  std::optional<velmora_app::SolveConfig> requiredFor_;
+  bool estimatePending_ = false;
   quint64 reclaimableBytes_ = 0;
   quint64 pendingResultBytes_ = 0;
   std::atomic<quint64> memoryEstimateGeneration_ = 0;

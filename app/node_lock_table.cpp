@@ -21,15 +21,29 @@ QVariantList NodeLockTable::locksAt(int node) const {
   return list;
 }
 
+int NodeLockTable::count() const {
+  qsizetype locks = 0;
+  for (const auto& hands : locks_) locks += hands.size();
+  return static_cast<int>(locks);
+}
+
 std::vector<velmora::NodeLockEntry> NodeLockTable::entries() const {
   std::vector<velmora::NodeLockEntry> entries;
-  for (auto node = locks_.begin(); node != locks_.end(); ++node) {
-    for (auto hand = node->begin(); hand != node->end(); ++hand) {
-      if (hand->action < 0) continue;
-      entries.push_back({static_cast<std::uint64_t>(node.key()), hand.key().toStdString(),
-                         static_cast<std::uint64_t>(hand->action),
-                         static_cast<float>(hand->probability)});
-    }
+  for (const int node : nodes()) {
+    const std::vector<velmora::NodeLockEntry> here = entriesAt(node);
+    entries.insert(entries.end(), here.begin(), here.end());
+  }
+  return entries;
+}
+
+std::vector<velmora::NodeLockEntry> NodeLockTable::entriesAt(int node) const {
+  std::vector<velmora::NodeLockEntry> entries;
+  const auto hands = locks_.value(node);
+  for (auto hand = hands.begin(); hand != hands.end(); ++hand) {
+    if (hand->action < 0) continue;
+    entries.push_back({static_cast<std::uint64_t>(node), hand.key().toStdString(),
+                       static_cast<std::uint64_t>(hand->action),
+                       static_cast<float>(hand->probability)});
   }
   return entries;
 }

@@ -20,17 +20,24 @@ class NodeLockTable {
   /// Removes all locks of a node.
   void clear(int node) { locks_.remove(node); }
   void clear() { locks_.clear(); }
+  /// How many locks there are.
+  int count() const;
   /// Nodes with locks, in ascending order.
   QList<int> nodes() const { return locks_.keys(); }
   /// Maps of "hand", "actionIndex" and "actionProb".
   QVariantList locksAt(int node) const;
   /// The locks as a solve takes them. Locks with a negative action are left out.
   std::vector<velmora::NodeLockEntry> entries() const;
+  /// The same of one node.
+  std::vector<velmora::NodeLockEntry> entriesAt(int node) const;
+  bool operator==(const NodeLockTable&) const = default;
 
  private:
   struct Lock {
     int action = 0;
     double probability = 0;
+
+    bool operator==(const Lock&) const = default;
   };
 
   QMap<int, QMap<QString, Lock>> locks_;

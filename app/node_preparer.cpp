@@ -1,8 +1,12 @@
 #include "node_preparer.h"
 
 #include <exception>
+#include <new>
 
+#include <QCoreApplication>
 #include <QDebug>
+
+#include "fault_scope.h"
 
 NodePreparer::NodePreparer(QObject* parent) : QObject(parent) {
   pool_.setMaxThreadCount(1);
@@ -17,26 +21,35 @@ void NodePreparer::prepare(int node, const velmora_app::SolvedSpot& spot, const 
                            const std::shared_ptr<velmora_app::ActionValues>& values,
                            const ResultCaches& known) {
   const std::uint64_t request = ++newest_;
-  pool_.start([this, node, spot, tree, values, known, request] {
+  pool_.start([this, node, game = std::weak_ptr(spot.game), solver = std::weak_ptr(spot.solver),
+               tree, values, known, request] {
     const auto outdated = [this, request] { return newest_ != request; };
     if (outdated()) return;
-    ResultQueries queries([&spot] { return spot; }, tree, values);
-    queries.caches() = known;
+    ResultCaches answers;
+    QString error;
     try {
+      const velmora_app::FaultScope scope;
+      const velmora_app::SolvedSpot held{game.lock(), solver.lock()};
+      ResultQueries queries([&held] { return held; }, tree, values);
+      queries.caches() = known;
       const bool walked = known.handCombosCache.contains(node);
       // A walk can be given up half-way, the queries after it are short.
       if (node >= 0 && !walked) {
-        velmora_app::prepare_node(spot, static_cast<std::uint64_t>(node), *values, outdated);
+        velmora_app::prepare_node(held, static_cast<std::uint64_t>(node), *values, outdated);
       }
       if (!outdated()) queries.askAll(node);
+      answers = queries.caches();
+    } catch (const std::bad_alloc&) {
+      error = QCoreApplication::translate(
+          "AppController", "There is not enough memory for the answers of this node");
     } catch (const std::exception& fault) {
-      // The query itself will meet the same fault, where it is told.
-      qWarning() << "Preparing a node failed:" << fault.what();
+      error = QString::fromUtf8(fault.what());
     }
+    if (!error.isEmpty()) qWarning() << "Preparing a node failed:" << error;
     QMetaObject::invokeMethod(
         this,
-        [this, node, request, answers = queries.caches()] {
-          if (newest_ == request) emit ready(node, answers);
+        [this, node, request, answers, error] {
+          if (newest_ == request) emit ready(node, answers, error);
         },
         Qt::QueuedConnection);
   });

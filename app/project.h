@@ -16,6 +16,8 @@ struct Project {
   SolveOutcome outcome;
   TreeMirror tree;
   ResultCaches caches;
-  NodeLockTable nodeLocks;
+  QVariantMap resultCfg;      ///< The settings of the solve that made the result.
+  NodeLockTable solvedLocks;  ///< In force in that solve.
+  NodeLockTable nodeLocks;    ///< The user's, for the next one.
   QVariantMap lastUiCfg;
 };

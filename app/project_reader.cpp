@@ -12,6 +12,7 @@
 
 #include "fault_scope.h"
 #include "json_stream.h"
+#include "solve_config_map.h"
 
 using velmora_app::ActionMeta;
 using velmora_app::NodeMeta;
@@ -54,7 +55,7 @@ class DocumentReader {
       if (name == "hasResults") project_.hasResults = in_.scalar().toBool();
       if (name == "project") project_.state = mapIn(in_);
       if (name == "lastUiCfg") project_.lastUiCfg = mapIn(in_);
-      if (name == "nodeLocks") readLocks();
+      if (name == "nodeLocks") project_.nodeLocks = readLocks();
       if (name == "nodeCaches") readCaches();
       if (name == "results") readResults();
     });
@@ -67,7 +68,11 @@ class DocumentReader {
     if (!project_.hasResults) {
       project_.outcome = {};
       project_.tree.clear();
+    } else if (project_.resultCfg.isEmpty()) {
+      inferResultSpot();
     }
+    keepLocksOfTheTree(project_.nodeLocks);
+    keepLocksOfTheTree(project_.solvedLocks);
     return std::move(project_);
   }
 
@@ -81,9 +86,9 @@ class DocumentReader {
     });
   }
 
-  void readLocks() {
-    project_.nodeLocks.clear();
-    entries([this] {
+  NodeLockTable readLocks() {
+    NodeLockTable locks;
+    entries([this, &locks] {
       int node = -1;
       QString hand;
       int action = -1;
@@ -94,8 +99,41 @@ class DocumentReader {
         if (name == "actionIndex") action = in_.scalar().toInt(-1);
         if (name == "actionProb") probability = in_.scalar().toDouble();
       });
-      if (action >= 0) project_.nodeLocks.set(node, hand, action, probability);
+      if (action >= 0) locks.set(node, hand, action, probability);
     });
+    return locks;
+  }
+
+  /// A lock elsewhere than at an action of a decision node could never apply.
+  void keepLocksOfTheTree(NodeLockTable& locks) const {
+    for (const int node : locks.nodes()) {
+      const bool decides = project_.tree.meta(node).value("nodeType") == "decision";
+      const qsizetype actions = decides ? project_.tree.actions(node).size() : 0;
+      const QVariantList entries = locks.locksAt(node);
+      locks.clear(node);
+      for (const QVariant& entry : entries) {
+        const QVariantMap lock = entry.toMap();
+        if (lock.value("actionIndex").toInt() >= actions) continue;
+        locks.set(node, lock.value("hand").toString(), lock.value("actionIndex").toInt(),
+                  lock.value("actionProb").toDouble());
+      }
+    }
+  }
+
+  /// Older files don't hold the spot of the result. It is that of the latest start, unless that one
+  /// was refused: then the summary names another board.
+  void inferResultSpot() {
+    const QVariantMap edited = solveConfigMapOfProject(project_.state);
+    const auto isOfSummary = [this](const QVariantMap& cfg) {
+      const QString board = normalizedBoard(cfg.value("board").toString());
+      return !board.isEmpty() && project_.outcome.summary.contains(board);
+    };
+    const bool takesEdited =
+        project_.lastUiCfg.isEmpty() || (!isOfSummary(project_.lastUiCfg) && isOfSummary(edited));
+    project_.resultCfg = takesEdited ? edited : project_.lastUiCfg;
+    if (project_.lastUiCfg.value("apply_node_locks").toBool()) {
+      project_.solvedLocks = project_.nodeLocks;
+    }
   }
 
   /// Calls `store` with the node, the seat and the answer of each entry.
@@ -157,6 +195,8 @@ class DocumentReader {
       if (name == "resultExploitability") outcome.exploitability = in_.scalar().toDouble();
       if (name == "resultEvOop") outcome.evOop = in_.scalar().toDouble();
       if (name == "resultEvIp") outcome.evIp = in_.scalar().toDouble();
+      if (name == "spot") project_.resultCfg = mapIn(in_);
+      if (name == "locks") project_.solvedLocks = readLocks();
       if (name == "rootActions") readRootActions();
       if (name == "treeNodeMeta") readTreeMeta(*tree, effectiveStack);
       if (name == "treeNodeActions") readTreeActions(*tree);

@@ -48,7 +48,7 @@ class DocumentWriter {
     member("hasResults", project_.hasResults);
     member("lastUiCfg", jsonOf(project_.lastUiCfg));
     if (project_.hasResults) writeCaches();
-    writeLocks();
+    writeLocks("nodeLocks", project_.nodeLocks);
     member("project", jsonOf(project_.state));
     if (project_.hasResults) writeResults();
     member("version", 1);
@@ -108,12 +108,12 @@ class DocumentWriter {
     out_.endObject();
   }
 
-  void writeLocks() {
-    out_.key("nodeLocks");
+  void writeLocks(const char* name, const NodeLockTable& locks) {
+    out_.key(name);
     out_.beginArray();
-    for (const int node : project_.nodeLocks.nodes()) {
+    for (const int node : locks.nodes()) {
       if (node >= project_.tree.nodeCount()) break;
-      for (const QVariant& entry : project_.nodeLocks.locksAt(node)) {
+      for (const QVariant& entry : locks.locksAt(node)) {
         QJsonObject lock = QJsonObject::fromVariantMap(entry.toMap());
         lock["nodeIndex"] = node;
         out_.value(lock);
@@ -126,6 +126,7 @@ class DocumentWriter {
     const SolveOutcome& outcome = project_.outcome;
     out_.key("results");
     out_.beginObject();
+    writeLocks("locks", project_.solvedLocks);
     member("resultEvIp", outcome.evIp);
     member("resultEvOop", outcome.evOop);
     member("resultExploitability", outcome.exploitability);
@@ -133,6 +134,7 @@ class DocumentWriter {
     member("resultStartingPot", outcome.startingPot);
     member("resultsSummary", outcome.summary);
     member("rootActions", jsonOf(outcome.rootActions));
+    member("spot", jsonOf(project_.resultCfg));
     const int nodes = project_.tree.nodeCount();
     out_.key("treeNodeActions");
     out_.beginArray();

@@ -18,6 +18,10 @@ struct ResultCaches {
   QMap<int, QVariantList> seatHandCombosIpCache;
 
   void clear() { *this = {}; }
+  /// The answers about one node.
+  ResultCaches ofNode(int node) const;
+  /// Forgets the answers about one node.
+  void remove(int node);
   /// Adds the answers of `other` that are not here.
   void take(const ResultCaches& other);
 };

@@ -9,14 +9,9 @@
 
 namespace {
 
-/// The stored answer of a node, else what `compute` gives, which is stored unless it is nothing.
-template <typename Answer, typename Compute>
-Answer answerOf(QMap<int, Answer>& cache, int nodeIndex, const Compute& compute) {
-  if (nodeIndex < 0) return {};
-  if (const auto known = cache.constFind(nodeIndex); known != cache.cend()) return *known;
-  const std::optional<Answer> answer = compute(static_cast<std::uint64_t>(nodeIndex));
-  return answer ? *cache.insert(nodeIndex, *answer) : Answer();
-}
+/// Nodes whose answers are kept beside the root's. Those of a node on a flop with wide ranges take
+/// some 2 MB.
+constexpr std::size_t kNodesKept = 100;
 
 /// What the pages read of a record; nothing if the query could not be answered.
 template <typename Record>
@@ -33,7 +28,42 @@ QString cardKey(const QString& card) {
   return card.trimmed().toLower();
 }
 
+QVariantList namedBuckets(QVariantList list) {
+  // The names for display follow the language and are not kept.
+  for (QVariant& entry : list) {
+    QVariantMap bucket = entry.toMap();
+    bucket["displayName"] = handBucketDisplayName(bucket.value("name").toString());
+    entry = bucket;
+  }
+  return list;
+}
+
 }  // namespace
+
+template <typename Answer, typename Compute>
+Answer ResultQueries::answerOf(QMap<int, Answer>& cache, int nodeIndex, const Compute& compute) {
+  if (nodeIndex < 0) return {};
+  if (const auto known = cache.constFind(nodeIndex); known != cache.cend()) return *known;
+  const std::optional<Answer> answer = compute(static_cast<std::uint64_t>(nodeIndex));
+  if (!answer) return {};
+  cache.insert(nodeIndex, *answer);
+  noteAnswered(nodeIndex);
+  return *answer;
+}
+
+void ResultQueries::noteAnswered(int nodeIndex) {
+  if (nodeIndex == 0) return;
+  std::erase(answered_, nodeIndex);
+  answered_.push_front(nodeIndex);
+  if (answered_.size() <= kNodesKept || !spot_().solver) return;
+  caches_.remove(answered_.back());
+  answered_.pop_back();
+}
+
+void ResultQueries::take(int nodeIndex, const ResultCaches& answers) {
+  caches_.take(answers);
+  noteAnswered(nodeIndex);
+}
 
 void ResultQueries::askAll(int nodeIndex) {
   nodeActionStats(nodeIndex);
@@ -41,6 +71,10 @@ void ResultQueries::askAll(int nodeIndex) {
   nodeHandStrategy(nodeIndex);
   nodeHandCombos(nodeIndex);
   nodeHandBuckets(nodeIndex);
+  if (nodeIndex == 0) {  // The trainer deals from these, also where there is no solver any more.
+    nodeSeatHandCombos(0, QStringLiteral("OOP"));
+    nodeSeatHandCombos(0, QStringLiteral("IP"));
+  }
 }
 
 QVariantMap ResultQueries::nodeHandStrategy(int nodeIndex) {
@@ -71,8 +105,8 @@ QVariantMap ResultQueries::nodeHandStrategyReach169(int nodeIndex, const QString
   }
   const QVariantList combos = nodeHandCombos(nodeIndex);
   QVariantMap grid = nodeHandStrategy(nodeIndex);
-  if (caches_.handCombosCache.contains(nodeIndex)) grid = reachGrid(grid, combos, category);
-  return *caches_.reach169Cache.insert(key, grid);
+  if (!caches_.handCombosCache.contains(nodeIndex)) return grid;
+  return *caches_.reach169Cache.insert(key, reachGrid(grid, combos, category));
 }
 
 QVariantList ResultQueries::nodeActionStats(int nodeIndex) {
@@ -97,24 +131,25 @@ QVariantList ResultQueries::nodeSeatHandCombos(int nodeIndex, const QString& pla
 }
 
 QVariantList ResultQueries::nodeHandBuckets(int nodeIndex) {
-  QVariantList list = answerOf(caches_.handBucketsCache, nodeIndex, [this](std::uint64_t node) {
+  return namedBuckets(answerOf(caches_.handBucketsCache, nodeIndex, [this](std::uint64_t node) {
     return answerIn(velmora_app::query_hand_buckets(spot_(), node));
-  });
-  // The names for display follow the language and are not kept.
-  for (QVariant& entry : list) {
-    QVariantMap bucket = entry.toMap();
-    bucket["displayName"] = handBucketDisplayName(bucket.value("name").toString());
-    entry = bucket;
-  }
-  return list;
+  }));
+}
+
+QVariantList ResultQueries::nodeHandBuckets(int nodeIndex,
+                                            std::span<const velmora::NodeLockEntry> locks) {
+  if (nodeIndex < 0) return {};
+  const auto buckets =
+      velmora_app::query_hand_buckets(spot_(), static_cast<std::uint64_t>(nodeIndex), locks);
+  return buckets.ok ? namedBuckets(variantOf(buckets)) : nodeHandBuckets(nodeIndex);
 }
 
 QVariantList ResultQueries::nodePocketActionEvs(int nodeIndex, const QString& player,
                                                 const QString& c1, const QString& c2) {
   if (nodeIndex < 0) return {};
   const velmora_app::PocketActionEvs record = velmora_app::query_pocket_action_evs(
-      spot_(), static_cast<std::uint64_t>(nodeIndex), seatOf(player),
-      c1.toStdString(), c2.toStdString(), *values_);
+      spot_(), static_cast<std::uint64_t>(nodeIndex), seatOf(player), c1.toStdString(),
+      c2.toStdString(), *values_);
   if (record.ok) return variantOf(record);
   for (const QVariant& entry : caches_.handCombosCache.value(nodeIndex)) {
     const QVariantMap combo = entry.toMap();

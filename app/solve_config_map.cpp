@@ -92,21 +92,22 @@ SolveConfig makeSolveConfig(const QVariantMap& map) {
   return config;
 }
 
-QVariantMap solveConfigMapOfProject(const QVariantMap& projectState) {
-  QVariantMap map;
-  const auto copy = [&](const QString& key, const QString& projectKey) {
-    if (const auto it = projectState.find(projectKey); it != projectState.end()) map[key] = *it;
-  };
-  copy("board", "boardText");
-  copy("oop_range", "oopRangeText");
-  copy("ip_range", "ipRangeText");
-  copy("max_iterations", "maxIterations");
-  copy("starting_pot", "startingPot");
-  copy("effective_stack", "effectiveStack");
-  copy("rake_percent", "rakePercent");
-  copy("rake_cap", "rakeCap");
-  copy("starting_street", "startingStreet");
-  copy("thread_count", "threadCount");
+namespace {
+
+/// Calls `pair` with each key of a solve configuration map whose value a project state holds as it
+/// is, and the key that it has there.
+template <typename Pair>
+void forEachSharedKey(const Pair& pair) {
+  pair("board", "boardText");
+  pair("oop_range", "oopRangeText");
+  pair("ip_range", "ipRangeText");
+  pair("max_iterations", "maxIterations");
+  pair("starting_pot", "startingPot");
+  pair("effective_stack", "effectiveStack");
+  pair("rake_percent", "rakePercent");
+  pair("rake_cap", "rakeCap");
+  pair("starting_street", "startingStreet");
+  pair("thread_count", "threadCount");
 
   using StreetNames = std::pair<const char*, const char*>;
   constexpr std::array streets{StreetNames{"flop", "Flop"}, StreetNames{"turn", "Turn"},
@@ -115,19 +116,42 @@ QVariantMap solveConfigMapOfProject(const QVariantMap& projectState) {
     for (const auto& [street, projectStreet] : streets) {
       const QString stem = seat + QLatin1Char('_') + QLatin1String(street);
       const QString projectStem = seat + QLatin1String(projectStreet);
-      copy(stem + "_bet_sizes", projectStem + "BetSizesText");
-      copy(stem + "_raise_sizes", projectStem + "RaiseSizesText");
-      copy(stem + "_add_all_in", projectStem + "AddAllIn");
-      if (seat == QLatin1String("oop")) copy(stem + "_dont_donk", projectStem + "DontDonk");
+      pair(stem + "_bet_sizes", projectStem + "BetSizesText");
+      pair(stem + "_raise_sizes", projectStem + "RaiseSizesText");
+      pair(stem + "_add_all_in", projectStem + "AddAllIn");
+      if (seat == QLatin1String("oop")) pair(stem + "_dont_donk", projectStem + "DontDonk");
     }
-    copy(seat + "_add_all_in_jam_threshold_enabled", seat + "AddAllInIfJamLtEnabled");
-    copy(seat + "_add_all_in_jam_threshold_pct", seat + "AddAllInIfJamLtPct");
+    pair(seat + "_add_all_in_jam_threshold_enabled", seat + "AddAllInIfJamLtEnabled");
+    pair(seat + "_add_all_in_jam_threshold_pct", seat + "AddAllInIfJamLtPct");
   }
+}
 
+}  // namespace
+
+QVariantMap solveConfigMapOfProject(const QVariantMap& projectState) {
+  QVariantMap map;
+  forEachSharedKey([&](const QString& key, const QString& projectKey) {
+    if (const auto it = projectState.find(projectKey); it != projectState.end()) map[key] = *it;
+  });
   if (projectState.contains("targetExploitability")) {
     const double pot = valueOr(projectState, "startingPot", SolveConfig{}.starting_pot).toDouble();
     map["target_exploitability"] =
         targetAmount(pot, projectState.value("targetExploitability").toDouble());
   }
   return map;
+}
+
+QVariantMap projectStateOfSolveConfigMap(const QVariantMap& map) {
+  QVariantMap state;
+  forEachSharedKey([&](const QString& key, const QString& projectKey) {
+    if (const auto it = map.find(key); it != map.end()) state[projectKey] = *it;
+  });
+  state.remove("threadCount");
+  const double pot = map.value("starting_pot").toDouble();
+  if (map.contains("target_exploitability") && pot > 0) {
+    // Targets have at most six decimals.
+    const double percent = map.value("target_exploitability").toDouble() / pot * 100;
+    state["targetExploitability"] = std::round(percent * 1e6) / 1e6;
+  }
+  return state;
 }

@@ -17,3 +17,7 @@ velmora_app::SolveConfig makeSolveConfig(const QVariantMap& map);
 /// The solve configuration map of a project state (camel-case keys, as project files store it).
 /// The target, a percentage of the starting pot there, becomes an amount in chips.
 QVariantMap solveConfigMapOfProject(const QVariantMap& projectState);
+
+/// The project state that a solve configuration map was made of, without `threadCount`, which
+/// belongs to the machine.
+QVariantMap projectStateOfSolveConfigMap(const QVariantMap& map);

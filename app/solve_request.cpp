@@ -2,11 +2,17 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
+#include <utility>
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QLatin1String>
+#include <QStringList>
 
 #include "solve_config_map.h"
+
+using velmora_app::SpotFault;
 
 namespace {
 
@@ -14,19 +20,16 @@ QString translated(const char* text) {
   return QCoreApplication::translate("AppController", text);
 }
 
-bool isRank(QChar c) {
-  static const QLatin1String kRanks("AKQJT98765432");
-  return kRanks.contains(c.toUpper());
+QString translated(const char* context, const char* text) {
+  return QCoreApplication::translate(context, text);
 }
 
-bool hasAllSizings(const QVariantMap& map) {
-  static constexpr std::array kKeys{
-      "oop_flop_bet_sizes",  "oop_flop_raise_sizes",  "oop_turn_bet_sizes", "oop_turn_raise_sizes",
-      "oop_river_bet_sizes", "oop_river_raise_sizes", "ip_flop_bet_sizes",  "ip_flop_raise_sizes",
-      "ip_turn_bet_sizes",   "ip_turn_raise_sizes",   "ip_river_bet_sizes", "ip_river_raise_sizes"};
-  return std::all_of(kKeys.begin(), kKeys.end(), [&](const char* key) {
-    return !map.value(key).toString().trimmed().isEmpty();
-  });
+QString missingText(const QString& field) {
+  if (field == "board") return translated("Not ready: enter a valid board first");
+  if (field.endsWith("_range")) {
+    return translated("Not ready: select at least one hand in both ranges");
+  }
+  return translated("Not ready: fill out both OOP and IP sizing");
 }
 
 }  // namespace
@@ -49,21 +52,64 @@ QString describeSolveRequest(const QVariantMap& map) {
          " ip_jam_thr_pct=" + text("ip_add_all_in_jam_threshold_pct");
 }
 
-bool namesAnyHand(const QString& rangeText) {
-  return std::adjacent_find(rangeText.begin(), rangeText.end(), [](QChar a, QChar b) {
-           return isRank(a) && isRank(b);
-         }) != rangeText.end();
+std::vector<SpotFault> spotFaults(const QVariantMap& map) {
+  velmora_app::SolveConfig config = makeSolveConfig(map);
+  config.board = map.value("board").toString().toStdString();
+  return velmora_app::check_spot(config);
+}
+
+QString refusalOf(const std::vector<SpotFault>& faults) {
+  if (faults.empty()) return {};
+  const SpotFault& fault = mostUrgent(faults);
+  const QString field = QString::fromStdString(fault.field);
+  if (fault.missing) return missingText(field);
+  const QString title = fieldTitle(field);
+  const QString sentence = QString::fromStdString(fault.sentence);
+  return title.isEmpty() ? sentence : title + ": " + sentence;
 }
 
 QString refusalOf(const QVariantMap& map) {
-  const qsizetype boardLength = normalizedBoard(map.value("board").toString()).size();
-  if (boardLength != 6 && boardLength != 8 && boardLength != 10) {
-    return translated("Not ready: enter a valid board first");
+  return refusalOf(spotFaults(map));
+}
+
+QString fieldTitle(const QString& field) {
+  static const QHash<QString, std::pair<const char*, const char*>> kTitles{
+      {"board", {"BoardCard", "Board"}},
+      {"oop_range", {"RangeCard", "OOP Range"}},
+      {"ip_range", {"RangeCard", "IP Range"}},
+      {"starting_pot", {"GameSettingsCard", "Starting Pot"}},
+      {"effective_stack", {"GameSettingsCard", "Effective Stack"}},
+      {"rake_percent", {"GameSettingsCard", "Rake (%)"}},
+      {"rake_cap", {"GameSettingsCard", "Rake Cap"}},
+      {"target_exploitability", {"GameSettingsCard", "Target Exploitability (%)"}},
+      {"oop_weight", {"RangeCard", "Weight"}},
+      {"ip_weight", {"RangeCard", "Weight"}},
+  };
+  if (const auto title = kTitles.find(field); title != kTitles.end()) {
+    return translated(title->first, title->second);
   }
-  if (!namesAnyHand(map.value("oop_range").toString()) ||
-      !namesAnyHand(map.value("ip_range").toString())) {
-    return translated("Not ready: select at least one hand in both ranges");
+  // What is left stands in the cards of the bet sizes: a seat, maybe a street, and a row.
+  static constexpr std::array kParts{
+      std::pair{"oop_", "OOP"},
+      std::pair{"ip_", "IP"},
+      std::pair{"flop_", "Flop"},
+      std::pair{"turn_", "Turn"},
+      std::pair{"river_", "River"},
+      std::pair{"bet_sizes", "Bet sizes (%)"},
+      std::pair{"raise_sizes", "Raise sizes (%)"},
+      std::pair{"add_all_in_jam_threshold_pct", "Add all-in if jam less than"}};
+  QStringList words;
+  QString rest = field;
+  for (const auto& [part, word] : kParts) {
+    if (!rest.startsWith(QLatin1String(part))) continue;
+    words += translated("SizingCard", word);
+    rest.remove(0, static_cast<int>(std::strlen(part)));
   }
-  if (!hasAllSizings(map)) return translated("Not ready: fill out both OOP and IP sizing");
-  return {};
+  return words.join(QLatin1Char(' '));
+}
+
+const SpotFault& mostUrgent(const std::vector<SpotFault>& faults) {
+  const auto wrong =
+      std::find_if(faults.begin(), faults.end(), [](const SpotFault& f) { return !f.missing; });
+  return wrong == faults.end() ? faults.front() : *wrong;
 }

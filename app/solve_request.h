@@ -1,15 +1,27 @@
-// What the controller looks at before it starts a solve.
+// What a start of a solve is asked with, and why it may be refused.
 #pragma once
+
+#include <vector>
 
 #include <QString>
 #include <QVariantMap>
 
-/// The log line of a start request.
+#include "spot_check.h"
+
+/// The line of the log about a start.
 QString describeSolveRequest(const QVariantMap& map);
 
-/// True if two adjacent characters of the text are ranks. It says nothing about validity: a wrong
-/// range fails in the worker, with the parser's text.
-bool namesAnyHand(const QString& rangeText);
+/// Everything that keeps the spot of a solve configuration map from being solved. The board is
+/// looked at as it stands in the map, before anything is dropped from it.
+std::vector<velmora_app::SpotFault> spotFaults(const QVariantMap& map);
 
-/// Why a request can't be solved, as the status text; empty if nothing stands against it.
+/// The fault to tell of first: a field with a fault in it, or else what is missing first. There is
+/// at least one.
+const velmora_app::SpotFault& mostUrgent(const std::vector<velmora_app::SpotFault>& faults);
+/// Why a solve with these faults is refused, in the user's language. Empty without faults.
+QString refusalOf(const std::vector<velmora_app::SpotFault>& faults);
+/// The same for a solve configuration map.
 QString refusalOf(const QVariantMap& map);
+
+/// What the window calls a field; empty for the spot as a whole.
+QString fieldTitle(const QString& field);

@@ -12,7 +12,6 @@ namespace {
 constexpr char kManifestUrlKey[] = "updates/manifestUrl";
 constexpr char kCachedManifestKey[] = "updates/cachedManifestJson";
 constexpr char kCachedAtKey[] = "updates/cachedAt";
-constexpr char kDefaultManifestUrl[] = "https://updates.dunmarrow.example/downloads/latest.json";
 /// A manifest is a few hundred bytes.
 constexpr qint64 kLargestManifest = 1024 * 1024;
 constexpr int kMostRedirects = 5;
@@ -23,12 +22,12 @@ QString normalizeUrl(const QString& text) {
   return url;
 }
 
-/// The first address that is set: the user's, the environment's, the built-in one.
+/// The first address that is set: the user's, the environment's, that of the build. Empty if none is.
 QString initialManifestUrl() {
   for (const QString& candidate :
        {QSettings().value(kManifestUrlKey).toString(),
         qEnvironmentVariable("VELMORA_UPDATE_MANIFEST_URL"),
-        qEnvironmentVariable("VELMORA_UPDATE_URL"), QString(kDefaultManifestUrl)}) {
+        qEnvironmentVariable("VELMORA_UPDATE_URL"), QString(DUNMARROW_UPDATE_URL)}) {
     const QString url = normalizeUrl(candidate);
     if (!url.isEmpty()) return url;
   }

@@ -3,6 +3,17 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+namespace {
+
+/// An address that a browser may be given; empty for one of any other kind, such as a file's.
+QUrl webAddress(const QString& text) {
+  const QUrl url(text);
+  const bool web = (url.scheme() == "https" || url.scheme() == "http") && !url.host().isEmpty();
+  return web ? url : QUrl();
+}
+
+}  // namespace
+
 std::optional<UpdateManifest> parseManifest(const QByteArray& text) {
   const QJsonDocument document = QJsonDocument::fromJson(text);
   if (!document.isObject()) return std::nullopt;
@@ -10,7 +21,7 @@ std::optional<UpdateManifest> parseManifest(const QByteArray& text) {
   const QString platformUrl = manifest.value("windows_url").toString().trimmed();
   return UpdateManifest{
       manifest.value("version").toString().trimmed(), manifest.value("notes").toString(),
-      QUrl(platformUrl.isEmpty() ? manifest.value("url").toString().trimmed() : platformUrl),
+      webAddress(platformUrl.isEmpty() ? manifest.value("url").toString().trimmed() : platformUrl),
       document.toJson(QJsonDocument::Compact)};
 }
 

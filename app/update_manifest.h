@@ -11,7 +11,7 @@
 struct UpdateManifest {
   QString version;   ///< Trimmed; empty if there is none.
   QString notes;     ///< Release notes.
-  QUrl downloadUrl;  ///< That of this platform, else that of all.
+  QUrl downloadUrl;  ///< That of this platform, else that of all; http or https.
   QByteArray json;   ///< The whole manifest, compact, as it is kept.
 };
 

@@ -15,6 +15,33 @@ bool is_one_of(char c, std::string_view lower_case) {
   return lower_case.find(to_lower(c)) != std::string_view::npos;
 }
 
+[[noreturn]] void throw_invalid_token(std::string_view token) {
+  throw std::invalid_argument("Sizing: invalid token '" + std::string(token) +
+                              "'. Use numbers like '33, 75' or '33%, 75%'");
+}
+
+/// A piece between two commas without its white space, which may stand between a number and its
+/// unit only: "33 75" are two sizes without a comma and not one of 3375. Refuses foreign
+/// characters.
+std::string packed_piece(std::string_view piece) {
+  std::string packed;
+  bool behind_space = false;
+  for (const char c : piece) {
+    if (is_space(c)) {
+      behind_space = true;
+      continue;
+    }
+    if (!is_digit(c) && !is_one_of(c, "%.acerx")) throw_invalid_token(piece);
+    if (behind_space && !(is_digit(packed.back()) && is_one_of(c, "%cerx"))) {
+      throw std::invalid_argument("Sizing: separate sizes by commas, as in '33, 75', not '" +
+                                  std::string(piece) + "'");
+    }
+    behind_space = false;
+    packed += c;
+  }
+  return packed;
+}
+
 BetSize parse_raise_multiple(std::string_view number, bool allow_relative) {
   if (!allow_relative) {
     throw std::invalid_argument("Relative raise (x) is not allowed in this context");
@@ -128,19 +155,14 @@ SeatSizing parse_seat_sizing(std::string_view bet_text, std::string_view raise_t
 }
 
 std::string normalize_sizing(std::string_view text, bool add_all_in) {
-  std::string kept;
-  for (const char c : text) {
-    if (is_digit(c) || is_one_of(c, "%,.acerx")) kept += c;
-  }
   std::string normal;
   bool has_all_in = false;
-  for_each_piece(kept, [&](std::string_view piece) {
-    if (piece == "%") {
-      throw std::invalid_argument(
-          "Sizing: invalid token '%'. Use numbers like '33, 75' or '33%, 75%'");
-    }
+  for_each_piece(text, [&](std::string_view written) {
+    const std::string piece = packed_piece(trimmed(written));
+    if (piece.empty()) return;
+    if (piece == "%") throw_invalid_token(piece);
     if (piece.size() == 1 && is_one_of(piece[0], "cex")) {
-      throw std::invalid_argument("Sizing: invalid token '" + std::string(piece) + "'");
+      throw std::invalid_argument("Sizing: invalid token '" + piece + "'");
     }
     if (piece == "a" || piece == "A") has_all_in = true;
     if (!normal.empty()) normal += ',';
@@ -149,6 +171,25 @@ std::string normalize_sizing(std::string_view text, bool add_all_in) {
   });
   if (add_all_in && !has_all_in) normal += normal.empty() ? "a" : ",a";
   return normal;
+}
+
+std::string bet_sizes_fault(std::string_view text, bool add_all_in, bool allow_relative) {
+  std::string fault;
+  try {
+    const std::string normal = normalize_sizing(text, add_all_in);
+    for_each_piece(normal, [&](std::string_view piece) {
+      try {
+        parse_bet_size(piece, allow_relative);
+      } catch (const NumberFault&) {
+        throw_invalid_token(piece);
+      } catch (const std::logic_error& why) {
+        throw std::invalid_argument("'" + std::string(piece) + "': " + why.what());
+      }
+    });
+  } catch (const std::logic_error& why) {
+    fault = why.what();
+  }
+  return fault;
 }
 
 StreetSizing parse_street_sizing(std::string_view street_name, const StreetSizingText& oop,

@@ -60,9 +60,13 @@ BetSize parse_bet_size(std::string_view token, bool allow_relative);
 /// The sizes of a list separated by commas, in order; empty pieces are skipped.
 std::vector<BetSize> parse_bet_sizes(std::string_view text, bool allow_relative);
 SeatSizing parse_seat_sizing(std::string_view bet_text, std::string_view raise_text);
-/// The text with foreign characters dropped, "%" behind plain numbers, and an "a" at the end if
-/// `add_all_in` asks for it and none is there. Throws `std::invalid_argument`.
+/// The text without white space, with "%" behind plain numbers, and with an "a" at the end if
+/// `add_all_in` asks for it and none is there. Throws `std::invalid_argument` for a character that
+/// is no part of the notation and for sizes that are not separated by commas.
 std::string normalize_sizing(std::string_view text, bool add_all_in);
+/// What is wrong with a text of sizes as the user typed it: one sentence for the first bad size, or
+/// "" for a text that can be read.
+std::string bet_sizes_fault(std::string_view text, bool add_all_in, bool allow_relative);
 
 /// The sizes of a street. A fault in a seat's sizes is thrown again as `std::invalid_argument`
 /// with the seat, the street and the texts in front of it.

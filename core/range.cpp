@@ -53,9 +53,9 @@ float parse_weight(std::string_view text) {
   const auto weight = convert(std::string(text), [](const char* begin, char** end) {
     return strtof_l(begin, end, c_locale());
   });
-  if (!weight.found) throw std::invalid_argument("invalid stof argument");
+  if (!weight.found) throw NumberFault("invalid stof argument");
   if (weight.out_of_range) throw std::out_of_range("stof argument out of range");
-  if (!weight.complete) throw std::invalid_argument("Weight string contains invalid characters");
+  if (!weight.complete) throw NumberFault("Weight string contains invalid characters");
   check_weight(weight.value);
   return weight.value;
 }
@@ -214,12 +214,15 @@ PocketWeights parse_range(std::string_view text) {
   return weights;
 }
 
-PocketWeights parse_range_text(std::string_view text) {
+bool is_percent_range(std::string_view text) {
   const std::string_view percent = trimmed(text);
-  if (percent.size() < 2 || percent.find('%') != percent.size() - 1 ||
-      percent.find_first_not_of("0123456789.%") != std::string_view::npos) {
-    return parse_range(text);
-  }
+  return percent.size() >= 2 && percent.find('%') == percent.size() - 1 &&
+         percent.find_first_not_of("0123456789.%") == std::string_view::npos;
+}
+
+PocketWeights parse_range_text(std::string_view text) {
+  if (!is_percent_range(text)) return parse_range(text);
+  const std::string_view percent = trimmed(text);
   const auto number = convert_double(std::string(percent.substr(0, percent.size() - 1)));
   if (!number.found || number.out_of_range) {
     throw std::invalid_argument("Invalid percent range '" + std::string(percent) +
@@ -230,6 +233,34 @@ PocketWeights parse_range_text(std::string_view text) {
   PocketWeights weights;
   weights.fill(weight);
   return weights;
+}
+
+std::string range_fault(std::string_view text) {
+  if (is_percent_range(text)) {
+    try {
+      parse_range_text(text);
+      return {};
+    } catch (const std::logic_error& why) {
+      return "'" + std::string(trimmed(text)) + "': " + why.what();
+    }
+  }
+  const std::string tokens = without_space(text);
+  std::string fault;
+  PocketWeights weights{};
+  for_each_piece(tokens, [&](std::string_view token) {
+    if (!fault.empty()) return;
+    const std::string quoted = "'" + std::string(token) + "': ";
+    try {
+      apply_token(weights, token);
+    } catch (const NumberFault&) {
+      fault = quoted + "Weight must be a number from 0 to 1";
+    } catch (const std::out_of_range&) {
+      fault = quoted + "Weight must be a number from 0 to 1";
+    } catch (const std::invalid_argument& why) {
+      fault = quoted + why.what();
+    }
+  });
+  return fault;
 }
 
 bool is_suit_symmetric(const PocketWeights& weights, std::uint8_t suit1, std::uint8_t suit2) {
@@ -258,8 +289,8 @@ double parse_double_strict(std::string_view text) {
     hex += kHexDigits[byte >> 4];
     hex += kHexDigits[byte & 15];
   }
-  throw std::invalid_argument("Failed to parse floating-point number from '" + std::string(text) +
-                              "' (hex=" + hex + ")");
+  throw NumberFault("Failed to parse floating-point number from '" + std::string(text) +
+                    "' (hex=" + hex + ")");
 }
 
 std::int32_t parse_int_strict(std::string_view text) {
@@ -267,7 +298,7 @@ std::int32_t parse_int_strict(std::string_view text) {
     return strtoll_l(begin, end, 10, c_locale());
   });
   if (!number.found || number.out_of_range || !number.complete) {
-    throw std::invalid_argument("Failed to parse integer from '" + std::string(text) + "'");
+    throw NumberFault("Failed to parse integer from '" + std::string(text) + "'");
   }
   if (number.value < std::numeric_limits<std::int32_t>::min() ||
       number.value > std::numeric_limits<std::int32_t>::max()) {

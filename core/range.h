@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -75,13 +76,25 @@ std::vector<std::size_t> expand_pattern(const ComboPattern& pattern);
 PocketWeights parse_range(std::string_view text);
 /// A percent text such as "50%" (every pocket at that weight) or else a range as above.
 PocketWeights parse_range_text(std::string_view text);
+/// Whether the text has the percent form of `parse_range_text`.
+bool is_percent_range(std::string_view text);
+/// What is wrong with a text for `parse_range_text`: one sentence that quotes the first bad token,
+/// or
+/// "" for a text that can be read.
+std::string range_fault(std::string_view text);
 
 /// True if the table is unchanged when the two suits are exchanged.
 bool is_suit_symmetric(const PocketWeights& weights, std::uint8_t suit1, std::uint8_t suit2);
 
-/// The whole text as a double. Throws `std::invalid_argument`.
+/// A text stands where a number should.
+class NumberFault : public std::invalid_argument {
+ public:
+  using std::invalid_argument::invalid_argument;
+};
+
+/// The whole text as a double. Throws `NumberFault`.
 double parse_double_strict(std::string_view text);
-/// The whole text as a signed 32-bit number. Throws `std::invalid_argument`, `std::out_of_range`.
+/// The whole text as a signed 32-bit number. Throws `NumberFault`, `std::out_of_range`.
 std::int32_t parse_int_strict(std::string_view text);
 
 /// Label of the pocket in the 13 by 13 grid: "AA", "AKs", "AKo", higher rank first.

@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>ActionFrequencies</name>
+    <message>
+        <source>Action Frequencies</source>
+        <translation>Aktionshäufigkeiten</translation>
+    </message>
+</context>
+<context>
     <name>ActivityGrid</name>
     <message>
         <source>Solve Activity</source>
@@ -1152,6 +1159,14 @@
         <source>No hands can be dealt here. Solve the spot again to play it.</source>
         <translation>Hier lassen sich keine Hände austeilen. Zum Spielen den Spot neu berechnen.</translation>
     </message>
+    <message>
+        <source>Hand Log</source>
+        <translation>Handverlauf</translation>
+    </message>
+    <message>
+        <source>Hand details</source>
+        <translation>Details zur Hand</translation>
+    </message>
 </context>
 <context>
     <name>PlayPrompt</name>
@@ -1806,10 +1821,14 @@
     </message>
 </context>
 <context>
-    <name>StrategyPanel</name>
+    <name>StrategyViews</name>
     <message>
-        <source>Action Frequencies</source>
-        <translation>Aktionshäufigkeiten</translation>
+        <source>Buckets</source>
+        <translation>Handkategorien</translation>
+    </message>
+    <message>
+        <source>Hand Details</source>
+        <translation>Handdetails</translation>
     </message>
 </context>
 <context>
@@ -1902,7 +1921,7 @@
     </message>
     <message>
         <source>Accuracy (Today / Total)</source>
-        <translation>Genau (heute / gesamt)</translation>
+        <translation>Trefferquote (heute/ges.)</translation>
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>

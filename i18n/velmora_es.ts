@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>ActionFrequencies</name>
+    <message>
+        <source>Action Frequencies</source>
+        <translation>Frecuencias de acción</translation>
+    </message>
+</context>
+<context>
     <name>ActivityGrid</name>
     <message>
         <source>Solve Activity</source>
@@ -707,7 +714,7 @@
     </message>
     <message>
         <source>open ended straight draw</source>
-        <translation>escalera abierta</translation>
+        <translation>proyecto de escalera abierta</translation>
     </message>
     <message>
         <source>overpair</source>
@@ -1151,6 +1158,14 @@
     <message>
         <source>No hands can be dealt here. Solve the spot again to play it.</source>
         <translation>Aquí no se pueden repartir manos. Hay que volver a calcular el spot para jugarlo.</translation>
+    </message>
+    <message>
+        <source>Hand Log</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Hand details</source>
+        <translation>Detalles de la mano</translation>
     </message>
 </context>
 <context>
@@ -1806,10 +1821,14 @@
     </message>
 </context>
 <context>
-    <name>StrategyPanel</name>
+    <name>StrategyViews</name>
     <message>
-        <source>Action Frequencies</source>
-        <translation>Frecuencias de acción</translation>
+        <source>Buckets</source>
+        <translation>Categorías</translation>
+    </message>
+    <message>
+        <source>Hand Details</source>
+        <translation>Detalles de las manos</translation>
     </message>
 </context>
 <context>
@@ -1906,7 +1925,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>EV perdido (hoy / total)</translation>
+        <translation>EV medio perdido (hoy / total)</translation>
     </message>
     <message>
         <source>EV</source>

@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>ActionFrequencies</name>
+    <message>
+        <source>Action Frequencies</source>
+        <translation>Fréquences des actions</translation>
+    </message>
+</context>
+<context>
     <name>ActivityGrid</name>
     <message>
         <source>Solve Activity</source>
@@ -1152,6 +1159,14 @@
         <source>No hands can be dealt here. Solve the spot again to play it.</source>
         <translation>Impossible de distribuer des mains ici. Recalculer le spot pour le jouer.</translation>
     </message>
+    <message>
+        <source>Hand Log</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Hand details</source>
+        <translation>Détails de la main</translation>
+    </message>
 </context>
 <context>
     <name>PlayPrompt</name>
@@ -1604,7 +1619,7 @@
     </message>
     <message>
         <source>Save settings</source>
-        <translation>Sauver profil</translation>
+        <translation>Enregistrer profil</translation>
     </message>
     <message>
         <source>Please enter a name.</source>
@@ -1806,10 +1821,14 @@
     </message>
 </context>
 <context>
-    <name>StrategyPanel</name>
+    <name>StrategyViews</name>
     <message>
-        <source>Action Frequencies</source>
-        <translation>Fréquences des actions</translation>
+        <source>Buckets</source>
+        <translation>Catégories</translation>
+    </message>
+    <message>
+        <source>Hand Details</source>
+        <translation>Détails des mains</translation>
     </message>
 </context>
 <context>
@@ -1906,7 +1925,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Perte EV (jour / total)</translation>
+        <translation>Perte EV moy. (jour / total)</translation>
     </message>
     <message>
         <source>EV</source>

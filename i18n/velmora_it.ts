@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>ActionFrequencies</name>
+    <message>
+        <source>Action Frequencies</source>
+        <translation>Frequenze delle azioni</translation>
+    </message>
+</context>
+<context>
     <name>ActivityGrid</name>
     <message>
         <source>Solve Activity</source>
@@ -1152,6 +1159,14 @@
         <source>No hands can be dealt here. Solve the spot again to play it.</source>
         <translation>Qui non si possono distribuire mani. Ricalcola lo spot per giocarlo.</translation>
     </message>
+    <message>
+        <source>Hand Log</source>
+        <translation>Cronologia mani</translation>
+    </message>
+    <message>
+        <source>Hand details</source>
+        <translation>Dettagli della mano</translation>
+    </message>
 </context>
 <context>
     <name>PlayPrompt</name>
@@ -1806,10 +1821,14 @@
     </message>
 </context>
 <context>
-    <name>StrategyPanel</name>
+    <name>StrategyViews</name>
     <message>
-        <source>Action Frequencies</source>
-        <translation>Frequenze delle azioni</translation>
+        <source>Buckets</source>
+        <translation>Categorie</translation>
+    </message>
+    <message>
+        <source>Hand Details</source>
+        <translation>Dettagli mani</translation>
     </message>
 </context>
 <context>
@@ -1906,7 +1925,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>EV perso (oggi/tot.)</translation>
+        <translation>EV medio perso (oggi/tot.)</translation>
     </message>
     <message>
         <source>EV</source>

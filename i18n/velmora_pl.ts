@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>ActionFrequencies</name>
+    <message>
+        <source>Action Frequencies</source>
+        <translation>Częstotliwości akcji</translation>
+    </message>
+</context>
+<context>
     <name>ActivityGrid</name>
     <message>
         <source>Solve Activity</source>
@@ -42,7 +49,7 @@
     <name>AppController</name>
     <message>
         <source>Ready</source>
-        <translation>Gotowe</translation>
+        <translation>Gotowy</translation>
     </message>
     <message>
         <source>Starting...</source>
@@ -984,7 +991,7 @@
     </message>
     <message>
         <source>Third-party notices and license texts are included in the &apos;licenses&apos; folder next to the executable.</source>
-        <translation>Informacje o oprogramowaniu innych twórców i teksty licencji znajdują się w folderze „licenses” obok pliku programu.</translation>
+        <translation>Noty prawne innych twórców i teksty licencji znajdują się w folderze „licenses” obok pliku programu.</translation>
     </message>
     <message>
         <source>Open licenses folder</source>
@@ -992,7 +999,7 @@
     </message>
     <message>
         <source>Open notices</source>
-        <translation>Otwórz informacje</translation>
+        <translation>Otwórz noty prawne</translation>
     </message>
 </context>
 <context>
@@ -1152,6 +1159,14 @@
         <source>No hands can be dealt here. Solve the spot again to play it.</source>
         <translation>Nie można tu rozdać kart. Przelicz spot ponownie, aby go rozegrać.</translation>
     </message>
+    <message>
+        <source>Hand Log</source>
+        <translation>Historia rozdań</translation>
+    </message>
+    <message>
+        <source>Hand details</source>
+        <translation>Szczegóły rozdania</translation>
+    </message>
 </context>
 <context>
     <name>PlayPrompt</name>
@@ -1240,7 +1255,7 @@
     </message>
     <message>
         <source>Ready to solve</source>
-        <translation>Gotowe do obliczeń</translation>
+        <translation>Gotowy do obliczeń</translation>
     </message>
     <message>
         <source>Finalizing…</source>
@@ -1337,7 +1352,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Gotowe</translation>
+        <translation>Gotowy</translation>
     </message>
     <message>
         <source>Setup Required</source>
@@ -1772,7 +1787,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Gotowe</translation>
+        <translation>Gotowy</translation>
     </message>
 </context>
 <context>
@@ -1787,7 +1802,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Gotowe</translation>
+        <translation>Gotowy</translation>
     </message>
     <message>
         <source>%1 %2%</source>
@@ -1806,10 +1821,14 @@
     </message>
 </context>
 <context>
-    <name>StrategyPanel</name>
+    <name>StrategyViews</name>
     <message>
-        <source>Action Frequencies</source>
-        <translation>Częstotliwości akcji</translation>
+        <source>Buckets</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Hand Details</source>
+        <translation>Szczegóły rąk</translation>
     </message>
 </context>
 <context>
@@ -1906,7 +1925,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Strata EV (dziś/razem)</translation>
+        <translation>Śr. strata EV (dziś/razem)</translation>
     </message>
     <message>
         <source>EV</source>

@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>ActionFrequencies</name>
+    <message>
+        <source>Action Frequencies</source>
+        <translation>Frequência das ações</translation>
+    </message>
+</context>
+<context>
     <name>ActivityGrid</name>
     <message>
         <source>Solve Activity</source>
@@ -1152,6 +1159,14 @@
         <source>No hands can be dealt here. Solve the spot again to play it.</source>
         <translation>Não é possível distribuir mãos aqui. Recalcule o spot para jogá-lo.</translation>
     </message>
+    <message>
+        <source>Hand Log</source>
+        <translation>Registro de mãos</translation>
+    </message>
+    <message>
+        <source>Hand details</source>
+        <translation>Detalhes da mão</translation>
+    </message>
 </context>
 <context>
     <name>PlayPrompt</name>
@@ -1806,10 +1821,14 @@
     </message>
 </context>
 <context>
-    <name>StrategyPanel</name>
+    <name>StrategyViews</name>
     <message>
-        <source>Action Frequencies</source>
-        <translation>Frequência das ações</translation>
+        <source>Buckets</source>
+        <translation>Categorias</translation>
+    </message>
+    <message>
+        <source>Hand Details</source>
+        <translation>Detalhes das mãos</translation>
     </message>
 </context>
 <context>
@@ -1906,7 +1925,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Perda EV (hoje/total)</translation>
+        <translation>Perda EV média (hoje/total)</translation>
     </message>
     <message>
         <source>EV</source>

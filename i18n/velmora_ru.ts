@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>ActionFrequencies</name>
+    <message>
+        <source>Action Frequencies</source>
+        <translation>Частоты действий</translation>
+    </message>
+</context>
+<context>
     <name>ActivityGrid</name>
     <message>
         <source>Solve Activity</source>
@@ -42,7 +49,7 @@
     <name>AppController</name>
     <message>
         <source>Ready</source>
-        <translation>Готово</translation>
+        <translation>Готов</translation>
     </message>
     <message>
         <source>Starting...</source>
@@ -992,7 +999,7 @@
     </message>
     <message>
         <source>Open notices</source>
-        <translation>Сведения о ПО</translation>
+        <translation>Открыть сведения о ПО</translation>
     </message>
 </context>
 <context>
@@ -1151,6 +1158,14 @@
     <message>
         <source>No hands can be dealt here. Solve the spot again to play it.</source>
         <translation>Здесь нельзя раздать руки. Рассчитайте спот заново, чтобы сыграть его.</translation>
+    </message>
+    <message>
+        <source>Hand Log</source>
+        <translation>История раздач</translation>
+    </message>
+    <message>
+        <source>Hand details</source>
+        <translation>Детали раздачи</translation>
     </message>
 </context>
 <context>
@@ -1337,7 +1352,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Готово</translation>
+        <translation>Готов</translation>
     </message>
     <message>
         <source>Setup Required</source>
@@ -1772,7 +1787,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Готово</translation>
+        <translation>Готов</translation>
     </message>
 </context>
 <context>
@@ -1787,7 +1802,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>Готово</translation>
+        <translation>Готов</translation>
     </message>
     <message>
         <source>%1 %2%</source>
@@ -1806,10 +1821,14 @@
     </message>
 </context>
 <context>
-    <name>StrategyPanel</name>
+    <name>StrategyViews</name>
     <message>
-        <source>Action Frequencies</source>
-        <translation>Частоты действий</translation>
+        <source>Buckets</source>
+        <translation>Категории</translation>
+    </message>
+    <message>
+        <source>Hand Details</source>
+        <translation>Руки подробно</translation>
     </message>
 </context>
 <context>
@@ -1906,7 +1925,7 @@
     </message>
     <message>
         <source>Avg EV Loss (Today / Total)</source>
-        <translation>Потеря EV (день/всего)</translation>
+        <translation>Ср. потеря EV (день/всего)</translation>
     </message>
     <message>
         <source>EV</source>

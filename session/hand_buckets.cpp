@@ -29,17 +29,37 @@ std::vector<float> probabilities_of(const Sums& sums) {
   return probabilities;
 }
 
+/// Puts the locks into the strategy of the hands of their classes.
+void apply_locks(std::span<const NodeLockEntry> locks, const std::vector<velmora::Pocket>& pockets,
+                 std::size_t num_actions, std::vector<float>& strategy) {
+  for (const NodeLockEntry& lock : locks) {
+    if (lock.action >= num_actions) continue;
+    const float others =
+        num_actions > 1 ? (1.0F - lock.frequency) / static_cast<float>(num_actions - 1) : 0.0F;
+    for (std::size_t h = 0; h < pockets.size(); ++h) {
+      if (velmora::hand_class_label(pockets[h]) != lock.hand) continue;
+      for (std::size_t a = 0; a < num_actions; ++a) {
+        strategy[a * pockets.size() + h] =
+            a == lock.action ? (num_actions > 1 ? lock.frequency : 1.0F) : others;
+      }
+    }
+  }
+}
+
 }  // namespace
 
-NodeHandBuckets query_hand_buckets(const SolvedSpot& spot, std::uint64_t node) {
+NodeHandBuckets query_hand_buckets(const SolvedSpot& spot, std::uint64_t node,
+                                   std::span<const NodeLockEntry> locks) {
   NodeHandBuckets result;
   const velmora::PlanNode* const decision = decision_at(spot, node);
   if (!decision) return result;
-  const std::vector<float> strategy = strategy_at(spot, node);
+  std::vector<float> strategy = strategy_at(spot, node);
   const std::vector<velmora::CardCode> board = velmora::node_board(*spot.game, *decision);
   if (strategy.empty() || board.size() < 3 || board.size() > 5) return result;
   const std::size_t num_actions = decision->actions.size();
   const std::vector<velmora::Pocket>& pockets = spot.game->cards().pockets(decision->seat);
+
+  apply_locks(locks, pockets, num_actions, strategy);
 
   std::array<Sums, velmora::kHandCategoryNames.size()> sums;
   for (Sums& sum : sums) sum.actions.resize(num_actions);

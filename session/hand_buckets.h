@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,9 @@ struct NodeHandBuckets {
   bool ok = false;
 };
 
-/// Not `ok` for a node that is no decision node of the spot.
-NodeHandBuckets query_hand_buckets(const SolvedSpot& spot, std::uint64_t node);
+/// Not `ok` for a node that is no decision node of the spot. The hands of the classes in `locks`
+/// play these instead of their strategy; the node of a lock is not looked at.
+NodeHandBuckets query_hand_buckets(const SolvedSpot& spot, std::uint64_t node,
+                                   std::span<const NodeLockEntry> locks = {});
 
 }  // namespace velmora_app

@@ -19,16 +19,16 @@ start_program() {
   mkdir -p "$home/config/Dunmarrow" "$home/cache" "$home/tmp"
   printf '[ui]\ndarkMode=%s\nlanguage=%s\n' "$([[ $mode == dark ]] && echo true || echo false)" \
     "${UI_LANGUAGE:-en}" >"$home/config/Dunmarrow/Dunmarrow.conf"
-  env XDG_CONFIG_HOME="$home/config" XDG_CACHE_HOME="$home/cache" TMPDIR="$home/tmp" \
+  env XDG_CONFIG_HOME="$home/config" XDG_CACHE_HOME="$home/cache" XDG_DATA_HOME="$home/data" TMPDIR="$home/tmp" \
     "$program" "${@:4}" &
   app=$!
   for _ in {1..300}; do
-    xdotool search --onlyvisible --name '^Dunmarrow$' >/dev/null 2>&1 && break
+    xdotool search --onlyvisible --name 'Dunmarrow' >/dev/null 2>&1 && break
     kill -0 "$app" 2>/dev/null || die "the program has ended"
     sleep 0.2
   done
   sleep 2
-  xdotool search --onlyvisible --name '^Dunmarrow$' windowfocus
+  xdotool search --onlyvisible --name 'Dunmarrow' windowfocus
 }
 
 stop_program() {

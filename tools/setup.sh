@@ -11,6 +11,7 @@ build_packages=(
   qt6-tools-dev
   qt6-tools-dev-tools
   qt6-l10n-tools
+  qt6-translations-l10n
   qt6-svg-dev
   libqt6svg6
   libgl1-mesa-dev

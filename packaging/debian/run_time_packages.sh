@@ -9,6 +9,7 @@ set -euo pipefail
 
 qml=$(qtpaths6 --query QT_INSTALL_QML)
 plugins=$(qtpaths6 --query QT_INSTALL_PLUGINS)
+translations=$(qtpaths6 --query QT_INSTALL_TRANSLATIONS)
 scanner=$(qtpaths6 --query QT_INSTALL_LIBEXECS)/qmlimportscanner
 
 {
@@ -17,8 +18,8 @@ scanner=$(qtpaths6 --query QT_INSTALL_LIBEXECS)/qmlimportscanner
     while read -r path; do
       if [[ $path == "$qml"/* ]]; then printf '%s\n' "$path/qmldir"; fi
     done
-  # The file dialog that Qt draws where the desktop has none of its own.
-  printf '%s\n' "$qml/Qt/labs/folderlistmodel/qmldir"
+  # The texts of Qt's own dialogs in the languages of the program.
+  printf '%s\n' "$translations/qtbase_de.qm"
   # Icons are SVG files; the window needs a platform.
   printf '%s\n' "$plugins/imageformats/libqsvg.so" "$plugins/platforms/libqxcb.so"
 } | xargs -d '\n' dpkg-query --search | cut -d: -f1 | sort -u |

@@ -119,6 +119,7 @@ Item {
                 ink: visible ? root._color(index) : "transparent"
                 share: root._shares[index] ?? 0
                 selected: index === root.selectedAction
+                maximumWidth: root.width
             }
         }
     }

@@ -9,6 +9,7 @@ T.ToolTip {
 
     property Theme theme: Fallback.theme
     property Typography type: Fallback.type
+    property color accentColor: theme.stroke
 
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: -height - 6
@@ -36,6 +37,6 @@ T.ToolTip {
         radius: root.theme.radiusXs + 2
         color: root.theme.surface3
         border.width: 1
-        border.color: root.theme.stroke
+        border.color: root.accentColor
     }
 }

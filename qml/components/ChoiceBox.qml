@@ -13,6 +13,14 @@ T.ComboBox {
     property Typography type: Fallback.type
     /// The name that assistive tools read.
     property string label: ""
+    /// The entry that is chosen. It stays so when the list changes, to another language for example;
+    /// below 0 the box follows its user alone.
+    property int choice: -1
+
+    function _showChoice() {
+        if (choice >= 0)
+            currentIndex = choice
+    }
 
     implicitWidth: 160
     implicitHeight: 32
@@ -23,6 +31,18 @@ T.ComboBox {
     font.pixelSize: type.bodySm
     Accessible.role: Accessible.ComboBox
     Accessible.name: label
+    onChoiceChanged: _showChoice()
+    onModelChanged: _showChoice()
+    onActivated: afterChoice.restart()
+    Component.onCompleted: _showChoice()
+
+    // The choice may stay as it was.
+    Timer {
+        id: afterChoice
+
+        interval: 0
+        onTriggered: root._showChoice()
+    }
 
     FocusRing {
         theme: root.theme

@@ -43,6 +43,8 @@ Item {
 
     signal handClicked(hand: string, currentWeight: real)
     signal handPainted(hand: string, desiredOn: bool, currentWeight: real)
+    /// A drag over the cells, or a keystroke that painted one, is over.
+    signal paintingEnded
     signal handHovered(hand: string, weight: real)
 
     /// The weight 0..1 of a hand.
@@ -72,10 +74,12 @@ Item {
     function _activate(index: int) {
         const hand = HandGrid.LABELS[index]
         const weight = weightOf(hand)
-        if (editable)
+        if (editable) {
             handPainted(hand, !(weight > 0), weight)
-        else if (selectable)
+            paintingEnded()
+        } else if (selectable) {
             handClicked(hand, weight)
+        }
     }
 
     implicitWidth: _step * 13 - cellSpacing
@@ -134,7 +138,7 @@ Item {
             hovered: root.hoveredIndex === index
             grounded: bases.ready && borders.ready
             labelShown: root.showLabels
-            labelPointSize: (root.cellSize > 28 ? 9 : 8) * 1.25
+            labelPointSize: (root.cellSize > 28 ? Math.max(9, Math.min(14, root.cellSize / 4)) : 8) * 1.25
         }
     }
 
@@ -172,8 +176,10 @@ Item {
             pressedIndex = root._indexAt(x, y)
             last = Qt.point(x, y)
             root._reportHovered(pressedIndex)
+            root.forceActiveFocus(Qt.MouseFocusReason)
             if (pressedIndex < 0)
                 return
+            root.forceActiveFocus(Qt.MouseFocusReason)
             root.currentIndex = pressedIndex
             desiredOn = !(root.weightOf(HandGrid.LABELS[pressedIndex]) > 0)
             if (root.editable)
@@ -202,8 +208,14 @@ Item {
             if (pressed && root.editable && pressedIndex >= 0)
                 drag(mouse.x, mouse.y)
         }
-        onReleased: pressedIndex = -1
-        onCanceled: pressedIndex = -1
+        function end() {
+            pressedIndex = -1
+            if (root.editable)
+                root.paintingEnded()
+        }
+
+        onReleased: end()
+        onCanceled: end()
         onClicked: mouse => {
             if (!root.editable && root._indexAt(mouse.x, mouse.y) === root.currentIndex)
                 root._activate(root.currentIndex)

@@ -12,6 +12,13 @@ T.TextField {
     /// The name that assistive tools read.
     property string label: ""
     property bool mono: false
+    /// What is wrong with the text, in one sentence, or "".
+    property string fault: ""
+    /// The project that the text is part of, if it is: undo and redo then go to all of it, and not to
+    /// the text of this field alone.
+    property ProjectState project: null
+    /// Which value of the project the field is for, as a solve configuration map calls it.
+    property string spotKey: ""
 
     implicitWidth: 160
     implicitHeight: 32
@@ -29,6 +36,35 @@ T.TextField {
     font.pixelSize: mono ? type.labelMd : type.bodySm
     Accessible.role: Accessible.EditableText
     Accessible.name: label
+    Accessible.description: fault
+    Keys.onPressed: event => {
+        const undoes = project !== null && event.matches(StandardKey.Undo)
+        const redoes = project !== null && event.matches(StandardKey.Redo)
+        if (undoes)
+            project.undo()
+        else if (redoes)
+            project.redo()
+        event.accepted = undoes || redoes
+    }
+
+    Connections {
+        function onFieldWanted(key: string) {
+            if (key === root.spotKey && root.enabled)
+                root.forceActiveFocus(Qt.OtherFocusReason)
+        }
+
+        target: root.project
+    }
+
+    AppToolTip {
+        theme: root.theme
+        type: root.type
+        delay: 0
+        closePolicy: T.Popup.NoAutoClose
+        accentColor: root.theme.danger
+        visible: root.fault !== "" && root.visible && (root.activeFocus || root.hovered)
+        text: root.fault
+    }
 
     Label {
         x: root.leftPadding
@@ -47,7 +83,8 @@ T.TextField {
         radius: root.theme.radiusSm
         color: root.enabled ? root.theme.surface2 : root.theme.surface3
         border.width: 1
-        border.color: root.enabled && (root.activeFocus || root.hovered)
+        border.color: root.fault !== "" ? root.theme.danger
+                      : root.enabled && (root.activeFocus || root.hovered)
                       ? root.theme.strokeFocus : root.theme.stroke
 
         Behavior on border.color {

@@ -2,7 +2,9 @@ import QtQuick
 import Velmora
 import "../logic/number_text.js" as NumberText
 
-/// A value field for a number in a range. With no decimals it takes whole numbers only.
+/// A value field for a number in a range, which hands over each keystroke that makes one. With no
+/// decimals it takes whole numbers only. A text that is no such number changes nothing; it stands with
+/// the reason until it is mended or taken back.
 ValueField {
     id: root
 
@@ -10,15 +12,50 @@ ValueField {
     property real low: 0
     property real high: 100
     property int decimals: 0
-    property real fallback: 0  ///< What a text that is no number means.
+    property real fallback: 0  ///< What an empty field means once it is left.
+    /// What is wrong with the text that stands here. The owner keeps what `checked` says.
+    property string inputFault: ""
+
+    readonly property string _rule: decimals > 0
+        ? qsTr("Enter a number from %1 to %2 with at most %3 decimals.").arg(low).arg(high).arg(decimals)
+        : qsTr("Enter a whole number from %1 to %2.").arg(low).arg(high)
 
     signal numberCommitted(real number)
+    signal checked(string sentence)
+
+    function _take(text: string) {
+        const typedNumber = NumberText.parsed(text, decimals)
+        const fits = typedNumber >= low && typedNumber <= high
+        if (fits)
+            numberCommitted(typedNumber)
+        checked(fits ? "" : _rule)
+    }
+
+    /// A number out of range is held to it and an empty field gets its fallback; anything else stays.
+    function _leave() {
+        if (text === value)
+            return
+        const typedNumber = text.trim() === "" ? fallback : NumberText.parsed(text, decimals)
+        if (isNaN(typedNumber))
+            return
+        numberCommitted(Math.max(low, Math.min(high, typedNumber)))
+        checked("")
+        showValue()
+    }
 
     value: NumberText.plain(number, decimals)
+    heldBack: inputFault !== ""
+    fault: inputFault
     horizontalAlignment: TextInput.AlignRight
     inputMethodHints: decimals > 0 ? Qt.ImhFormattedNumbersOnly : Qt.ImhDigitsOnly
-    validator: RegularExpressionValidator {
-        regularExpression: root.decimals > 0 ? new RegExp("\\d*(?:[.,]\\d{0," + root.decimals + "})?") : /\d*/
+    onTyped: text => _take(text)
+    onEditingFinished: _leave()
+    onEnabledChanged: {
+        if (!enabled)
+            checked("")
     }
-    onCommitted: text => numberCommitted(NumberText.clamped(text, low, high, fallback))
+    onInputFaultChanged: {
+        if (inputFault === "" && !_typing)
+            showValue()
+    }
 }

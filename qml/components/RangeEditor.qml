@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora
 import "../logic/hand_grid.js" as HandGrid
-import "../logic/range_text.js" as RangeText
 
 /// A range as a text and as a matrix to paint on. It asks for a new text with `rangeChanged`; the
 /// owner sets `rangeText`.
@@ -15,7 +14,7 @@ Item {
     property string rangeText
     property string label: qsTr("Range")
 
-    readonly property var weights: RangeText.parseRangeWeights(rangeText)
+    readonly property var weights: RangeText.weights(rangeText)
     readonly property int handCount: _hands().length
 
     signal rangeChanged(newRange: string)
@@ -118,6 +117,7 @@ Item {
             mono: true
             label: root.label
             placeholderText: qsTr("e.g., AA, KK, AKs, QQ+ or 50%")
+            fault: RangeText.fault(root.rangeText)
             onTextEdited: root.rangeChanged(text)
 
             Binding on text {

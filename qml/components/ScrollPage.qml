@@ -96,7 +96,14 @@ FocusScope {
     // gets the wheel as well, but for a sideways move.
     MouseArea {
         anchors.fill: parent
-        acceptedButtons: Qt.NoButton
+        acceptedButtons: Qt.LeftButton
+        // A click beside a text field ends typing in it, whatever else the click does.
+        onPressed: mouse => {
+            const item = root.Window.activeFocusItem as TextInput
+            if (item && root._isBelow(item) && !item.contains(mapToItem(item, mouse.x, mouse.y)))
+                forceActiveFocus(Qt.MouseFocusReason)
+            mouse.accepted = false
+        }
         onWheel: wheel => {
             const delta = (wheel.angleDelta.y !== 0 ? wheel.angleDelta.y : wheel.angleDelta.x) / 2
             const sideways = (wheel.modifiers & Qt.ShiftModifier) !== 0

@@ -16,23 +16,27 @@ Rectangle {
     property string trend: ""
     property color accentColor: theme.accent
     property bool compact: false
+    /// One line: the name at the left, the figure at the right.
+    property bool inline: false
 
-    implicitWidth: compact ? 120 : 160
-    implicitHeight: compact ? 64 : 80
-    radius: theme.radiusMd
+    implicitWidth: inline ? 180 : compact ? 120 : 160
+    implicitHeight: inline ? 20 : compact ? 64 : 80
+    radius: inline ? theme.radiusXs : theme.radiusMd
     color: theme.surface
     border.width: 1
     border.color: theme.stroke
     Accessible.role: Accessible.StaticText
     Accessible.name: (label + " " + value + " " + unit).trim()
 
-    ColumnLayout {
+    GridLayout {
         anchors.fill: parent
-        anchors.leftMargin: root.compact ? root.theme.spaceMd : root.theme.spaceLg
+        anchors.leftMargin: root.inline ? root.theme.spaceSm : root.compact ? root.theme.spaceMd : root.theme.spaceLg
         anchors.rightMargin: anchors.leftMargin
-        anchors.topMargin: root.compact ? 10 : 14
+        anchors.topMargin: root.inline ? 0 : root.compact ? 10 : 14
         anchors.bottomMargin: anchors.topMargin
-        spacing: 2
+        columns: root.inline ? 2 : 1
+        columnSpacing: root.theme.spaceSm
+        rowSpacing: 2
 
         RowLayout {
             Layout.fillWidth: true
@@ -58,7 +62,7 @@ Rectangle {
         }
 
         RowLayout {
-            Layout.fillWidth: true
+            Layout.fillWidth: !root.inline
             Layout.fillHeight: true
             spacing: root.theme.spaceXs
 
@@ -72,7 +76,7 @@ Rectangle {
                 elide: Text.ElideRight
                 fontSizeMode: Text.HorizontalFit
                 minimumPixelSize: root.type.labelMd
-                font.pixelSize: root.compact ? root.type.headingMd : root.type.displaySm
+                font.pixelSize: root.inline ? root.type.labelMd : root.compact ? root.type.headingMd : root.type.displaySm
                 font.weight: root.type.weightBold
             }
 
@@ -96,6 +100,7 @@ Rectangle {
 
             Item {
                 Layout.fillWidth: true
+                visible: !root.inline
             }
         }
     }

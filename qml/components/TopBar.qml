@@ -12,12 +12,19 @@ Rectangle {
     property Typography type: Fallback.type
     required property var controller
     required property bool canSolve
+    /// Why no solve can start, and which fields are still empty.
+    property string solveRefusal: ""
+    property list<string> missingFields
     required property bool projectEnabled
     required property int currentPage
     required property SolveFollower follower
 
     /// While the Solve page shows a running solve, it is the only page.
     readonly property bool _locked: controller.running && currentPage === Pages.solve
+
+    readonly property string _solveReason: missingFields.length === 0
+        ? solveRefusal || qsTr("Fill board, ranges, and sizings to enable Solve")
+        : solveRefusal + "\n" + qsTr("Still missing: %1").arg(Array.from(missingFields).join(", "))
 
     signal pageRequested(int page)
 
@@ -86,7 +93,7 @@ Rectangle {
             iconName: "bolt"
             current: root.currentPage === Pages.solve
             tabEnabled: root._locked || root.canSolve
-            disabledReason: qsTr("Fill board, ranges, and sizings to enable Solve")
+            disabledReason: root._solveReason
             onActivated: root.pageRequested(Pages.solve)
         }
 
@@ -96,8 +103,8 @@ Rectangle {
             text: qsTr("Results")
             iconName: "chart"
             current: root.currentPage === Pages.results
-            tabEnabled: !root._locked && root.controller.resultIterations > 0
-            disabledReason: root._locked ? "" : qsTr("Run a solve to enable Results")
+            tabEnabled: root.controller.resultIterations > 0
+            disabledReason: qsTr("Run a solve to enable Results")
             onActivated: root.pageRequested(Pages.results)
         }
 

@@ -42,6 +42,12 @@ Item {
     signal clicked()
     signal toggleExpand()
 
+    function _expand(event: var, wanted: bool) {
+        event.accepted = _expandable && expanded !== wanted
+        if (event.accepted)
+            toggleExpand()
+    }
+
     function _hasBareSize(): bool {
         return (actionType === "bet" || actionType === "raise") && action.includes("%")
     }
@@ -69,12 +75,15 @@ Item {
     activeFocusOnTab: true
     Accessible.role: Accessible.TreeItem
     Accessible.name: (action + " " + title.text).trim()
+    Accessible.description: Array.from([potLabel, frequencyLabel, evLabel]).filter(label => label.visible).map(label => label.text).join(", ")
     Accessible.selected: selected
     Accessible.focusable: true
     Accessible.onPressAction: clicked()
     Keys.onSpacePressed: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
+    Keys.onRightPressed: event => _expand(event, true)
+    Keys.onLeftPressed: event => _expand(event, false)
 
     Behavior on scale {
         NumberAnimation { duration: 100 }
@@ -136,12 +145,11 @@ Item {
             implicitHeight: 20
             visible: root._expandable
             hoverEnabled: true
-            focusPolicy: Qt.StrongFocus
+            // The keys of the tile do the same.
+            focusPolicy: Qt.NoFocus
             text: root.expanded ? "−" : "+"
             Accessible.role: Accessible.Button
-            Accessible.name: text
-            Keys.onReturnPressed: clicked()
-            Keys.onEnterPressed: clicked()
+            Accessible.name: (root.expanded ? qsTr("Collapse %1") : qsTr("Expand %1")).arg(root.action || title.text)
             onClicked: root.toggleExpand()
 
             background: Rectangle {
@@ -158,12 +166,6 @@ Item {
                 verticalAlignment: Text.AlignVCenter
                 font.pixelSize: root.type.bodySm
                 font.weight: root.type.weightBold
-            }
-
-            FocusRing {
-                theme: root.theme
-                radius: root.theme.radiusXs + 3
-                active: expander.visualFocus
             }
         }
 

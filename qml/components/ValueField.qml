@@ -1,31 +1,37 @@
 import QtQuick
 import Velmora
 
-/// An input field for a value that lives elsewhere: it shows `value` while nobody types in it, and
-/// hands over what was typed when editing finishes.
+/// An input field for a value that lives elsewhere: it hands over each keystroke, and shows `value`
+/// wherever that is not what was just typed.
 InputField {
     id: root
 
     property string value: ""
-    /// Whether something was typed since `value` changed; else there is nothing to hand over.
-    property bool _edited: false
+    /// Whether the text stays as it is though it is not `value`.
+    property bool heldBack: false
+    property bool _typing: false
 
-    signal committed(string text)
+    signal typed(string text)
 
-    onTextEdited: _edited = true
-    onValueChanged: _edited = false
-    onEditingFinished: {
-        if (_edited)
-            committed(text)
-        _edited = false
+    function showValue() {
         text = value
+    }
+
+    onTextEdited: {
+        _typing = true
+        typed(text)
+        _typing = false
+    }
+    onValueChanged: {
+        if (activeFocus && !_typing)
+            showValue()
     }
 
     Binding {
         target: root
         property: "text"
         value: root.value
-        when: !root.activeFocus
+        when: !root.activeFocus && !root.heldBack
         restoreMode: Binding.RestoreNone
     }
 }

@@ -12,3 +12,8 @@ function baseName(file, suffix) {
     const name = decodeURIComponent(String(file)).split("/").pop()
     return name.toLowerCase().endsWith(suffix) ? name.slice(0, -suffix.length) : name
 }
+
+/// The URL of a file name in a folder, given as a URL.
+function inFolder(folder, name) {
+    return String(folder).replace(/\/*$/, "/") + encodeURIComponent(name)
+}

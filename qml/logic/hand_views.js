@@ -77,6 +77,20 @@ function dominantAction(probabilities) {
     return list.reduce((best, value, index) => best < 0 || value > list[best] ? index : best, -1)
 }
 
+/// The combos with the locks of the node in force, as `withLocks` puts them into the grid. A combo that
+/// a lock changes has `preview` true.
+function combosWithLocks(combos, locks) {
+    if (Object.keys(locks).length === 0)
+        return combos
+    return _list(combos).map(combo => {
+        const hand = handClassFromCards(combo.c1, combo.c2)
+        if (locks[hand] === undefined)
+            return combo
+        const probabilities = withLocks({ [hand]: combo.actionProbs }, locks, combo.actionProbs.length)
+        return Object.assign({}, combo, { actionProbs: probabilities[hand], preview: true })
+    })
+}
+
 /// Actions with the probabilities of one hand as their frequencies, over the shorter list.
 function actionsForProbs(actions, probabilities) {
     const count = Math.min(actions ? actions.length : 0, probabilities ? probabilities.length : 0)
@@ -166,6 +180,11 @@ function stackRemaining(meta) {
 function toCallAmount(meta) {
     const invested = meta.player === "OOP" ? meta.investedOop : meta.player === "IP" ? meta.investedIp : undefined
     return invested === undefined ? 0 : Math.max(0, Math.max(meta.investedOop, meta.investedIp) - invested)
+}
+
+/// Whether a text is a probability 0..1.
+function isLockWeight(text) {
+    return /^\s*(?:0(?:[.,]\d*)?|1(?:[.,]0*)?|[.,]\d+)\s*$/.test(String(text))
 }
 
 /// A probability 0..1 of a text; 1 for a text that is no number.

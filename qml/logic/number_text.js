@@ -5,10 +5,10 @@ function plain(value, decimals) {
     return String(Number(Number(value).toFixed(decimals)))
 }
 
-/// The number of a text held to low..high, or `fallback` for a text that is none. A decimal comma
-/// counts as a point.
-function clamped(text, low, high, fallback) {
-    const trimmed = String(text).trim().replace(",", ".")
-    const value = trimmed === "" ? NaN : Number(trimmed)
-    return isFinite(value) ? Math.max(low, Math.min(high, value)) : fallback
+/// The number of a text that is written in plain digits, in at most `decimals` decimals; NaN for any
+/// other text. A decimal comma counts as a point.
+function parsed(text, decimals) {
+    const trimmed = String(text).trim()
+    const form = decimals > 0 ? new RegExp("^(\\d+([.,]\\d{0," + decimals + "})?|[.,]\\d{1," + decimals + "})$") : /^\d+$/
+    return form.test(trimmed) ? Number(trimmed.replace(",", ".")) : NaN
 }

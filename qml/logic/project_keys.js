@@ -14,6 +14,12 @@ function propertyName(seat, street, suffix) {
     return seat + capitalised(street) + suffix
 }
 
+/// What a property of a seat's street is called in a solve configuration map: configKey("oop", "flop",
+/// "BetSizesText") is "oop_flop_bet_sizes".
+function configKey(seat, street, suffix) {
+    return seat + "_" + street + suffix.replace("Text", "").replace(/[A-Z]/g, letter => "_" + letter.toLowerCase())
+}
+
 /// The twelve size texts, in the order in which the controller tests them.
 const sizeTexts = []
 for (const seat of seats) {
@@ -30,6 +36,8 @@ for (const street of streets) {
                   propertyName("oop", street, "DontDonk"))
 }
 const all = texts.concat(integers, reals, switches)
+/// What undo brings back.
+const undoable = all.filter(key => key !== "threadCount")
 
 /// What a stored value of whatever type means for a key; 0, false or "" for one that means nothing.
 function coerced(key, value) {

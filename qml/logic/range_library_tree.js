@@ -166,9 +166,8 @@ function withValue(tree, id, value) {
         : !isFolder(node) ? node : Object.assign({}, node, { children: withValue(node.children, id, value) }))
 }
 
-/// What becomes of a list when a node goes with all it holds: the tree, the open folders, the
-/// selection, which moves to what now stands in the node's place, and the range text that follows
-/// from it; undefined if the text stays.
+/// What becomes of a list when a node goes with all it holds: the tree, the open folders, and the
+/// selection, which moves to what now stands in the node's place.
 function deleteNode(tree, openFolderIds, id) {
     const rowsOf = (nodes, open) => flattenTree(nodes, open, name => name)
     const position = Math.max(0, rowsOf(tree, openFolderIds).findIndex(row => row.id === id))
@@ -183,7 +182,6 @@ function deleteNode(tree, openFolderIds, id) {
     return {
         tree: left,
         openFolderIds: open,
-        selectedId: next?.id ?? "",
-        rangeText: !next ? "" : next.kind === "range" ? next.value : undefined
+        selectedId: next?.id ?? ""
     }
 }

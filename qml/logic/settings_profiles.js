@@ -25,7 +25,8 @@ function snapshot(state) {
     return data
 }
 
-/// The project values that a profile's data sets, as a part of a project's map. `pot` is what an
+/// The project values that a profile's data sets, as a part of a project's map: sizes and switches in
+/// any case, empty or off where the data has none. `pot` is what an
 /// older profile's target, an amount in chips, is measured against if the data has no pot.
 function projectValues(data, pot) {
     const values = {}
@@ -50,16 +51,15 @@ function projectValues(data, pot) {
     for (const seat of Keys.seats) {
         for (const street of Keys.streets) {
             const prefix = seat + "_" + street
-            values[Keys.propertyName(seat, street, "BetSizesText")] = data[prefix + "_bet_sizes"]
-            values[Keys.propertyName(seat, street, "RaiseSizesText")] = data[prefix + "_raise_sizes"]
-            values[Keys.propertyName(seat, street, "AddAllIn")] = data[prefix + "_add_all_in"]
+            values[Keys.propertyName(seat, street, "BetSizesText")] = data[prefix + "_bet_sizes"] ?? ""
+            values[Keys.propertyName(seat, street, "RaiseSizesText")] = data[prefix + "_raise_sizes"] ?? ""
+            values[Keys.propertyName(seat, street, "AddAllIn")] = data[prefix + "_add_all_in"] ?? false
             if (seat === "oop")
-                values[Keys.propertyName(seat, street, "DontDonk")] = data[prefix + "_dont_donk"]
+                values[Keys.propertyName(seat, street, "DontDonk")] = data[prefix + "_dont_donk"] ?? false
         }
         // Older profiles have one threshold for both seats.
         const shared = "add_all_in_jam_threshold_"
-        values[seat + "AddAllInIfJamLtEnabled"] = data[shared + "enabled"] !== undefined
-            ? data[shared + "enabled"] : data[seat + "_" + shared + "enabled"]
+        values[seat + "AddAllInIfJamLtEnabled"] = data[shared + "enabled"] ?? data[seat + "_" + shared + "enabled"] ?? false
         const percent = data[shared + "pct"] !== undefined
             ? data[shared + "pct"] : data[seat + "_" + shared + "pct"]
         if (percent !== undefined)

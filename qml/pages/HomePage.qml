@@ -7,14 +7,15 @@ ScrollPage {
     id: root
 
     required property var controller
-    property var projectStateProvider
+    required property bool filesBusy
     property var solveActivityGrid: []
     property var playVsSolutionStats: ({})
 
     signal newProject
     signal quickSolve
     signal importRange
-    signal projectLoaded(var projectState, bool hasResults)
+    signal saveRequested
+    signal openRequested
 
     function reloadSolveActivity() {
         solveActivityGrid = controller.solveActivityGridLastYear()
@@ -49,27 +50,16 @@ ScrollPage {
         target: root.controller
     }
 
-    ProjectFiles {
-        id: files
-
-        visible: false
-        theme: root.theme
-        type: root.type
-        controller: root.controller
-        onStateWanted: file => save(file, root.projectStateProvider())
-        onProjectLoaded: (projectState, hasResults) => root.projectLoaded(projectState, hasResults)
-    }
-
     HeroBand {
         Layout.fillWidth: true
         Layout.preferredHeight: 180
         theme: root.theme
         type: root.type
-        busy: files.busy
+        busy: root.filesBusy
         progress: root.controller.fileProgress
         onNewProject: root.newProject()
-        onSaveRequested: files.chooseFileToSave()
-        onOpenRequested: files.chooseFileToOpen()
+        onSaveRequested: root.saveRequested()
+        onOpenRequested: root.openRequested()
     }
 
     GridLayout {

@@ -10,6 +10,8 @@ ScrollPage {
     required property var controller
     required property ProjectState project
     required property bool canSolve
+    /// The memory figure is of the spot as it was before the latest edit.
+    property bool estimatePending: false
     /// What the rows need to stand side by side. 1540 before they are laid out.
     readonly property int recommendedWindowWidth: boardColumn.implicitWidth > 0
         ? Math.ceil(Math.max(_settingsRowWidth, _rangesRowWidth)) : 1540
@@ -20,11 +22,22 @@ ScrollPage {
         + theme.spaceLg
 
     signal goToSolve
+    /// The way on was asked for while there is none.
+    signal refused
 
     /// Asks for a text file and adds its hands to the user's own ranges. `focusPlayer` is the seat that
     /// wants them, "oop" or "ip".
     function openImportRangeDialog(focusPlayer: string) {
         importer.start(focusPlayer)
+    }
+
+    /// Leads to the field that the spot is refused for.
+    function showRefusedField() {
+        const field = project.faults.field
+        if (field === "board")
+            reveal(boardCard)
+        else
+            project.fieldWanted(field === "spot" ? "oop_range" : field)
     }
 
     minimumContentWidth: recommendedWindowWidth
@@ -44,9 +57,11 @@ ScrollPage {
         theme: root.theme
         type: root.type
         controller: root.controller
-        boardReady: BoardText.validBoard(root.project.boardText)
+        project: root.project
         canSolve: root.canSolve
+        estimatePending: root.estimatePending
         onGoToSolve: root.goToSolve()
+        onRefused: root.refused()
     }
 
     RowLayout {
@@ -60,12 +75,15 @@ ScrollPage {
             spacing: root.theme.spaceLg
 
             BoardCard {
+                id: boardCard
+
                 Layout.fillWidth: true
                 Layout.fillHeight: true
                 theme: root.theme
                 type: root.type
                 boardText: root.project.boardText
-                onBoardEdited: text => root.project.boardText = text
+                fault: root.project.faultAt("board")
+                onBoardEdited: text => root.project.edit("", "boardText", text)
             }
 
             SettingsProfilesCard {
@@ -109,6 +127,10 @@ ScrollPage {
     }
 
     RowLayout {
+        id: ranges
+
+        readonly property real heightLimit: root.height - 2 * root.margins - y
+
         Layout.fillWidth: true
         spacing: root.theme.spaceLg
 
@@ -124,6 +146,7 @@ ScrollPage {
             libraries: libraries
             developerMode: root.controller.developerMode
             seat: "oop"
+            heightLimit: ranges.heightLimit
             onImportRequested: root.openImportRangeDialog("oop")
         }
 
@@ -139,6 +162,7 @@ ScrollPage {
             libraries: libraries
             developerMode: root.controller.developerMode
             seat: "ip"
+            heightLimit: ranges.heightLimit
             onImportRequested: root.openImportRangeDialog("ip")
         }
     }

@@ -11,17 +11,25 @@ FocusScope {
     property Theme theme: Fallback.theme
     property Typography type: Fallback.type
     required property var controller
-    required property string boardText
-    required property real rakePercent
-    required property int rakeCap
+    required property SolveFollower follower
+    /// Whether Setup shows another spot than that of the result.
+    required property bool setupDiffers
+    // Of the spot that was solved, whatever Setup shows by now.
+    readonly property string boardText: controller.resultBoard
+    readonly property real rakePercent: controller.resultRakePercent
+    readonly property real rakeCap: controller.resultRakeCap
 
     readonly property alias walk: walk_
     readonly property alias view: view_
     readonly property alias locks: locks_
     readonly property alias play: play_
 
+    signal solveAgainRequested
+    signal setupWanted
+
     function _showNewResults() {
         play_.playMode = false
+        view_.forget()
         walk_.resetTreeToRoot()
         view_.look()
     }
@@ -54,7 +62,7 @@ FocusScope {
         id: locks_
 
         controller: root.controller
-        onChanged: view_.refreshHandMatrix()
+        onChanged: view_.refreshLocks()
     }
 
     NodeView {
@@ -91,25 +99,45 @@ FocusScope {
         log: playLog_
     }
 
+    ResultNotices {
+        id: notices
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: root.theme.spaceLg
+        theme: root.theme
+        type: root.type
+        controller: root.controller
+        follower: root.follower
+        setupDiffers: root.setupDiffers
+        nodeError: view_.nodeError
+        onSolveAgainRequested: root.solveAgainRequested()
+        onSetupWanted: root.setupWanted()
+    }
+
     SplitView {
         anchors.fill: parent
         anchors.margins: root.theme.spaceLg
+        anchors.topMargin: root.theme.spaceLg + (notices.visible ? notices.height + root.theme.spaceSm : 0)
 
         handle: SplitHandle {
             theme: root.theme
         }
 
         GameTreePanel {
-            SplitView.preferredWidth: 320
-            SplitView.minimumWidth: 280
+            SplitView.preferredWidth: Math.max(SplitView.minimumWidth, Math.min(320, 0.24 * root.width))
+            SplitView.minimumWidth: 240
             theme: root.theme
             type: root.type
             walk: walk_
+            // A decision that is asked about keeps what the solution does there to itself.
+            frequenciesShown: !play_.playMode || play_.playHandComplete
         }
 
         StrategyPanel {
             SplitView.fillWidth: true
-            SplitView.minimumWidth: 500
+            SplitView.minimumWidth: minimumWidth
             theme: root.theme
             type: root.type
             controller: root.controller

@@ -12,21 +12,12 @@ ScrollPage {
     required property SolveFollower follower
 
     signal goToResults
-
-    function startSolve() {
-        history.append(project)
-        controller.startSolveWithConfig(project.solveConfig())
-    }
-
-    function cancelSolve() {
-        history.markCancelled()
-        controller.cancelSolve()
-    }
+    signal solveRequested
 
     RunHistory {
         id: history
 
-        running: root.follower.running
+        controller: root.controller
     }
 
     SolveClock {
@@ -34,7 +25,7 @@ ScrollPage {
 
         running: root.follower.running
         currentIteration: root.follower.currentIteration
-        maxIterations: root.project.maxIterations
+        maxIterations: root.follower.maxIterations
     }
 
     SectionHeader {
@@ -66,8 +57,8 @@ ScrollPage {
                 running: root.follower.running
                 canSolve: root.canSolve
                 runComplete: root.follower.runComplete
-                onStartRequested: root.startSolve()
-                onCancelRequested: root.cancelSolve()
+                onStartRequested: root.solveRequested()
+                onCancelRequested: root.controller.cancelSolve()
                 onResultsRequested: root.goToResults()
             }
 

@@ -1,9 +1,14 @@
 #include "app_controller.h"
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include <QDesktopServices>
 #include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
 #include <QUrl>
 
 #include <gtest/gtest.h>
@@ -70,9 +75,16 @@ TEST_F(AppControllerTest, RefusesWhatCannotBeSolvedAndKeepsTheResult) {
       {with(with(good, "board", "As"), "oop_range", ""), board},  // The board is looked at first,
       {with(good, "oop_range", ""), range},
       {with(good, "oop_range", " \t"), range},
-      {with(good, "ip_range", "A"), range},
-      {with(good, "ip_range", "A,K"), range},
-      {with(with(good, "ip_range", "50%"), "ip_turn_bet_sizes", ""), range},  // then the ranges,
+      {with(good, "ip_range", "AA:0"), range},
+      {with(with(good, "ip_range", ","), "ip_turn_bet_sizes", ""), range},  // then the ranges,
+      {with(with(good, "ip_range", "50%"), "ip_turn_bet_sizes", ""), sizing},
+      // A fault in a text is told by the parser, before anything that is only missing.
+      {with(good, "board", "AhAhAh"), "Board: Flop cards must be unique"},
+      {with(good, "board", "AsKdXx2c9s"), "Board: 'Xx': Invalid rank character"},
+      {with(good, "ip_range", "AA,KKs"), "IP Range: 'KKs': Pair cannot have suitedness suffix"},
+      {with(with(good, "board", ""), "oop_turn_raise_sizes", "33 75"),
+       "OOP Turn Raise sizes (%): Sizing: separate sizes by commas, as in '33, 75', not '33 75'"},
+      {with(good, "starting_pot", 0), "Starting Pot: The starting pot must be 1 chip or more"},
       {with(good, "oop_flop_bet_sizes", ""), sizing},
       {with(good, "ip_river_raise_sizes", "  "), sizing},
       {with(good, "ip_turn_raise_sizes", QVariant()), sizing},
@@ -130,8 +142,7 @@ TEST_F(AppControllerTest, SolvesASpotAndShowsItsResult) {
     }
   }
 
-  // Once for the result that was dropped, once for the one that came.
-  EXPECT_EQ(results.count(), 2);
+  EXPECT_EQ(results.count(), 1);
   const QStringList log = log_.messages();
   EXPECT_TRUE(log.contains(
       "UI startSolveWithConfig: board=KsQd7h2c3s oop_range.len=2 ip_range.len=9 pot=100 stack=200 "
@@ -151,12 +162,18 @@ TEST_F(AppControllerTest, SolvesASpotAndShowsItsResult) {
   EXPECT_EQ(controller.resultsSummary(), "");
   EXPECT_EQ(controller.resultIterations(), 0);
   EXPECT_EQ(controller.treeNodeCount(), 0);
-  EXPECT_EQ(results.count(), 3);
+  EXPECT_EQ(results.count(), 2);
 }
 
 TEST_F(AppControllerTest, AFailedSolveTellsWhy) {
   AppController controller;
-  solve(controller, with(riverSpot(), "oop_range", "AKx"));
+  QVariantMap spot = riverSpot();
+  // Every field is right by itself, but no tree can be as deep as this one.
+  spot["effective_stack"] = 100000;
+  for (const QString seat : {"oop", "ip"}) {
+    spot[seat + "_river_bet_sizes"] = spot[seat + "_river_raise_sizes"] = "1c";
+  }
+  solve(controller, spot);
   ASSERT_TRUE(controller.statusText().startsWith("Error: "));
   EXPECT_GT(controller.statusText().size(), 7);
   EXPECT_EQ(controller.resultsSummary(), "Solve failed: " + controller.statusText().mid(7));
@@ -186,7 +203,6 @@ TEST_F(AppControllerTest, ANewSolveMayStartAsSoonAsOneHasEnded) {
       controller.startSolveWithConfig(
           with(riverSpot(), "board", boards[ended.size() % boards.size()]));
       EXPECT_TRUE(controller.running()) << controller.statusText().toStdString();
-      EXPECT_EQ(controller.statusText(), "Starting...");
     }
   });
   controller.startSolveWithConfig(with(riverSpot(), "board", boards[0]));
@@ -194,18 +210,146 @@ TEST_F(AppControllerTest, ANewSolveMayStartAsSoonAsOneHasEnded) {
   for (qsizetype i = 0; i < ended.size(); ++i) EXPECT_EQ(ended[i], boards[i % boards.size()]);
 }
 
-TEST_F(AppControllerTest, ClearingDuringARunLeavesNoRunForEver) {
+TEST_F(AppControllerTest, AnAbandonedRunNeverOverwritesWhatCameAfterIt) {
+  QTemporaryDir dir;
+  const QUrl file = QUrl::fromLocalFile(dir.filePath("saved"));
+  AppController saver;
+  solve(saver, with(riverSpot(), "board", "KsQd7h2c4s"));
+  ASSERT_TRUE(saver.saveProject(file, {}));
+
+  const struct {
+    const char* name;
+    std::function<void(AppController&)> overtake;
+    QString board;  // Of the result afterwards.
+  } cases[] = {
+      {"clear", [](AppController& c) { c.clearResults(); }, ""},
+      {"load", [&](AppController& c) { c.loadProject(file); }, "KsQd7h2c4s"},
+      {"load aside",
+       [&](AppController& c) {
+         c.loadProjectInBackground(file);
+         ASSERT_TRUE(waitUntil([&] { return c.fileProgress() < 0; }));
+       },
+       "KsQd7h2c4s"},
+      {"profile", [](AppController& c) { c.abandonRun(); }, "KsQd7h2c3s"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    AppController controller;
+    solve(controller, riverSpot());
+    QVariantMap next = with(endlessSpot(), "board", "KsQd7h2c5s");
+    controller.requestSolveMemoryEstimate(next);  // So that it starts at once.
+    ASSERT_TRUE(waitUntil([&] { return !controller.estimatePending(); }));
+    for (const bool finishes : {false, true}) {
+      if (finishes) next["max_iterations"] = 1;
+      controller.startSolveWithConfig(next);
+      QThread::msleep(50);  // A run that ends by itself has its result waiting then.
+      c.overtake(controller);
+      EXPECT_FALSE(controller.running());
+      // The next run waits for the old one to stop, and is the one that counts.
+      controller.startSolveWithConfig(with(endlessSpot(), "board", "KsQd7h2c6s"));
+      EXPECT_TRUE(controller.running());
+      QTest::qWait(30);
+      controller.cancelSolve();
+      ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
+      EXPECT_EQ(controller.resultBoard().toStdString(), c.board.toStdString());
+      EXPECT_EQ(controller.treeNodeCount() > 0, !c.board.isEmpty());
+    }
+    solve(controller, with(riverSpot(), "board", "KsQd7h2c7s"));
+    EXPECT_EQ(controller.resultBoard(), "KsQd7h2c7s");
+  }
+}
+
+TEST_F(AppControllerTest, TheLatestOfLoadsAndStartsCounts) {
+  QTemporaryDir dir;
+  const auto file = [&](const char* name) { return QUrl::fromLocalFile(dir.filePath(name)); };
   AppController controller;
+  for (const char* board : {"KsQd7h2c4s", "KsQd7h2c5s"}) {
+    solve(controller, with(riverSpot(), "board", board));
+    ASSERT_TRUE(controller.saveProject(file(board), {}));
+  }
+  const QSignalSpy loaded(&controller, &AppController::projectLoaded);
+  controller.loadProjectInBackground(file("KsQd7h2c5s"));
+  controller.loadProjectInBackground(file("KsQd7h2c4s"));
+  ASSERT_TRUE(waitUntil([&] { return controller.fileProgress() < 0; }));
+  EXPECT_EQ(loaded.count(), 1);
+  EXPECT_EQ(controller.resultBoard(), "KsQd7h2c4s");
+
+  controller.loadProjectInBackground(file("KsQd7h2c5s"));
+  solve(controller, riverSpot());
+  EXPECT_EQ(loaded.count(), 1);
+  EXPECT_EQ(controller.resultBoard(), "KsQd7h2c3s");
+  EXPECT_LT(controller.fileProgress(), 0);
+}
+
+TEST_F(AppControllerTest, ARunThatFailsCostsNothingAndSaysHowItEnded) {
+  AppController controller;
+  const QSignalSpy results(&controller, &AppController::resultsChanged);
+  const QSignalSpy started(&controller, &AppController::runStarted);
+  const QSignalSpy ended(&controller, &AppController::runEnded);
+  solve(controller, riverSpot());
+  const QVariantList before = controller.nodeHandCombos(0);
+  const QVariantMap other = with(riverSpot(), "starting_pot", 50);
+
   startEndless(controller);
-  controller.clearResults();
-  EXPECT_FALSE(controller.running());
-  controller.startSolveWithConfig(with(riverSpot(), "max_iterations", 3));
-  EXPECT_TRUE(controller.running());
-  // The old run may still have been busy or already gone; only its own end may answer for it.
-  const bool refused = controller.statusText() == "Already running";
+  EXPECT_TRUE(controller.isResultSpot(riverSpot()));
+  EXPECT_EQ(controller.resultIterations(), 60);
+  controller.cancelSolve();
   ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
-  EXPECT_EQ(controller.statusText(), refused ? "Cancelled" : "Done");
-  EXPECT_EQ(controller.resultIterations(), refused ? 0 : 3);
+  solve(controller, with(other, "oop_range", "AKx"));
+  controller.startSolveWithConfig(with(other, "board", ""));
+
+  EXPECT_EQ(results.count(), 1);
+  EXPECT_EQ(controller.resultStartingPot(), 100);
+  EXPECT_TRUE(controller.resultHasTables());
+  EXPECT_EQ(controller.nodeHandCombos(0), before);
+  EXPECT_FALSE(controller.nodeHandCombos(1).isEmpty());  // Not asked before.
+  EXPECT_FALSE(controller.isResultSpot(other));
+  EXPECT_FALSE(controller.isResultSpot(with(riverSpot(), "rake_cap", 5)));
+  EXPECT_TRUE(controller.isResultSpot(with(riverSpot(), "thread_count", 7)));
+
+  QStringList outcomes;
+  for (const QVariantList& end : ended) {
+    outcomes << end.at(0).toString() + (end.at(1).toString().isEmpty() ? "" : ": why");
+  }
+  EXPECT_EQ(outcomes, QStringList({"Completed", "Cancelled", "Failed: why", "Refused: why"}));
+  EXPECT_EQ(started.count(), ended.count());
+  EXPECT_EQ(ended.first().at(2).toInt(), 60);
+}
+
+TEST_F(AppControllerTest, AFileHoldsTheSpotOfItsResultAndNotTheOneUnderEdit) {
+  QTemporaryDir dir;
+  const QUrl file = QUrl::fromLocalFile(dir.filePath("saved"));
+  AppController controller;
+  solve(controller, with(with(riverSpot(), "rake_percent", 5.0), "rake_cap", 30));
+  controller.setNodeLock(0, "AA", 1, 0.5);
+  controller.reSolveWithNodeLocks();
+  ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
+  controller.setNodeLock(1, "KK", 0, 0.25);
+  EXPECT_TRUE(controller.nodeLocksPending(1));
+  EXPECT_TRUE(controller.resultUnsaved());
+  // A start that is refused, and one that still runs while it is saved.
+  controller.startSolveWithConfig(with(riverSpot(), "board", "AsAd"));
+  startEndless(controller);
+  controller.saveProjectInBackground(file, {{"boardText", "2c2d2h"}});
+  ASSERT_TRUE(waitUntil([&] { return controller.fileProgress() < 0; }));
+  EXPECT_FALSE(controller.resultUnsaved());
+
+  AppController loaded;
+  const QVariantMap answer = loaded.loadProject(file);
+  EXPECT_EQ(answer.value("project").toMap().value("boardText"), "2c2d2h");
+  EXPECT_EQ(loaded.resultBoard(), "KsQd7h2c3s");
+  EXPECT_EQ(loaded.resultRakePercent(), 5);
+  EXPECT_EQ(loaded.resultRakeCap(), 30);
+  EXPECT_EQ(loaded.resultProjectState().value("oopRangeText"), riverSpot().value("oop_range"));
+  EXPECT_EQ(loaded.nodeLocks(0), controller.nodeLocks(0));
+  EXPECT_FALSE(loaded.nodeLocksPending(0));
+  EXPECT_TRUE(loaded.nodeLocksPending(1));
+  EXPECT_EQ(loaded.resultsReclaimableMemoryBytes(), 0U);
+  EXPECT_FALSE(loaded.resultHasTables());
+  // The trainer can deal although nobody had looked at anything.
+  for (const char* seat : {"OOP", "IP"}) {
+    EXPECT_FALSE(loaded.nodeSeatHandCombos(0, seat).isEmpty()) << seat;
+  }
 }
 
 TEST_F(AppControllerTest, EndingDuringARunIsSafe) {
@@ -252,31 +396,86 @@ TEST_F(AppControllerTest, LocksApplyToAReSolveOnly) {
   EXPECT_EQ(controller.statusText(), "No previous solve config (solve once first)");
 }
 
-TEST_F(AppControllerTest, ASolveThatDoesNotFitIsRefusedOnceTheResultIsGone) {
+TEST_F(AppControllerTest, LocksBelongToTheTreeTheyWereSetOn) {
+  AppController controller;
+  controller.setNodeLock(0, "AA", 0, 1);
+  EXPECT_EQ(controller.lockCount(), 0) << "a lock without a tree";
+  solve(controller, riverSpot());
+  int terminal = 0;
+  while (controller.nodeMeta(terminal).value("nodeType") != "terminal") ++terminal;
+  for (const auto& [node, action] : {std::pair{0, -1}, {0, 2}, {terminal, 0}, {100000, 0}}) {
+    controller.setNodeLock(node, "AA", action, 1);
+    EXPECT_EQ(controller.lockCount(), 0) << node << ' ' << action;
+  }
+  controller.setNodeLock(0, "AA", 1, 1);
+  EXPECT_TRUE(controller.locksFit(with(riverSpot(), "max_iterations", 7)));
+  for (const auto& [key, value] : {std::pair<const char*, QVariant>{"board", "KsQd7h2c4s"},
+                                   {"oop_river_bet_sizes", "75"},
+                                   {"ip_range", "KK"},
+                                   {"effective_stack", 90}}) {
+    EXPECT_FALSE(controller.locksFit(with(riverSpot(), key, value))) << key;
+  }
+  // A category of hands plays the locks of its node before they are solved.
+  const auto aces = [&] {
+    for (const QVariant& bucket : controller.nodeHandBuckets(0)) {
+      if (bucket.toMap().value("name") == "overpair") {
+        return bucket.toMap().value("actionProbs").toList().at(1).toDouble();
+      }
+    }
+    return -1.0;
+  };
+  EXPECT_EQ(aces(), 1);
+  solve(controller, with(riverSpot(), "max_iterations", 7));
+  EXPECT_EQ(controller.lockCount(), 1);
+  EXPECT_TRUE(controller.locksPending());
+  solve(controller, with(riverSpot(), "oop_river_bet_sizes", "75"));
+  EXPECT_EQ(controller.lockCount(), 0);
+  EXPECT_FALSE(controller.locksPending());
+}
+
+TEST_F(AppControllerTest, ASolveThatNeedsTheMemoryOfTheResultAsksFirst) {
   constexpr quint64 kMegabyte = 1ULL << 20;
   quint64 available = 5 * kMegabyte;
   AppController controller({[] { return 100 * kMegabyte; }, [&] { return available; },
                             [](const auto&) { return 4 * kMegabyte; }});
-  solve(controller, riverSpot());  // Without an estimate nothing is in the way.
-  EXPECT_EQ(controller.resultsReclaimableMemoryBytes(), 0U);
-
+  const QSignalSpy wanted(&controller, &AppController::memoryWanted);
   controller.requestSolveMemoryEstimate(riverSpot());
-  ASSERT_TRUE(waitUntil([&] { return controller.solveRequiredMemoryBytes() != 0; }));
+  ASSERT_TRUE(waitUntil([&] { return !controller.estimatePending(); }));
   solve(controller, riverSpot());
   EXPECT_EQ(controller.resultsReclaimableMemoryBytes(), 4 * kMegabyte);
   EXPECT_EQ(controller.effectiveAvailableMemoryBytes(), 9 * kMegabyte);
+  solve(controller, riverSpot());  // Both fit.
+  EXPECT_EQ(wanted.count(), 0);
 
-  available = 4 * kMegabyte;  // Read again at the start; as much as required is not enough.
-  controller.startSolveWithConfig(riverSpot());
-  EXPECT_EQ(controller.statusText(), "Not enough RAM to solve (after clearing previous results)");
-  EXPECT_FALSE(controller.running());
-  EXPECT_EQ(controller.resultIterations(), 0);
-  EXPECT_EQ(controller.treeNodeCount(), 0);
+  // As much as required is not enough. Another spot is estimated first.
+  available = 4 * kMegabyte;
+  const QVariantMap other = with(riverSpot(), "starting_pot", 50);
+  controller.nodeHandCombos(0);
+  controller.startSolveWithConfig(other);
+  ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
+  ASSERT_EQ(wanted.count(), 1);
+  EXPECT_EQ(wanted.first().at(1), "4 MB");
+  EXPECT_TRUE(controller.resultHasTables());
+  EXPECT_EQ(controller.resultStartingPot(), 100);
+
+  // In its memory: what was answered stays, also after a cancel.
+  controller.startSolveInFreedMemory(with(endlessSpot(), "starting_pot", 50));
+  EXPECT_TRUE(controller.running());
+  EXPECT_FALSE(controller.resultHasTables());
   EXPECT_EQ(controller.resultsReclaimableMemoryBytes(), 0U);
+  controller.cancelSolve();
+  ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
+  EXPECT_EQ(controller.resultIterations(), 60);
+  EXPECT_FALSE(controller.nodeHandCombos(0).isEmpty());
+
+  controller.startSolveWithConfig(other);
+  EXPECT_EQ(controller.statusText(), "Not enough RAM to solve: 4 MB needed, 4 MB available");
+  EXPECT_FALSE(controller.running());
+  EXPECT_EQ(controller.resultIterations(), 60);
 
   available = 0;  // Unknown.
-  solve(controller, riverSpot());
-  EXPECT_EQ(controller.resultIterations(), 60);
+  solve(controller, other);
+  EXPECT_EQ(controller.resultStartingPot(), 50);
 }
 
 TEST_F(AppControllerTest, EstimatesTheSpotOnScreen) {

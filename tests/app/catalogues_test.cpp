@@ -53,7 +53,8 @@ QStringList placeholders(const QString& text) {
 }
 
 QString blanksAround(const QString& text) {
-  static const QRegularExpression kInner("\\S(.*\\S)?", QRegularExpression::DotMatchesEverythingOption);
+  static const QRegularExpression kInner("\\S(.*\\S)?",
+                                         QRegularExpression::DotMatchesEverythingOption);
   return QString(text).replace(kInner, "|");
 }
 

@@ -17,6 +17,11 @@ QString shownText() {
   return QCoreApplication::translate("SettingsPage", kEnglish);
 }
 
+/// What a dialog of Qt writes on its button.
+QString cancelText() {
+  return QCoreApplication::translate("QPlatformTheme", "Cancel");
+}
+
 class LanguageManagerTest : public ::testing::Test {
  protected:
   void SetUp() override { QSettings().remove("ui/language"); }
@@ -53,9 +58,17 @@ TEST_F(LanguageManagerTest, EachCatalogueIsThere) {
     EXPECT_EQ(QLocale().language(), QLocale(code).language());
   }
   EXPECT_EQ(names.removeDuplicates(), 0);
+  languages.setLanguage("pt_BR");
+  EXPECT_EQ(cancelText(), "Cancelar");
+  languages.setLanguage("de");
+  EXPECT_EQ(cancelText(), "Abbrechen");
+  // Qt has a catalogue of this one, the program has none.
+  languages.setLanguage("nl");
+  EXPECT_EQ(cancelText(), "Cancel");
   languages.setLanguage("en");
   EXPECT_EQ(log_.messages().last(), "Language set to en (translator not loaded )");
   EXPECT_EQ(shownText(), kEnglish);
+  EXPECT_EQ(cancelText(), "Cancel");
   EXPECT_EQ(QSettings().value("ui/language"), "en");
 }
 

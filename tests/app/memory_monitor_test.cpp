@@ -28,7 +28,8 @@ MemoryMonitor::Sources sourcesWith(
 
 TEST(MemoryText, HasADecimalBelowTen) {
   const std::pair<quint64, const char*> cases[] = {{0, "—"},
-                                                   {1, "0.0 GB"},
+                                                   {1, "1 MB"},
+                                                   {kGigabyte - 1, "1024 MB"},
                                                    {kGigabyte, "1.0 GB"},
                                                    {kGigabyte * 31 / 10, "3.1 GB"},
                                                    {10 * kGigabyte - 1, "10.0 GB"},

@@ -1,16 +1,26 @@
 #include "result_queries.h"
 
+#include <atomic>
 #include <cmath>
+#include <memory>
 
 #include <QCoreApplication>
+#include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
+#include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTranslator>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
 #include "app_controller.h"
 #include "app_test_support.h"
+#include "discounted_cfr.h"
+#include "node_preparer.h"
 #include "reach_grid.h"
+#include "solve_config_map.h"
 
 namespace {
 
@@ -195,4 +205,50 @@ TEST(ReachGrid, WeighsTheHandsOfALabelByTheirReach) {
   EXPECT_EQ(reachGrid(base, combos, "air")["weights"], QVariantMap());
   EXPECT_EQ(reachGrid(base, {}, ""), base);
   EXPECT_EQ(reachGrid({}, combos, "")["weights"], all["weights"]);
+}
+
+TEST_F(ResultQueriesTest, OnlyTheNewestAnswersAreKeptWhileTheSolverCanAnswerAgain) {
+  AppController controller;
+  QVariantMap turn = riverSpot();
+  turn["board"] = "KsQd7h2c";
+  turn["starting_street"] = "turn";
+  turn["max_iterations"] = 1;
+  controller.startSolveWithConfig(turn);
+  ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
+  QList<int> asked;
+  for (int node = 0; node < controller.treeNodeCount() && asked.size() < 150; ++node) {
+    if (!controller.nodeHandBuckets(node).isEmpty()) asked << node;
+  }
+  ASSERT_EQ(asked.size(), 150);
+  const QTemporaryDir dir;
+  ASSERT_TRUE(controller.saveProject(QUrl::fromLocalFile(dir.filePath("saved")), {}));
+  const QJsonArray stored = QJsonDocument::fromJson(bytesOf(dir.filePath("saved")))
+                                .object()
+                                .value("nodeCaches")
+                                .toObject()
+                                .value("handBucketsByNode")
+                                .toArray();
+  QList<int> kept;
+  for (const auto& entry : stored) kept << entry.toObject().value("nodeIndex").toInt();
+  EXPECT_EQ(kept, QList<int>{0} + asked.last(100));
+}
+
+TEST_F(ResultQueriesTest, AnswersUnderWayKeepNoDroppedSolverAlive) {
+  velmora_app::SolveSession session;
+  std::atomic<bool> ended = false;
+  QVariantMap turn = riverSpot();
+  turn["board"] = "KsQd7h2c";
+  session.start(makeSolveConfig(turn), [&](const velmora_app::SolveProgress& report) {
+    if (report.result) ended = true;
+  });
+  ASSERT_TRUE(waitUntil([&] { return ended && session.solved_spot().solver; }));
+  const std::weak_ptr<const velmora::DiscountedCfr> solver = session.solved_spot().solver;
+  NodePreparer preparer;
+  const QSignalSpy ready(&preparer, &NodePreparer::ready);
+  preparer.prepare(0, session.solved_spot(), {}, std::make_shared<velmora_app::ActionValues>(), {});
+  preparer.prepare(1, session.solved_spot(), {}, std::make_shared<velmora_app::ActionValues>(), {});
+  session.clear();
+  EXPECT_TRUE(waitUntil([&] { return solver.expired(); }));
+  EXPECT_TRUE(waitUntil([&] { return ready.count() == 1; }));
+  EXPECT_EQ(ready.first().first(), 1);
 }

@@ -139,6 +139,11 @@ TEST_F(UpdateManagerTest, Manifests) {
       {R"({"version": "1.0.1", "url": "https://a.example"})", false, "1.0.1", "https://a.example"},
       {R"({"version": "1.0.0", "url": "https://a.example"})", false, "1.0.0", "https://a.example"},
       {R"({"version": "9"})", false, "9", ""},
+      {R"({"version": "9", "url": "file:///etc/passwd"})", false, "9", ""},
+      {R"({"version": "9", "url": "HTTP://a.example"})", true, "9", "http://a.example"},
+      {R"({"version": "9", "windows_url": "javascript:close", "url": "https://a.example"})", false,
+       "9", ""},
+      {R"({"version": "9", "url": "a.example/x"})", false, "9", ""},
       {R"({"version": 9, "url": "https://a.example"})", false, "", "https://a.example"},
       {"{}", false, "", ""},
   };
@@ -283,9 +288,8 @@ TEST_F(UpdateManagerTest, ACheckTakesEightSecondsAtMost) {
   EXPECT_LT(took, 12000);
 }
 
-TEST_F(UpdateManagerTest, TheAddressComesFromTheUserTheEnvironmentOrTheProgram) {
-  EXPECT_EQ(UpdateManager().manifestUrl(),
-            "https://updates.dunmarrow.example/downloads/latest.json");
+TEST_F(UpdateManagerTest, TheAddressComesFromTheUserOrTheEnvironment) {
+  EXPECT_EQ(UpdateManager().manifestUrl(), "");
   qputenv("VELMORA_UPDATE_URL", "http://second/");
   EXPECT_EQ(UpdateManager().manifestUrl(), "http://second");
   qputenv("VELMORA_UPDATE_MANIFEST_URL", " http://first// ");

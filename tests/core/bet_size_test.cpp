@@ -99,24 +99,30 @@ TEST(BetSize, FaultsOfTokens) {
                              {"33$", no_int("33$")}});
 }
 
+std::string foreign(const std::string& piece) {
+  return "invalid: Sizing: invalid token '" + piece + "'. Use numbers like '33, 75' or '33%, 75%'";
+}
+std::string no_comma(const std::string& piece) {
+  return "invalid: Sizing: separate sizes by commas, as in '33, 75', not '" + piece + "'";
+}
+
 TEST(BetSize, NormalForm) {
   struct Case {
     std::string text, plain, with_all_in;
   };
-  const std::vector<Case> cases{{"", "", "a"},
-                                {",,,", "", "a"},
-                                {"fifty", "", "a"},
-                                {"33, 75", "33%,75%", "33%,75%,a"},
-                                {"33%,75", "33%,75%", "33%,75%,a"},
-                                {"33 %", "33%", "33%,a"},
-                                {"33$", "33%", "33%,a"},
-                                {"-5", "5%", "5%,a"},
-                                {"a,33", "a,33%", "a,33%"},
-                                {"A", "A", "A"},
-                                {"100a", "100a", "100a,a"},
-                                {"2.5X, 100c3R, 2e", "2.5X,100c3R,2e", "2.5X,100c3R,2e,a"},
-                                {"r", "r", "r,a"},
-                                {".", ".%", ".%,a"}};
+  const std::vector<Case> cases{
+      {"", "", "a"},
+      {",,,", "", "a"},
+      {"33, 75", "33%,75%", "33%,75%,a"},
+      {"33%,75", "33%,75%", "33%,75%,a"},
+      {"33 %", "33%", "33%,a"},
+      {" 33 %, 2.5 x ,100 c,2\te", "33%,2.5x,100c,2e", "33%,2.5x,100c,2e,a"},
+      {"a,33", "a,33%", "a,33%"},
+      {"A", "A", "A"},
+      {"100a", "100a", "100a,a"},
+      {"2.5X, 100c3R, 2e", "2.5X,100c3R,2e", "2.5X,100c3R,2e,a"},
+      {"r", "r", "r,a"},
+      {".", ".%", ".%,a"}};
   for (const auto& c : cases) {
     EXPECT_EQ(normalize_sizing(c.text, false), c.plain) << c.text;
     EXPECT_EQ(normalize_sizing(c.text, true), c.with_all_in) << c.text;
@@ -127,7 +133,31 @@ TEST(BetSize, NormalForm) {
                    "'33%, 75%'"},
                   {"c", "invalid: Sizing: invalid token 'c'"},
                   {"33, E", "invalid: Sizing: invalid token 'E'"},
-                  {"$x", "invalid: Sizing: invalid token 'x'"}});
+                  {"33, fifty", foreign("fifty")},
+                  {"33$", foreign("33$")},
+                  {"-5", foreign("-5")},
+                  {"33;75", foreign("33;75")},
+                  {"33 75 125", no_comma("33 75 125")},
+                  {"50, 33% 75%", no_comma("33% 75%")},
+                  {"33 a", no_comma("33 a")},
+                  {"100c 3r", no_comma("100c 3r")},
+                  {"2\n.5x", no_comma("2\n.5x")}});
+}
+
+TEST(BetSize, TheFaultOfATextNamesItsSize) {
+  const auto fault = [](const std::string& text, bool raises) {
+    return bet_sizes_fault(text, false, raises);
+  };
+  for (const char* good : {"33, 75, 125", "33%", "a", "2e, 3%120e", "100c", ""}) {
+    EXPECT_EQ(fault(good, false), "") << good;
+  }
+  EXPECT_EQ(fault("2.5x, 100c3r", true), "");
+  EXPECT_EQ(fault("33, 2x", false), "'2x': Relative raise (x) is not allowed in this context");
+  EXPECT_EQ(fault("2x, 1x", true), "'1x': Relative raise must exceed 1.0x");
+  // What the number parser says of a text is for a log.
+  EXPECT_EQ(fault("33.3.3", false),
+            "Sizing: invalid token '33.3.3%'. Use numbers like '33, 75' or '33%, 75%'");
+  EXPECT_EQ(fault("33 75", false), no_comma("33 75").substr(9));
 }
 
 TEST(BetSize, SizesOfAStreet) {

@@ -1,17 +1,38 @@
-// Imported range files: read, normalised for a library, shown in the matrix, and solved.
+// Imported range files, and texts that somebody types: normalised for a library, shown in the
+// matrix, painted on and solved.
 #include <QUrl>
 
 #include "fuzz_support.h"
-#include "page_script.h"
-#include "range.h"
+#include "range_edit.h"
 #include "text_files.h"
 
+namespace {
+
+float weight_of(const std::string& text, std::string_view label) {
+  for (const auto& hand : velmora::hand_class_weights(text)) {
+    fuzz::check(hand.weight >= 0 && hand.weight <= 1, "a weight lies in 0..1");
+    if (hand.label == label) return hand.weight;
+  }
+  return 0;
+}
+
+}  // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static fuzz::PageScript script("RangeImport.qml");
-  const fuzz::MemoryFile file(fuzz::text_of(data, size));
+  const std::string text(fuzz::text_of(data, size));
+  const fuzz::MemoryFile file(text);
   const QVariantMap read = readTextFile(QUrl::fromLocalFile(QString::fromStdString(file.path())));
   fuzz::check(read["ok"].toBool(), "a file of any bytes can be read");
-  const QString normal = script.run(read["text"].toString()).section('\n', 0, 0);
-  fuzz::takes([&] { velmora::parse_range_text(normal.toStdString()); });
+  const std::string line = velmora::imported_range_text(text);
+  if (velmora::range_fault(text).empty()) {
+    fuzz::check(velmora::parse_range_text(line) == velmora::parse_range_text(text),
+                "a file reads like the same text typed");
+  }
+  fuzz::takes([&] { velmora::parse_range_text(line); });
+  for (const char* hand : {"AA", "AKs", "72o"}) {
+    const std::string added = velmora::with_hand(text, hand, 0.5);
+    fuzz::check(weight_of(added, hand) == 0.5F, "a painted hand has its weight");
+    fuzz::check(weight_of(velmora::without_hand(added, hand), hand) == 0, "a cleared hand is gone");
+  }
   return 0;
 }

@@ -55,6 +55,15 @@ TestCase {
         click(button)
     }
 
+    /// Presses a button of the question that is asked.
+    function answer(text: string) {
+        const overlay = window.contentItem.parent
+        tryVerify(() => Find.button(overlay, text), 5000, "nobody asks")
+        wait(200)
+        mouseClick(Find.button(overlay, text))
+        wait(200)
+    }
+
     /// Replaces what a field holds, by keyboard, and leaves it by Tab.
     function typeInto(field: Item, text: string) {
         click(field)

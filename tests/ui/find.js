@@ -37,3 +37,15 @@ function withProperties(item, ...names) {
 function fields(item, label) {
     return all(item, candidate => candidate.label === label && candidate.editingFinished !== undefined)
 }
+
+/// The same whether it is shown or not.
+function withHidden(item, ...names) {
+    if (names.every(name => item[name] !== undefined))
+        return item
+    for (let i = 0; i < item.children.length; ++i) {
+        const found = withHidden(item.children[i], ...names)
+        if (found)
+            return found
+    }
+    return undefined
+}

@@ -12,8 +12,11 @@
 
 #include "app_controller.h"
 #include "language_manager.h"
+#include "read_back.h"
 #include "turn_clock.h"
 #include "update_manager.h"
+
+extern void qml_register_types_Velmora();
 
 /// Readies each engine as the entry of the program does.
 class Setup : public QObject {
@@ -39,10 +42,18 @@ class Setup : public QObject {
     engine->rootContext()->setContextProperty("appController", controller_.get());
     turnClock_ = std::make_unique<TurnClock>();
     engine->rootContext()->setContextProperty("turnClock", turnClock_.get());
+    readBack_ = std::make_unique<ReadBack>();
+    engine->rootContext()->setContextProperty("readBack", readBack_.get());
+    // How long the random drive of the window lasts, and where its randomness begins.
+    engine->rootContext()->setContextProperty(
+        "stressSeconds", qEnvironmentVariableIntValue("VELMORA_STRESS_SECONDS"));
+    engine->rootContext()->setContextProperty("stressSeed",
+                                              qEnvironmentVariableIntValue("VELMORA_STRESS_SEED"));
     engine->rootContext()->setContextProperty("testFolder", QUrl::fromLocalFile(folder_));
   }
 
   void cleanupTestCase() {
+    readBack_.reset();
     turnClock_.reset();
     controller_.reset();
     updates_.reset();
@@ -55,6 +66,7 @@ class Setup : public QObject {
   std::unique_ptr<UpdateManager> updates_;
   std::unique_ptr<AppController> controller_;
   std::unique_ptr<TurnClock> turnClock_;
+  std::unique_ptr<ReadBack> readBack_;
 };
 
 int main(int argc, char* argv[]) {
@@ -66,9 +78,12 @@ int main(int argc, char* argv[]) {
   }
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
   qputenv("XDG_CACHE_HOME", home.path().toUtf8());
+  qputenv("XDG_DATA_HOME", home.path().toUtf8());
   qputenv("TMPDIR", home.path().toUtf8());
   qputenv("LC_ALL", "C.UTF-8");
   QQuickStyle::setStyle("Basic");
+  volatile auto registration = &qml_register_types_Velmora;
+  Q_UNUSED(registration);
   Setup setup(home.path());
   return quick_test_main_with_setup(argc, argv, "velmora_ui_tests", QUICK_TEST_SOURCE_DIR, &setup);
 }

@@ -126,7 +126,9 @@ TestCase {
         compare(matrix.log, "AKs 0.5;AQs 0;")
         matrix.selectable = true
         matrix.log = ""
+        verify(!matrix.activeFocus)
         mouseClick(matrix, 84, 16)
+        verify(matrix.activeFocus)
         drag(matrix, [84, 50])
         compare(matrix.log, "AQs 0;click AQs 0;AQs 0;AKs 0.5;")
     }

@@ -109,7 +109,7 @@ MainWindowCase {
 
         // A file comes to both seats; where it was asked for, beside the selection.
         const file = testFolder + "/BTN open.txt"
-        verify(controller.saveTextFile(file, "QQ\nJJ:0.5 foo").ok)
+        verify(controller.saveTextFile(file, "QQ\r\nJJ:0.5 TT\n").ok)
         press("ip", "Population Ranges")
         const importer = Find.all(page(), item => item.read && item.start)[0]
         importer._seat = "oop"
@@ -129,11 +129,18 @@ MainWindowCase {
 
         // What comes after a deleted row takes its place, or what is before it.
         clickRows("oop", "BTN open")
-        compare(project.oopRangeText, "QQ:0.5, JJ:0.5")
+        compare(project.oopRangeText, "QQ, JJ:0.5, TT")
         keyClick(Qt.Key_Delete)
         answer("Delete range", "Delete")
         compare(rows("oop"), "Bar, -Foo, -Foo (2)")
-        compare(project.oopRangeText, "KK")
+        compare(project.oopRangeText, "QQ, JJ:0.5, TT")
+        // A text that the solve could not read is refused by name, not read in part.
+        verify(controller.saveTextFile(file, "QQ\nJJx, TT").ok)
+        importer.read(file)
+        tryVerify(() => dialog("Import Range"))
+        verify(Find.text(dialog("Import Range"), "Import failed: 'JJx': Invalid suitedness suffix"))
+        verify(!Find.button(dialog("Import Range"), "Import").enabled)
+        answer("Import Range", "Cancel")
 
         cleanup()
         init()
@@ -145,13 +152,16 @@ MainWindowCase {
         tryVerify(() => dialog("Delete range"))
         verify(Find.text(dialog("Delete range"), "This will also delete 2 range(s). This cannot be undone."))
         answer("Delete range", "Delete")
-        compare(project.oopRangeText, "AA")
+        // A seat keeps its range whatever happens in the library.
+        compare(project.oopRangeText, "")
         for (const [seat, name] of [["oop", "Foo"], ["ip", "BTN open"]]) {
             clickRows(seat, name)
+            const chosen = project[seat + "RangeText"]
+            verify(chosen !== "")
             press(seat, "Delete selected…")
             answer("Delete range", "Delete")
             compare(rows(seat), "")
-            compare(project[seat + "RangeText"], "")
+            compare(project[seat + "RangeText"], chosen)
         }
     }
 }

@@ -35,6 +35,11 @@ MainWindowCase {
         settle()
     }
 
+    function clickCell(row: int, column: int) {
+        const grid = Find.withProperties(results, "weights", "cellSize")
+        mouseClick(grid, (grid.cellSize + grid.cellSpacing) * column + 10, (grid.cellSize + grid.cellSpacing) * row + 10)
+    }
+
     function combos(): var {
         return view.visibleHandCombos.map(combo => combo.c1 + combo.c2)
     }
@@ -90,6 +95,91 @@ MainWindowCase {
         compare(walk.treeLevels.get(1).selectedActionIndex, -1)
     }
 
+    function test_a_walk_by_keyboard() {
+        solveTurnSpot()
+        tile("Check").forceActiveFocus()
+        // Each tile is one stop of Tab.
+        keyClick(Qt.Key_Tab)
+        verify(tile(controller.nodeActions(0)[1].name).activeFocus)
+        keyClick(Qt.Key_Tab, Qt.ShiftModifier)
+        verify(tile("Check").activeFocus)
+        const expander = Find.all(tile("Check"), item => item.objectName === "expander")[0]
+        compare(expander.Accessible.name, "Expand Check")
+        keyClick(Qt.Key_Right)
+        settle()
+        compare(expander.Accessible.name, "Collapse Check")
+        keyClick(Qt.Key_Left)
+        settle()
+        compare(walk.treeLevels.count, 1)
+        take("Check")
+        take("Check")
+        const chance = Find.all(results, item => item.toggleExpand !== undefined && item.nodeType === "chance")[0]
+        chance.forceActiveFocus()
+        keyClick(Qt.Key_Return)
+        const cards = () => Find.all(window.contentItem.parent, item => item.actionIndex !== undefined && item.rank !== undefined)
+        const focused = () => cards().filter(card => card.activeFocus).map(card => card.rank + card.suit).join()
+        // The queen of spades is on the board.
+        tryVerify(() => focused() === "As")
+        keyClick(Qt.Key_Right)
+        keyClick(Qt.Key_Right)
+        compare(focused(), "Js")
+        keyClick(Qt.Key_Down)
+        // So is the jack of hearts.
+        compare(focused(), "Jd")
+        keyClick("q")
+        keyClick("s")
+        verify(Find.text(window.contentItem.parent, "Qs can't be dealt here."))
+        keyClick("9")
+        keyClick("c")
+        tryCompare(walk, "treeBoardText", "QsJh2h3s9c")
+    }
+
+    function overlap(one: Item, other: Item): bool {
+        const [a, b] = [one, other].map(item => item.mapToItem(null, 0, 0, item.width, item.height))
+        return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height && b.y < a.y + a.height
+    }
+
+    function test_everything_has_its_place_data() {
+        return [
+            { tag: "smallest", width: 1100, height: 700, language: "en", tabbed: true },
+            { tag: "smallest, German", width: 1100, height: 700, language: "de", tabbed: true },
+            { tag: "smallest, Russian", width: 1100, height: 700, language: "ru", tabbed: true },
+            { tag: "wide and low", width: 1700, height: 700, language: "en", tabbed: false },
+            { tag: "usual", width: 1540, height: 1200, language: "de", tabbed: false },
+            { tag: "large", width: 2560, height: 1440, language: "en", tabbed: false }
+        ]
+    }
+
+    function test_everything_has_its_place(data) {
+        solveTurnSpot()
+        window.width = data.width
+        window.height = data.height
+        shell.translator.setLanguage(data.language)
+        settle()
+        const views = Find.withProperties(results, "combosShown", "tabbed")
+        compare(views.tabbed, data.tabbed)
+        const grid = Find.withProperties(results, "weights", "cellSize")
+        verify(data.width < 2000 ? grid.cellSize < 60 : grid.cellSize >= 60)
+        for (const locking of [false, true]) {
+            locks.nodeLockMode = locking
+            waitForRendering(window.contentItem, 200)
+            const page = Find.withProperties(results, "minimumContentWidth", "rows")
+            verify(page.minimumContentWidth <= page.width, "scrolls sideways")
+            verify(views.implicitHeight <= views.roomHeight, "scrolls up and down")
+            const blocks = Find.all(views, item => item.showLabels === true || item.labels !== undefined
+                || item.lockable !== undefined || item.rowCount !== undefined || item.facts !== undefined)
+            verify(blocks.length >= (data.tabbed ? 4 : 5) + (locking ? 1 : 0))
+            blocks.forEach((block, i) => blocks.slice(i + 1).forEach(other =>
+                verify(!overlap(block, other), block + " covers " + other)))
+            // No button is cut off by an edge.
+            const edge = views.mapToItem(null, views.width, 0).x
+            for (const button of Find.all(views, item => item.clicked !== undefined && item.checkable !== undefined)) {
+                verify(button.mapToItem(null, button.width, 0).x <= edge + 1, button.text)
+                verify(button.width + 1 >= button.implicitWidth || button.checkable, button.text + " is cut off")
+            }
+        }
+    }
+
     function test_figures_agree_with_the_controller() {
         solveTurnSpot()
         take("Check")
@@ -122,8 +212,7 @@ MainWindowCase {
         keyClick(Qt.Key_Delete)
         compare(view.visibleHandCombos.length, all)
 
-        const grid = Find.withProperties(results, "weights", "cellSize")
-        mouseClick(grid, 15 + 30 * 1, 15)
+        clickCell(0, 1)
         compare(view.selectedHandClass, "AKs")
         verify(Find.text(results, "Filter: AKs"))
         const filtered = combos()
@@ -131,14 +220,17 @@ MainWindowCase {
         const row = Find.all(results, item => item.bucket !== undefined && item.chosen !== undefined)[0]
         mouseClick(row)
         compare(view.selectedBucket, row.bucket.name)
+        verify(Find.text(results, "Filter: AKs + " + row.bucket.displayName))
         verify(combos().length <= filtered.length)
         for (const combo of view.visibleHandCombos)
             verify(combo.buckets.includes(view.selectedBucket))
-        mouseClick(row)
-        mouseClick(grid, 15 + 30 * 1, 15)
+        clickCell(0, 1)
+        verify(Find.text(results, "Filter: " + row.bucket.displayName))
+        clickButton("Clear")
+        compare([view.selectedBucket, view.selectedHandClass], ["", ""])
         compare(view.visibleHandCombos.length, all)
         // A step clears the filters.
-        mouseClick(grid, 15, 15)
+        clickCell(0, 0)
         compare(view.selectedHandClass, "AA")
         take("Check")
         compare(view.selectedHandClass, "")
@@ -210,15 +302,14 @@ MainWindowCase {
 
     function test_locks_preview_and_resolve() {
         solveTurnSpot()
-        const grid = Find.withProperties(results, "weights", "cellSize")
         clickButton("Node-lock mode")
-        mouseClick(grid, 15, 15)
+        clickCell(0, 0)
         compare(controller.nodeLocks(0).length, 0)
         const actions = controller.nodeActions(0)
         clickButton(actions[1].name)
         const weight = Find.all(results, item => item.label === "Weight" && item.placeholderText === "0..1")[0]
         typeInto(weight, "0.7")
-        mouseClick(grid, 15, 15)
+        clickCell(0, 0)
         const locked = controller.nodeLocks(0)
         compare(locked.length, 1)
         compare(locked[0].hand, "AA")

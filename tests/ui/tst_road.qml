@@ -68,7 +68,7 @@ MainWindowCase {
             wait(150)
         }
         compare(project.startingStreet, "river")
-        verify(Find.text(page(), "Ready"))
+        verify(Find.text(page(), "Setup Required"))
 
         // Pot and stack, sizes and ranges, by keyboard.
         typeInto(field("Starting Pot"), "100")
@@ -82,7 +82,11 @@ MainWindowCase {
         }
         typeInto(field("OOP Range"), "AA,KK,QJs")
         verify(!shell.canSolve)
-        verify(!Find.button(page(), "Continue to Solve →").enabled)
+        // The way on answers with what is missing, and stays.
+        clickButton("Continue to Solve →")
+        compare(shell.navIndex, 1)
+        verify(field("IP Range").activeFocus)
+        tryVerify(() => Find.text(window.contentItem.parent, "Not ready: select at least one hand in both ranges"))
         typeInto(field("IP Range"), "AK,QQ,JJ")
         compare(project.ipRangeText, "AK,QQ,JJ")
         tryVerify(() => shell.canSolve, 10000)
@@ -110,11 +114,16 @@ MainWindowCase {
         compare(project.ipRiverBetSizesText, "70")
         compare(project.maxIterations, 400)
         tryVerify(() => controller.solveRequiredMemoryBytes > 0, 20000)
+        tryVerify(() => !shell.estimatePending)
         compare(shell.canSolve, controller.systemAvailableMemoryBytes > controller.solveRequiredMemoryBytes)
         // Back to a new project: nothing of it stays, also in fields that were edited by hand.
         typeInto(field("OOP Flop Bet sizes (%)"), "33")
         keyClick(Qt.Key_1, Qt.ControlModifier)
         clickButton("New Solve")
+        answer("Cancel")
+        compare(project.boardText, "QsJh2h")
+        clickButton("New Solve")
+        answer("Don't save")
         compare(field("OOP Flop Bet sizes (%)").text, "")
         compare(field("OOP Range").text, "")
         compare(field("Starting Pot").text, "180")
@@ -140,8 +149,8 @@ MainWindowCase {
         tryVerify(() => !controller.running, 20000)
         compare(controller.resultIterations, 0)
         verify(tab("Home").tabEnabled)
-        // Neither a row for a solve started by key, nor one to view.
-        verify(Find.text(page(), "No runs yet — click Start Solve to record a run here."))
+        // A row for a solve started by key too, and no result to view.
+        verify(Find.text(page(), "Cancelled"))
         verify(!Find.button(page(), "View Results →").enabled)
     }
 

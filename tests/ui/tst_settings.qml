@@ -89,6 +89,11 @@ MainWindowCase {
 
     function test_a_check_for_updates_says_how_it_goes() {
         openPage()
+        // Nothing is asked without an address, and that is no fault.
+        settings.updates.manifestUrl = ""
+        clickButton("Check for updates")
+        const note = Find.text(settings, "Update URL is not configured.")
+        compare(String(note.color), String(shell.theme.textMuted))
         settings.updates.manifestUrl = "http://127.0.0.1:9/latest.json"
         verify(Find.button(settings, "Download update").enabled === false)
         clickButton("Check for updates")

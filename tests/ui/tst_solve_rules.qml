@@ -4,43 +4,12 @@ import "../../qml/logic/file_url.js" as FileUrl
 import "../../qml/logic/number_text.js" as NumberText
 import "../../qml/logic/project_keys.js" as ProjectKeys
 import "../../qml/logic/presets.js" as Presets
-import "../../qml/logic/range_facts.js" as RangeFacts
 import "../../qml/logic/settings_profiles.js" as SettingsProfiles
 import "../../qml/logic/solve_gate.js" as SolveGate
 import "../../qml/logic/solve_status.js" as SolveStatus
 
 TestCase {
     name: "SolveRules"
-
-    function test_boards_data() {
-        return [
-            { tag: "flop", text: "QsJh2h", ready: true },
-            { tag: "turn, any case, blanks", text: "qS jH 2h Td", ready: true },
-            { tag: "river", text: "QsJh2hTd3c", ready: true },
-            { tag: "empty", text: "", ready: false },
-            { tag: "two cards", text: "QsJh", ready: false },
-            { tag: "six cards", text: "QsJh2hTd3c4c", ready: false },
-            { tag: "placeholder", text: "Qs__2h", ready: false },
-            { tag: "ten as digits", text: "10sJh2h", ready: false },
-            { tag: "odd length", text: "QsJh2", ready: false }
-        ]
-    }
-
-    function test_boards(data) {
-        compare(SolveGate.isStrictBoardReady(data.text), data.ready)
-    }
-
-    function test_hands_data() {
-        return [
-            { tag: "AA", has: true }, { tag: "ako", has: true }, { tag: " 98 ", has: true },
-            { tag: "x, T9s", has: true }, { tag: "A", has: false }, { tag: "A,K", has: false },
-            { tag: "50%", has: false }, { tag: "", has: false }
-        ]
-    }
-
-    function test_hands(data) {
-        compare(SolveGate.hasAnyHand(data.tag), data.has)
-    }
 
     function test_memory_data() {
         return [
@@ -165,12 +134,16 @@ TestCase {
         compare(values.targetExploitability, 0.5)
         compare(values.oopAddAllInIfJamLtEnabled, true)
         compare(values.ipAddAllInIfJamLtPct, 30)
-        compare(ProjectKeys.coerced("oopFlopBetSizesText", values.oopFlopBetSizesText), "")
-        compare(ProjectKeys.coerced("oopFlopAddAllIn", values.oopFlopAddAllIn), false)
+        // What a profile does not name is empty or off, and not what was there before.
+        for (const key of ProjectKeys.sizeTexts)
+            compare(values[key], "", key)
+        for (const key of ProjectKeys.switches.filter(key => !key.includes("IfJam") && !/^ip.*Donk/.test(key)))
+            compare(values[key], false, key)
         compare(SettingsProfiles.projectValues({ target_exploitability: 1 }, 0).targetExploitability, 1)
         const noNumber = JSON.parse('{"toString": 1}')
         compare(SettingsProfiles.projectValues({ starting_pot: noNumber, target_exploitability: noNumber }, 0).targetExploitability, 0)
-        compare(SettingsProfiles.projectValues({}, 50).ipAddAllInIfJamLtPct, undefined)
+        const bare = SettingsProfiles.projectValues({}, 50)
+        compare([bare.ipAddAllInIfJamLtEnabled, bare.ipAddAllInIfJamLtPct, bare.startingPot], [false, undefined, undefined])
     }
 
     function test_stored_profiles_data() {
@@ -200,13 +173,17 @@ TestCase {
 
     function test_numbers_typed_data() {
         return [
-            { tag: "0", value: 1 }, { tag: "", value: 100 }, { tag: "abc", value: 100 },
-            { tag: "2,5", value: 2.5 }, { tag: "999999", value: 1000 }, { tag: " 7 ", value: 7 }
+            { tag: "0", whole: 0, real: 0 }, { tag: "", whole: NaN, real: NaN }, { tag: "abc", whole: NaN, real: NaN },
+            { tag: "2,5", whole: NaN, real: 2.5 }, { tag: "5.5", whole: NaN, real: 5.5 }, { tag: " 7 ", whole: 7, real: 7 },
+            { tag: "7.", whole: NaN, real: 7 }, { tag: ".5", whole: NaN, real: 0.5 }, { tag: ".", whole: NaN, real: NaN },
+            { tag: "1.2345", whole: NaN, real: NaN }, { tag: "1,000.5", whole: NaN, real: NaN }, { tag: "-5", whole: NaN, real: NaN },
+            { tag: "1e3", whole: NaN, real: NaN }, { tag: "5 5", whole: NaN, real: NaN }, { tag: "0x10", whole: NaN, real: NaN }
         ]
     }
 
     function test_numbers_typed(data) {
-        compare(NumberText.clamped(data.tag, 1, 1000, 100), data.value)
+        compare(NumberText.parsed(data.tag, 0), data.whole)
+        compare(NumberText.parsed(data.tag, 3), data.real)
     }
 
     function test_numbers_shown() {
@@ -224,12 +201,5 @@ TestCase {
 
     function test_file_urls(data) {
         compare(FileUrl.ofLocalFile(data.answer), data.url)
-    }
-
-    function test_range_size() {
-        const facts = RangeFacts.ofWeights({ AA: 1, AKs: 0.5, AKo: 0.25, KK: 0 })
-        compare(facts.hands, 3)
-        compare(facts.combos, 6 + 2 + 3)
-        fuzzyCompare(facts.share, 11 / 1326, 1e-12)
     }
 }

@@ -79,6 +79,56 @@ MainWindowCase {
         return made
     }
 
+    function test_what_is_asked_is_not_given_away() {
+        openTrainer(2)
+        clickButton("Play as both")
+        let asked = 0
+        while (asked < 3) {
+            untilItRests()
+            if (play.playHandComplete) {
+                clickButton("Another hand")
+                continue
+            }
+            const open = () => Find.all(results, item => item.toggleExpand !== undefined && !item.selected)
+            tryVerify(() => open().length === play.playActions.length)
+            for (const tile of open()) {
+                verify(!Find.all(tile, item => item.objectName === "frequency").length, tile.action)
+                verify(!/%/.test(tile.Accessible.description))
+            }
+            for (const button of Find.all(results, item => item.actionType !== undefined && item.number > 0))
+                compare([button.text, button.Accessible.description],
+                        [play.playActions[button.number - 1].name, "Key " + button.number])
+            choose(best())
+            ++asked
+        }
+        clickButton("Range view")
+        verify(Find.all(results, item => item.objectName === "frequency").length > 1)
+    }
+
+    function test_the_smallest_window_holds_table_log_and_figures() {
+        openTrainer(4)
+        window.width = 1100
+        window.height = 700
+        shell.translator.setLanguage("ru")
+        waitForRendering(window.contentItem, 200)
+        const page = Find.withProperties(results, "minimumContentWidth", "rows")
+        verify(page.minimumContentWidth <= page.width)
+        const tiles = Find.all(results, item => item.inline === true)
+        compare(tiles.length, 3)
+        verify(tiles.every(tile => tile.mapToItem(null, tile.width, 0).x <= 1100 && tile.value !== ""))
+        shell.translator.setLanguage("en")
+        clickButton("Play as OOP")
+        playWell()
+        verify(!Find.text(results, "Winner: OOP") && !Find.text(results, "Winner: IP"))
+        mouseClick(Find.all(results, item => item.entry !== undefined && item.focused !== undefined)[0])
+        verify(Find.text(results, "Winner: OOP") || Find.text(results, "Winner: IP") || Find.text(results, "Winner: TIE"))
+        const details = Find.withProperties(results, "stacked", "details")
+        const table = Find.withProperties(results, "pictureRatio")
+        verify(table.mapToItem(null, table.width, 0).x <= details.mapToItem(null, 0, 0).x)
+        clickButton("Hand Log")
+        verify(Find.text(results, "1 hands"))
+    }
+
     function test_hands_are_played_to_their_end_and_counted() {
         openTrainer(1)
         clickButton("Play as OOP")

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import QtQuick.Controls
 import Velmora
 import "../../logic/board_text.js" as BoardText
 
@@ -10,6 +11,7 @@ Card {
     property Typography type: Fallback.type
     required property string boardText
     property int editingCardIndex: -1
+    property string fault: ""  ///< What is wrong with the board, or "".
 
     signal boardEdited(string text)
 
@@ -44,6 +46,16 @@ Card {
                 root.editingCardIndex = index
                 picker.openUnder(board)
             }
+        }
+
+        Label {
+            Layout.fillWidth: true
+            Layout.preferredWidth: 1
+            visible: root.fault !== ""
+            text: root.fault
+            color: root.theme.danger
+            font.pixelSize: root.type.labelMd
+            wrapMode: Text.WordWrap
         }
 
         Item {

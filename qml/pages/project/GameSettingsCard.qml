@@ -16,18 +16,22 @@ Card {
     /// Targets to choose with a click, in percent of the pot.
     readonly property list<real> _targets: [1.0, 0.5, 0.1]
 
+    function choose(target: real) {
+        project.setInputFault("target_exploitability", "")
+        project.edit("", "targetExploitability", target)
+    }
+
     component Setting: RowLayout {
         id: setting
 
+        required property string key  ///< Of the project's property.
+        required property string spotKey  ///< Of the solve configuration map.
         property alias text: label.text
-        property alias number: field.number
         property alias low: field.low
         property alias high: field.high
         property alias decimals: field.decimals
         property alias fallback: field.fallback
         property alias placeholderText: field.placeholderText
-
-        signal numberCommitted(real number)
 
         Layout.fillWidth: true
         spacing: root.theme.spaceMd
@@ -47,7 +51,14 @@ Card {
             theme: root.theme
             type: root.type
             label: setting.text
-            onNumberCommitted: number => setting.numberCommitted(number)
+            spotKey: setting.spotKey
+            number: root.project[setting.key]
+            inputFault: root.project.inputFaults[setting.spotKey] ?? ""
+            fault: root.project.faultAt(spotKey)
+            project: root.project
+            onChecked: sentence => root.project.setInputFault(setting.spotKey, sentence)
+            onNumberCommitted: number => root.project.edit(setting.key, setting.key, number)
+            onEditingFinished: root.project.endStep()
         }
     }
 
@@ -64,49 +75,49 @@ Card {
 
         Setting {
             text: qsTr("Starting Pot")
-            number: root.project.startingPot
+            key: "startingPot"
+            spotKey: "starting_pot"
             low: 1
             high: 100000
             fallback: 100
             placeholderText: qsTr("e.g., 100")
-            onNumberCommitted: number => root.project.startingPot = number
         }
 
         Setting {
             text: qsTr("Effective Stack")
-            number: root.project.effectiveStack
+            key: "effectiveStack"
+            spotKey: "effective_stack"
             low: 1
             high: 100000
             fallback: 100
             placeholderText: qsTr("e.g., 100")
-            onNumberCommitted: number => root.project.effectiveStack = number
         }
 
         Setting {
             text: qsTr("Rake (%)")
-            number: root.project.rakePercent
+            key: "rakePercent"
+            spotKey: "rake_percent"
             high: 100
             decimals: 3
             placeholderText: qsTr("e.g., 5.0")
-            onNumberCommitted: number => root.project.rakePercent = number
         }
 
         Setting {
             text: qsTr("Rake Cap")
-            number: root.project.rakeCap
+            key: "rakeCap"
+            spotKey: "rake_cap"
             high: 1000000
             placeholderText: qsTr("e.g., 0")
-            onNumberCommitted: number => root.project.rakeCap = number
         }
 
         Setting {
             text: qsTr("Target Exploitability (%)")
-            number: root.project.targetExploitability
+            key: "targetExploitability"
+            spotKey: "target_exploitability"
             high: 100
             decimals: 6
             fallback: 0.1
             placeholderText: qsTr("e.g., 0.10")
-            onNumberCommitted: number => root.project.targetExploitability = number
         }
 
         RowLayout {
@@ -124,7 +135,7 @@ Card {
                     type: root.type
                     text: qsTr("%1%").arg(target)
                     Accessible.name: qsTr("Target Exploitability (%)") + " " + text
-                    onClicked: root.project.targetExploitability = target
+                    onClicked: root.choose(target)
                 }
             }
         }

@@ -3,54 +3,133 @@ import QtQuick.Layouts
 import QtQuick.Controls
 import Velmora
 
-/// The head of the Setup page: whether the board is set, what a solve takes, and the way on.
+/// The head of the Setup page: whether the spot is ready or what it lacks, what a solve takes, the way
+/// back over the last steps, and the way on.
 RowLayout {
     id: root
 
     property Theme theme: Fallback.theme
     property Typography type: Fallback.type
     required property var controller
-    required property bool boardReady
+    required property ProjectState project
     required property bool canSolve
+    /// The memory figure is of the spot as it was before the latest edit.
+    required property bool estimatePending
 
     readonly property bool _tooLarge: controller.solveRequiredMemoryBytes > 0
         && controller.effectiveAvailableMemoryBytes > 0
         && controller.solveRequiredMemoryBytes > controller.effectiveAvailableMemoryBytes
 
     signal goToSolve
+    /// The way on was asked for while there is none.
+    signal refused
 
     spacing: theme.spaceLg
 
     SectionHeader {
         Layout.fillWidth: true
+        Layout.minimumWidth: 200
         theme: root.theme
         title: qsTr("Project Setup")
-        badge: root.boardReady ? qsTr("Ready") : qsTr("Setup Required")
-        badgeColor: root.boardReady ? root.theme.success : root.theme.warn
+        badge: root.project.faults.ready ? qsTr("Ready") : qsTr("Setup Required")
+        badgeColor: root.project.faults.ready ? root.theme.success : root.theme.warn
     }
 
     ColumnLayout {
+        Layout.fillWidth: true
+        Layout.preferredWidth: 340
+        Layout.maximumWidth: 460
         spacing: 2
 
         Label {
-            Layout.alignment: Qt.AlignRight
-            text: qsTr("Solve RAM: %1").arg(root.controller.solveRequiredMemoryText || "—")
-            color: root._tooLarge ? root.theme.danger : root.theme.textMuted
-            font.pixelSize: root.type.labelSm
+            id: reason
+
+            Layout.fillWidth: true
+            visible: !root.project.faults.ready
+            horizontalAlignment: Text.AlignRight
+            text: root.project.faults.refusal
+            color: Object.keys(root.project.faults.sentences).length > 0 ? root.theme.danger : root.theme.warn
+            font.pixelSize: root.type.labelMd
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+
+            HoverHandler {
+                id: hover
+            }
+
+            AppToolTip {
+                theme: root.theme
+                visible: hover.hovered && reason.truncated
+                text: reason.text
+            }
         }
 
         Label {
-            Layout.alignment: Qt.AlignRight
+            Layout.fillWidth: true
+            visible: root.project.faults.ready
+            horizontalAlignment: Text.AlignRight
+            text: root.estimatePending ? qsTr("Solve RAM: being estimated…")
+                : qsTr("Solve RAM: %1").arg(root.controller.solveRequiredMemoryText || "—")
+            color: !root.estimatePending && root._tooLarge ? root.theme.danger : root.theme.textMuted
+            font.pixelSize: root.type.labelSm
+            elide: Text.ElideRight
+        }
+
+        Label {
+            Layout.fillWidth: true
+            horizontalAlignment: Text.AlignRight
             text: qsTr("Available RAM: %1").arg(root.controller.effectiveAvailableMemoryText || "—")
             color: root.theme.textMuted
             font.pixelSize: root.type.labelSm
+            elide: Text.ElideRight
+        }
+    }
+
+    RowLayout {
+        spacing: root.theme.spaceXs
+
+        SmallButton {
+            id: undoButton
+
+            theme: root.theme
+            type: root.type
+            text: qsTr("Undo")
+            enabled: root.project.canUndo
+            onClicked: root.project.undo()
+
+            AppToolTip {
+                theme: root.theme
+                visible: undoButton.hovered
+                text: qsTr("Take back the last change (Ctrl+Z)")
+            }
+        }
+
+        SmallButton {
+            id: redoButton
+
+            theme: root.theme
+            type: root.type
+            text: qsTr("Redo")
+            enabled: root.project.canRedo
+            onClicked: root.project.redo()
+
+            AppToolTip {
+                theme: root.theme
+                visible: redoButton.hovered
+                text: qsTr("Bring back what was undone (Ctrl+Shift+Z)")
+            }
         }
     }
 
     PrimaryButton {
         theme: root.theme
         text: qsTr("Continue to Solve →")
-        enabled: root.canSolve
-        onClicked: root.goToSolve()
+        onClicked: {
+            if (root.canSolve)
+                root.goToSolve()
+            else
+                root.refused()
+        }
     }
 }

@@ -2,11 +2,9 @@ import QtQuick
 import QtQuick.Layouts
 import QtQuick.Controls
 import Velmora
-import "../../logic/range_facts.js" as RangeFacts
-import "../../logic/range_text.js" as RangeText
 
-/// The range of one seat, painted on a matrix or typed under it. The text is the range; the matrix
-/// shows what it can read of it.
+/// The range of one seat, painted on a matrix or typed under it. The text is the range, and all that
+/// shows of it comes from the parser that the solve reads it with.
 Card {
     id: root
 
@@ -17,19 +15,41 @@ Card {
     property bool developerMode: false
     property real clickWeightPct: 100.0  ///< What a newly painted hand weighs.
 
+    /// How high the card may get before the page has to scroll.
+    property real heightLimit: 0
+
     readonly property string rangeText: project[seat + "RangeText"]
+    /// What is wrong with the range, by itself or beside the rest of the spot.
+    readonly property string fault: project.faultAt(seat + "_range") || project.faultAt("spot")
     readonly property SeatLibrary _library: libraries.seatLibrary(seat)
-    readonly property var _facts: RangeFacts.ofWeights(matrix.weights)
+    readonly property string _key: seat + "RangeText"
+    readonly property real _combos: RangeText.combos(rangeText)
+    readonly property real _smallestCell: 36
+    readonly property real _largestCell: 64
+    readonly property real _smallestMatrix: 13 * (_smallestCell + matrix.cellSpacing) - matrix.cellSpacing
+    readonly property real _libraryWidth: Math.max(180, availableWidth / 4)
+    readonly property real _cellByWidth: _cellOf(availableWidth - _libraryWidth - grid.columnSpacing)
+    readonly property real _cellByHeight: _cellOf(heightLimit - topPadding - bottomPadding - titleRow.implicitHeight
+                                                  - fieldRow.implicitHeight - 2 * grid.rowSpacing)
+    property string _weightFault: ""
 
     signal importRequested
 
     function setRangeText(text: string) {
-        project.set(seat + "RangeText", text)
+        project.edit("", _key, text)
     }
 
-    function _paint(hand: string, desiredOn: bool, currentWeight: real) {
-        setRangeText(RangeText.toggleHand(rangeText, hand, desiredOn ? 0 : currentWeight, clickWeightPct / 100))
+    function _paint(hand: string, desiredOn: bool) {
+        project.edit("painting " + seat, _key, RangeText.painted(rangeText, hand, desiredOn, clickWeightPct / 100))
     }
+
+    /// The cell of a matrix of that side, in whole pixels.
+    function _cellOf(side: real): real {
+        return Math.floor((side + matrix.cellSpacing) / 13) - matrix.cellSpacing
+    }
+
+    // The page asks for no more width than the smallest matrix needs.
+    contentWidth: grid.implicitWidth - matrix.implicitWidth + _smallestMatrix
 
     Connections {
         function onRangeChosen(text: string) {
@@ -40,12 +60,16 @@ Card {
     }
 
     GridLayout {
+        id: grid
+
         anchors.fill: parent
         columns: 2
         columnSpacing: root.theme.spaceMd
         rowSpacing: root.theme.spaceSm
 
         RowLayout {
+            id: titleRow
+
             Layout.maximumWidth: matrix.implicitWidth
             spacing: root.theme.spaceSm
 
@@ -64,8 +88,8 @@ Card {
             }
 
             Label {
-                text: root._facts.hands === 0 ? ""
-                    : qsTr("%1 combos (%2%)").arg(root._facts.combos.toFixed(1)).arg((root._facts.share * 100).toFixed(1))
+                text: root._combos === 0 ? ""
+                    : qsTr("%1 combos (%2%)").arg(root._combos.toFixed(1)).arg((root._combos / 1326 * 100).toFixed(1))
                 color: root.theme.textMuted
                 font.pixelSize: root.type.labelMd
             }
@@ -98,13 +122,16 @@ Card {
 
             theme: root.theme
             label: root.seat === "oop" ? qsTr("OOP Range") : qsTr("IP Range")
-            cellSize: 36
+            cellSize: Math.max(root._smallestCell, Math.min(root._largestCell, root._cellByWidth, root._cellByHeight))
             editable: true
-            weights: RangeText.parseRangeWeights(root.rangeText)
-            onHandPainted: (hand, desiredOn, currentWeight) => root._paint(hand, desiredOn, currentWeight)
+            weights: RangeText.weights(root.rangeText)
+            onHandPainted: (hand, desiredOn) => root._paint(hand, desiredOn)
+            onPaintingEnded: root.project.endStep()
         }
 
         RowLayout {
+            id: fieldRow
+
             Layout.maximumWidth: matrix.implicitWidth
             spacing: root.theme.spaceSm
 
@@ -114,7 +141,7 @@ Card {
                 font.pixelSize: root.type.labelMd
             }
 
-            LiveNumberField {
+            NumberField {
                 Layout.preferredWidth: 70
                 theme: root.theme
                 type: root.type
@@ -123,6 +150,8 @@ Card {
                 decimals: 3
                 fallback: 100
                 number: root.clickWeightPct
+                inputFault: root._weightFault
+                onChecked: sentence => root._weightFault = sentence
                 onNumberCommitted: number => root.clickWeightPct = number
             }
 
@@ -138,7 +167,11 @@ Card {
                 type: root.type
                 label: root.seat === "oop" ? qsTr("OOP Range") : qsTr("IP Range")
                 rangeText: root.rangeText
-                onRangeEdited: text => root.setRangeText(text)
+                spotKey: root.seat + "_range"
+                fault: root.fault
+                project: root.project
+                onRangeEdited: text => root.project.edit(root._key, root._key, text)
+                onEditingFinished: root.project.endStep()
             }
         }
     }

@@ -30,7 +30,7 @@ InputField {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         text: root.rangeText
-        color: root.theme.text
+        color: root.fault !== "" ? root.theme.danger : root.theme.text
         font: root.font
         elide: Text.ElideRight
         maximumLineCount: 1

@@ -17,6 +17,7 @@ Card {
 
     /// The street of a board that has one counts more than the profile's.
     function applySettingsSnapshot(data: var) {
+        project.endStep()
         project.applyProjectState(SettingsProfiles.projectValues(data, project.startingPot))
         if (BoardText.shownCards(project.boardText).length >= 3)
             project.startingStreet = BoardText.inferStreet(project.boardText)

@@ -22,6 +22,7 @@ Repeater {
         id: cell
 
         required property int index
+        readonly property string spotKey: ProjectKeys.configKey(root.seat, ProjectKeys.streets[index], root.suffix)
         readonly property string key: ProjectKeys.propertyName(root.seat, ProjectKeys.streets[index], root.suffix)
 
         implicitHeight: field.implicitHeight
@@ -36,7 +37,11 @@ Repeater {
             label: root.seatName + " " + root.streetTitles[cell.index] + " " + root.title
             placeholderText: root.placeholder
             value: root.project[cell.key]
-            onCommitted: text => root.project.set(cell.key, text)
+            spotKey: cell.spotKey
+            fault: root.project.faultAt(spotKey)
+            project: root.project
+            onTyped: text => root.project.edit(cell.key, cell.key, text)
+            onEditingFinished: root.project.endStep()
         }
     }
 }

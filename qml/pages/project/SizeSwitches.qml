@@ -31,7 +31,7 @@ Repeater {
             theme: root.theme
             value: root.project[cell.key]
             text: root.seatName + " " + root.streetTitles[cell.index] + " " + root.title
-            onSwitched: on => root.project.set(cell.key, on)
+            onSwitched: on => root.project.edit("", cell.key, on)
         }
     }
 }

@@ -141,7 +141,7 @@ Card {
                 theme: root.theme
                 value: root._jamEnabled
                 text: root.seatName + " " + jamLabel.text
-                onSwitched: on => root.project.set(root.seat + "AddAllInIfJamLtEnabled", on)
+                onSwitched: on => root.project.edit("", root.seat + "AddAllInIfJamLtEnabled", on)
             }
 
             Label {
@@ -154,7 +154,7 @@ Card {
                 elide: Text.ElideRight
             }
 
-            LiveNumberField {
+            NumberField {
                 Layout.preferredWidth: 72
                 theme: root.theme
                 type: root.type
@@ -164,7 +164,12 @@ Card {
                 high: 1000
                 decimals: 3
                 number: root.project[root.seat + "AddAllInIfJamLtPct"]
-                onNumberCommitted: number => root.project.set(root.seat + "AddAllInIfJamLtPct", number)
+                spotKey: root.seat + "_add_all_in_jam_threshold_pct"
+                inputFault: root.project.inputFaults[spotKey] ?? ""
+                project: root.project
+                onChecked: sentence => root.project.setInputFault(spotKey, sentence)
+                onNumberCommitted: number => root.project.edit(spotKey, root.seat + "AddAllInIfJamLtPct", number)
+                onEditingFinished: root.project.endStep()
             }
 
             Label {

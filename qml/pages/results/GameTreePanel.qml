@@ -11,6 +11,8 @@ Card {
 
     property Typography type: Fallback.type
     required property TreeWalk walk
+    /// Whether choices that are open tell how often each is taken.
+    property bool frequenciesShown: true
 
     padding: theme.spaceMd
 
@@ -49,6 +51,7 @@ Card {
                 type: root.type
                 walk: root.walk
                 last: index === list.count - 1
+                frequenciesShown: root.frequenciesShown
                 onCardWanted: picker.openChancePicker(index, nodeIndex)
             }
         }

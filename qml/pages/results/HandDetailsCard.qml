@@ -20,6 +20,22 @@ Card {
     /// unseen: new figures in the rows that are there are quick, new rows are not.
     property var _rows: ({ combos: [], actions: [] })
 
+    /// The names of the hand and of the category that the list is held to.
+    readonly property var _filters: Array.from([view.selectedHandClass, _categoryName(view.selectedBucket)]).filter(name => name !== "")
+
+    function _categoryName(name: string): string {
+        for (let i = 0; i < view.buckets.length; ++i) {
+            if (view.buckets[i].name === name)
+                return view.buckets[i].displayName || name
+        }
+        return name
+    }
+
+    function _clearFilters() {
+        view.selectedHandClass = ""
+        view.selectedBucket = ""
+    }
+
     padding: theme.spaceMd
     on_PendingChanged: list.showTop()
 
@@ -60,20 +76,21 @@ Card {
 
         RowLayout {
             Layout.fillWidth: true
-            visible: root.view.selectedHandClass !== ""
+            visible: root._filters.length > 0
 
             Label {
                 Layout.fillWidth: true
-                text: qsTr("Filter: %1").arg(root.view.selectedHandClass)
+                text: qsTr("Filter: %1").arg(root._filters.join(" + "))
                 color: root.theme.text
                 font.pixelSize: root.type.labelMd
+                wrapMode: Text.Wrap
             }
 
             SmallButton {
                 theme: root.theme
                 type: root.type
                 text: qsTr("Clear")
-                onClicked: root.view.selectedHandClass = ""
+                onClicked: root._clearFilters()
             }
         }
 

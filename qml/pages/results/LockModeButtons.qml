@@ -9,7 +9,6 @@ ColumnLayout {
     property Theme theme: Fallback.theme
     property Typography type: Fallback.type
     required property NodeLocks locks
-    required property int node
 
     spacing: theme.spaceXs
 
@@ -18,7 +17,7 @@ ColumnLayout {
         theme: root.theme
         type: root.type
         text: (root.locks.nodeLockMode ? "" : "✓ ") + qsTr("Standard mode")
-        onClicked: root.locks.leaveLockMode(root.node)
+        onClicked: root.locks.leaveLockMode()
     }
 
     SmallButton {

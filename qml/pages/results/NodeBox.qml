@@ -9,8 +9,9 @@ Rectangle {
     property Theme theme: Fallback.theme
     property Typography type: Fallback.type
     required property var meta
+    property bool compact: false
 
-    implicitHeight: facts.implicitHeight + 2 * theme.spaceSm
+    implicitHeight: facts.implicitHeight + 2 * facts.anchors.margins
     radius: theme.radiusSm
     color: theme.surface2
     border.color: theme.stroke
@@ -19,9 +20,10 @@ Rectangle {
         id: facts
 
         anchors.fill: parent
-        anchors.margins: root.theme.spaceSm
+        anchors.margins: root.compact ? root.theme.spaceXs : root.theme.spaceSm
         theme: root.theme
         type: root.type
+        rowSpacing: root.compact ? 2 : root.theme.spaceSm
         facts: [
             { label: qsTr("Pot"), value: String(root.meta.pot ?? 0) },
             { label: qsTr("Stack (%1)").arg(root.meta.player || "—"), value: String(HandViews.stackRemaining(root.meta)) },

@@ -64,12 +64,13 @@ Rectangle {
             }
         }
 
-        RowLayout {
+        Flow {
             Layout.fillWidth: true
-            visible: root.lockable
             spacing: root.theme.spaceSm
 
             Label {
+                height: weight.height
+                verticalAlignment: Text.AlignVCenter
                 text: qsTr("Weight")
                 color: root.theme.textMuted
                 font.pixelSize: root.type.labelMd
@@ -78,7 +79,7 @@ Rectangle {
             InputField {
                 id: weight
 
-                Layout.preferredWidth: 70
+                width: 70
                 theme: root.theme
                 type: root.type
                 label: qsTr("Weight")
@@ -92,26 +93,41 @@ Rectangle {
                 }
             }
 
-            Item {
-                Layout.fillWidth: true
-            }
-
             SmallButton {
                 theme: root.theme
                 type: root.type
+                height: weight.height
                 text: qsTr("Reset weights")
                 onClicked: root.locks.resetNodeLockEdits(root.node)
             }
 
+            SmallButton {
+                visible: root.locks.lastReset !== null
+                theme: root.theme
+                type: root.type
+                height: weight.height
+                text: qsTr("Undo reset")
+                onClicked: root.locks.undoReset()
+            }
+
             PrimaryButton {
-                Layout.preferredHeight: 32
+                height: weight.height
                 theme: root.theme
                 type: root.type
                 text: qsTr("Re-solve")
                 loading: root.controller.running
-                enabled: root.lockable && !root.controller.running
+                enabled: !root.controller.running && (root.controller.lockCount > 0 || root.controller.locksPending)
                 onClicked: root.controller.reSolveWithNodeLocks()
             }
+        }
+
+        Label {
+            Layout.fillWidth: true
+            visible: text !== ""
+            text: root.locks.weightFault
+            color: root.theme.danger
+            font.pixelSize: root.type.labelSm
+            wrapMode: Text.Wrap
         }
 
         Label {

@@ -22,6 +22,10 @@ QtObject {
     property bool waiting: false
     /// While it is true nobody looks: steps of the walk ask for nothing.
     property bool paused: false
+    /// Whether locks that are not solved yet are drawn over the strategy of the node.
+    property bool previews: false
+    /// Why figures of the node are missing; empty if they are not.
+    property string nodeError: ""
 
     // Filters
     property string selectedHandClass: ""
@@ -54,7 +58,8 @@ QtObject {
         onTriggered: {
             // A board that shows another suit than the tree holds shows the hands in that suit too.
             const suits = root.walk.suitsAt(root.walk.treeLevels.count)
-            root._loadedHandCombos = Walk.shownCombos(root.controller.nodeHandCombos(root.node), suits)
+            root._loadedHandCombos = HandViews.combosWithLocks(
+                Walk.shownCombos(root.controller.nodeHandCombos(root.node), suits), root.locks.previewOf(root.node))
             root._handCombosLoading = false
         }
     }
@@ -71,6 +76,11 @@ QtObject {
         function onNodeAnswersReady(node) {
             if (node === root.node)
                 root._showAnswers()
+        }
+
+        function onNodeAnswersFailed(node, error) {
+            if (node === root.node)
+                root.nodeError = error
         }
 
         target: root.controller
@@ -94,6 +104,7 @@ QtObject {
             return
         // First, so that the views keep still while the filters go.
         loading = true
+        nodeError = ""
         _combosTimer.stop()
         _handCombosLoading = true
         _loadedHandCombos = []
@@ -108,10 +119,29 @@ QtObject {
         controller.prepareNodeAnswers(node)
     }
 
+    /// Shows nothing: what is there belongs to a result that has gone.
+    function forget() {
+        currentActions = []
+        handWeights = {}
+        handActionProbs = {}
+        buckets = []
+        _loadedHandCombos = []
+        previews = false
+    }
+
     /// Runs again at a change of the node, the category filter, the locks and at new results.
     function refreshHandMatrix() {
         if (!loading)
             _fillGrid()
+    }
+
+    /// Draws all that depends on the locks anew.
+    function refreshLocks() {
+        if (loading || paused)
+            return
+        _fillGrid()
+        buckets = controller.nodeHandBuckets(node)
+        _scheduleHandCombosLoad()
     }
 
     function _fillGrid() {
@@ -120,7 +150,9 @@ QtObject {
         const definitions = _definitions()
         const reach = controller.nodeHandStrategyReach169(node, selectedBucket)
         const count = HandViews.actionCount(definitions, reach.actionProbs ?? strategy.actionProbs, strategy.actionTypeList)
-        const probabilities = HandViews.withLocks(reach.actionProbs ?? strategy.actionProbs ?? {}, locks.ofNode(node), count)
+        const preview = locks.previewOf(node)
+        previews = Object.keys(preview).length > 0
+        const probabilities = HandViews.withLocks(reach.actionProbs ?? strategy.actionProbs ?? {}, preview, count)
         const weights = reach.weights ?? strategy.weights ?? {}
         const colors = {}
         for (const hand in weights) {

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
@@ -17,13 +19,28 @@ RowLayout {
     readonly property color _seatColor: walk.selectedPlayer === "IP" ? theme.info : theme.actionBet
     readonly property bool _decision: walk.currentMeta.nodeType === "decision"
 
-    /// Whether the figures of the solve have room. The table of play mode does without them rather than
-    /// scroll sideways.
-    readonly property bool _roomy: !play.playMode || width >= 900
+    readonly property var _figures: [
+        { label: qsTr("EV (OOP)"), value: (controller.resultEvOop + controller.resultStartingPot / 2).toFixed(3), tone: theme.success },
+        { label: qsTr("EV (IP)"), value: (controller.resultEvIp + controller.resultStartingPot / 2).toFixed(3), tone: theme.info },
+        { label: qsTr("Exploitability"), value: controller.resultExploitability.toFixed(4), tone: theme.gold }
+    ]
+    /// Whether all has room side by side: the title too, and the figures of the solve in full size.
+    readonly property bool _roomy: width >= title.implicitWidth + _fullBoardWidth + turn.implicitWidth
+                                   + playButton.implicitWidth + 3 * _figureWidth + 9 * theme.spaceMd
+    readonly property int _figureWidth: 140
+    readonly property int _lineWidth: 220
+    readonly property int _fullBoardWidth: 190
+
+    /// Below this width something is cut off.
+    readonly property real minimumWidth: _fullBoardWidth + turn.implicitWidth + playButton.implicitWidth
+                                         + _lineWidth + 5 * theme.spaceMd
 
     spacing: theme.spaceMd
 
     Label {
+        id: title
+
+        visible: root._roomy
         text: qsTr("Strategy View")
         color: root.theme.text
         font.pixelSize: root.type.headingSm
@@ -41,13 +58,15 @@ RowLayout {
     Rectangle {
         Layout.preferredWidth: 1
         Layout.preferredHeight: 28
+        visible: root._roomy
         color: root.theme.stroke
     }
 
     Rectangle {
         Layout.preferredWidth: turn.implicitWidth + 2 * root.theme.spaceMd
         Layout.preferredHeight: 24
-        visible: root._decision
+        // Its place stays, so that a hand that is played doesn't move the head.
+        opacity: root._decision ? 1 : 0
         radius: height / 2
         color: root.theme.withOpacity(root._seatColor, 0.15)
 
@@ -67,6 +86,8 @@ RowLayout {
     }
 
     SecondaryButton {
+        id: playButton
+
         Layout.preferredWidth: Math.max(140, implicitWidth)
         theme: root.theme
         type: root.type
@@ -77,33 +98,26 @@ RowLayout {
         onClicked: root.play.playMode = !root.play.playMode
     }
 
-    StatCard {
-        visible: root._roomy
-        theme: root.theme
-        type: root.type
-        compact: true
-        label: qsTr("EV (OOP)")
-        value: (root.controller.resultEvOop + root.controller.resultStartingPot / 2).toFixed(3)
-        accentColor: root.theme.success
-    }
+    GridLayout {
+        columns: root._roomy ? 3 : 1
+        columnSpacing: root.theme.spaceMd
+        rowSpacing: 2
 
-    StatCard {
-        visible: root._roomy
-        theme: root.theme
-        type: root.type
-        compact: true
-        label: qsTr("EV (IP)")
-        value: (root.controller.resultEvIp + root.controller.resultStartingPot / 2).toFixed(3)
-        accentColor: root.theme.info
-    }
+        Repeater {
+            model: root._figures.length
 
-    StatCard {
-        visible: root._roomy
-        theme: root.theme
-        type: root.type
-        compact: true
-        label: qsTr("Exploitability")
-        value: root.controller.resultExploitability.toFixed(4)
-        accentColor: root.theme.gold
+            StatCard {
+                required property int index
+
+                Layout.preferredWidth: root._roomy ? root._figureWidth : root._lineWidth
+                theme: root.theme
+                type: root.type
+                compact: true
+                inline: !root._roomy
+                label: root._figures[index].label
+                value: root._figures[index].value
+                accentColor: root._figures[index].tone
+            }
+        }
     }
 }

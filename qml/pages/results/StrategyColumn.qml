@@ -5,23 +5,33 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Velmora
 
-/// The strategy grid with its legend, the node's figures, and the lock panel.
+/// The strategy grid with its legend, and the node's figures. Where there is little room the figures by
+/// action beside it are legend enough.
 ColumnLayout {
     id: root
 
     property Theme theme: Fallback.theme
     property Typography type: Fallback.type
-    required property var controller
     required property TreeWalk walk
     required property NodeView view
     required property NodeLocks locks
+    property bool compact: false
+    property alias cellSize: grid.cellSize
+    readonly property alias cellSpacing: grid.cellSpacing
+    /// The height of all but the grid, with a legend of one line.
+    readonly property real fixedHeight: heading.implicitHeight + facts.implicitHeight + 2 * spacing
+                                        + (compact ? 0 : 18 + spacing)
 
     spacing: theme.spaceSm
 
     Label {
-        text: qsTr("Strategy by Hand")
+        id: heading
+
+        Layout.preferredWidth: grid.implicitWidth
+        text: root.view.previews ? qsTr("Strategy by Hand (preview, not solved yet)") : qsTr("Strategy by Hand")
+        wrapMode: Text.Wrap
         color: root.theme.text
-        font.pixelSize: root.type.bodyMd
+        font.pixelSize: root.compact ? root.type.labelMd : root.type.bodyMd
         font.weight: root.type.weightBold
         Accessible.role: Accessible.Heading
     }
@@ -31,7 +41,6 @@ ColumnLayout {
 
         theme: root.theme
         label: qsTr("Strategy by Hand")
-        cellSize: 28
         weightDisplayMode: "verticalFill"
         selectable: true
         opacity: root.view.waiting ? 0.5 : 1
@@ -56,6 +65,7 @@ ColumnLayout {
 
     Flow {
         Layout.preferredWidth: grid.implicitWidth
+        visible: !root.compact
         spacing: root.theme.spaceMd
 
         Repeater {
@@ -89,6 +99,8 @@ ColumnLayout {
     }
 
     RowLayout {
+        id: facts
+
         Layout.preferredWidth: grid.implicitWidth
         spacing: root.theme.spaceMd
 
@@ -98,6 +110,7 @@ ColumnLayout {
             theme: root.theme
             type: root.type
             meta: root.walk.currentMeta
+            compact: root.compact
         }
 
         LockModeButtons {
@@ -105,19 +118,6 @@ ColumnLayout {
             theme: root.theme
             type: root.type
             locks: root.locks
-            node: root.view.node
         }
-    }
-
-    NodeLockPanel {
-        Layout.preferredWidth: grid.implicitWidth
-        visible: root.locks.nodeLockMode
-        theme: root.theme
-        type: root.type
-        controller: root.controller
-        locks: root.locks
-        node: root.view.node
-        lockable: root.walk.currentMeta.nodeType === "decision"
-        actions: root.walk.currentNodeActions
     }
 }

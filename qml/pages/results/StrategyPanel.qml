@@ -1,10 +1,8 @@
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import Velmora
 
-/// How the node on view is played: figures by action, the grid, the categories and the combos. In play
-/// mode the table stands in their place.
+/// How the node on view is played. In play mode the table stands in the place of the views.
 Card {
     id: root
 
@@ -15,19 +13,27 @@ Card {
     required property NodeLocks locks
     required property PlaySession play
 
+    /// Below this width the page scrolls sideways.
+    readonly property real minimumWidth: page.minimumContentWidth + leftPadding + rightPadding
+    /// The height that stays under the head.
+    readonly property real _roomHeight: page.height - 2 * page.margins - header.height - page.spacing
+
     padding: theme.spaceXs
 
     ScrollPage {
+        id: page
+
         anchors.fill: parent
         theme: root.theme
         type: root.type
         margins: root.theme.spaceSm
         fillsHeight: true
         spacing: root.theme.spaceMd
-        minimumContentWidth: 2 * margins + (root.play.playMode ? trainer.Layout.minimumWidth
-                                                               : strategy.implicitWidth + 260 + 250 + 2 * 20)
+        minimumContentWidth: 2 * margins + Math.max(header.minimumWidth, strategy.minimumWidth, trainer.minimumWidth)
 
         ResultsHeader {
+            id: header
+
             Layout.fillWidth: true
             Layout.minimumWidth: 0
             theme: root.theme
@@ -47,63 +53,22 @@ Card {
             type: root.type
             walk: root.walk
             play: root.play
+            roomHeight: root._roomHeight
         }
 
-        Label {
-            visible: !root.play.playMode
-            text: qsTr("Action Frequencies")
-            color: root.theme.text
-            font.pixelSize: root.type.bodyMd
-            font.weight: root.type.weightBold
-            Accessible.role: Accessible.Heading
-        }
+        StrategyViews {
+            id: strategy
 
-        ActionBar {
-            Layout.fillWidth: true
-            Layout.preferredHeight: Math.max(60, contentHeight)
-            visible: !root.play.playMode
-            theme: root.theme
-            type: root.type
-            actions: root.view.actionFrequenciesActions
-        }
-
-        RowLayout {
             Layout.fillWidth: true
             Layout.fillHeight: true
             visible: !root.play.playMode
-            spacing: 20
-
-            StrategyColumn {
-                id: strategy
-
-                Layout.alignment: Qt.AlignTop
-                Layout.fillWidth: false
-                Layout.fillHeight: true
-                theme: root.theme
-                type: root.type
-                controller: root.controller
-                walk: root.walk
-                view: root.view
-                locks: root.locks
-            }
-
-            BucketsCard {
-                Layout.preferredWidth: 300
-                Layout.minimumWidth: 260
-                Layout.fillHeight: true
-                theme: root.theme
-                type: root.type
-                view: root.view
-            }
-
-            HandDetailsCard {
-                Layout.fillWidth: true
-                Layout.minimumWidth: 250
-                Layout.fillHeight: true
-                theme: root.theme
-                type: root.type
-                view: root.view
-            }
+            theme: root.theme
+            type: root.type
+            controller: root.controller
+            walk: root.walk
+            view: root.view
+            locks: root.locks
+            roomHeight: root._roomHeight
         }
     }
 }

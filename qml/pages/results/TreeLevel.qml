@@ -16,6 +16,7 @@ Column {
     required property int nodeIndex
     required property int selectedActionIndex
     required property bool last
+    property bool frequenciesShown: true
 
     readonly property var meta: walk.nodeMeta(nodeIndex)
     readonly property var actions: walk.nodeActions(nodeIndex)
@@ -87,10 +88,11 @@ Column {
             player: root.meta.player
             action: info.name
             actionType: info.actionType
-            frequency: info.frequency
+            frequency: root.decided || root.frequenciesShown ? info.frequency : -1
             pot: childMeta.pot ?? root.meta.pot
             hasChildren: root.walk.nodeActions(info.childIndex).length > 0
             selected: index === root.selectedActionIndex
+            expanded: selected
             onClicked: root.choose(index)
             onToggleExpand: root.choose(index)
         }

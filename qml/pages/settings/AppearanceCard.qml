@@ -37,18 +37,13 @@ SettingsCard {
         note: qsTr("Change the app language (takes effect immediately)")
 
         ChoiceBox {
-            id: languageBox
-
             width: 200
             theme: root.theme
             type: root.type
             label: qsTr("Language")
             model: [qsTr("System default"), ...Languages.OWN_NAMES]
+            choice: Languages.indexOf(root.language)
             onActivated: index => root.languageChosen(Languages.CODES[index])
-
-            Binding on currentIndex {
-                value: Languages.indexOf(root.language)
-            }
         }
     }
 

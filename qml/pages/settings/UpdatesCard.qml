@@ -11,6 +11,9 @@ SettingsCard {
 
     required property var updates
 
+    /// Without an address nothing is checked, which is no fault.
+    readonly property bool _addressSet: updates.manifestUrl !== ""
+
     component Line: Label {
         Layout.fillWidth: true
         visible: text !== ""
@@ -36,12 +39,12 @@ SettingsCard {
         }
 
         Line {
-            text: root._checkedText(root.updates.lastCheckedAt)
+            text: root._addressSet ? root._checkedText(root.updates.lastCheckedAt) : ""
         }
 
         Line {
             text: root.updates.lastError
-            color: root.theme.danger
+            color: root._addressSet ? root.theme.danger : root.theme.textMuted
         }
 
         Line {

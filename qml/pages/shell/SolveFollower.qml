@@ -12,6 +12,8 @@ QtObject {
 
     readonly property bool running: controller.running
     readonly property string statusText: controller.statusText
+    /// The status in the user's language.
+    readonly property string shownStatus: _shown(statusText)
     readonly property bool isFinalizing: running && SolveStatus.isFinalizingText(statusText)
     readonly property bool runComplete: !running && controller.resultIterations > 0
     property int lastIterationSeen: 0
@@ -39,6 +41,33 @@ QtObject {
             return currentIteration > SolveStatus.firstMeasure
                 ? SolveStatus.parseExploitabilityFromStatusText(statusText) : undefined
         return controller.resultExploitability > 0 ? controller.resultExploitability : undefined
+    }
+
+    function _shown(text: string): string {
+        const iteration = SolveStatus.parseIterationLine(text)
+        if (iteration)
+            return qsTr("Iteration %1 | exploitability=%2").arg(iteration.iteration)
+                   .arg(Number(iteration.iteration) > SolveStatus.firstMeasure ? iteration.value : "—")
+        if (text.startsWith("Error: "))
+            return qsTr("Error: %1").arg(text.slice(7))
+        switch (text) {
+        case "Done":
+            return qsTr("Done")
+        case "Cancelled":
+            return qsTr("Cancelled")
+        case "Init: building game object...":
+            return qsTr("Building the cards and the tree...")
+        case "Init: building game tree structures...":
+            return qsTr("Preparing the solver...")
+        case "Init: starting solver...":
+            return qsTr("Starting the solver...")
+        case "Finalizing: computing results...":
+            return qsTr("Computing the results...")
+        case "Finalizing: building result snapshot...":
+            return qsTr("Collecting the tree...")
+        default:
+            return text
+        }
     }
 
     onStatusTextChanged: {

@@ -58,22 +58,15 @@ Card {
             }
 
             ChoiceBox {
-                id: threadBox
-
                 Layout.preferredWidth: 160
                 theme: root.theme
                 type: root.type
                 label: qsTr("Threads")
                 // "Max" is a key; what is shown for it is translated.
                 model: root._threadChoiceModel.map(choice => choice === "Max" ? qsTr("Max") : choice)
-                onActivated: index => root.chooseThreads(root._threadChoiceModel[index])
-
-                Binding {
-                    target: threadBox
-                    property: "currentIndex"
-                    value: root.project.threadCount === root._threads
+                choice: root.project.threadCount === root._threads
                         ? 0 : Math.max(0, root._threadChoiceModel.indexOf(String(root.project.threadCount)))
-                }
+                onActivated: index => root.chooseThreads(root._threadChoiceModel[index])
             }
 
             Label {

@@ -23,14 +23,14 @@ Card {
     function _statusLine(): string {
         const text = follower.statusText
         if (!follower.running)
-            return text || qsTr("Ready to solve")
+            return follower.shownStatus || qsTr("Ready to solve")
         if (follower.isFinalizing)
-            return text || qsTr("Finalizing…")
+            return follower.shownStatus || qsTr("Finalizing…")
         if (follower.currentIteration > 0)
             return _iterationLine(follower.currentIteration, SolveStatus.formatExploitabilityForUi(
                 follower.currentIteration, follower.currentExploitabilityValue))
         const parts = SolveStatus.parseIterationLine(text)
-        return parts ? _iterationLine(parts.iteration, parts.value) : text
+        return parts ? _iterationLine(parts.iteration, parts.value) : follower.shownStatus
     }
 
     ColumnLayout {

@@ -1,52 +1,59 @@
 import QtQuick
 
-/// The latest runs started from the Solve page, the newest first. It lives as long as the program.
+/// The latest runs of this session, the newest first, however each was started.
 QtObject {
     id: root
 
+    required property var controller
     readonly property int limit: 10
-    property bool running: false
-    /// Rows with `runId`, `startedAt`, `status` ("Running", "Completed" or "Cancelled") and `summary`.
+    /// Rows with `runId`, `startedAt`, `status` ("Running", "Completed", "Cancelled", "Failed" or
+    /// "Refused") and `summary`.
     readonly property ListModel rows: ListModel {}
     property int _nextRunId: 1
-    property int _activeRunId: -1
+    property string _asked: ""
 
-    /// Adds a run of a project, which becomes the active one.
-    function append(project: ProjectState) {
-        _activeRunId = _nextRunId++
-        rows.insert(0, {
-            runId: _activeRunId,
-            startedAt: Qt.formatTime(new Date(), "HH:mm:ss"),
-            status: "Running",
-            summary: qsTr("Iterations %1 • Target %2% (≈ %3) • Threads %4")
-                     .arg(project.maxIterations.toLocaleString(Qt.locale(), "f", 0))
-                     .arg(project.targetExploitability)
-                     .arg(project.targetExploitabilityAmount().toFixed(2))
-                     .arg(project.threadCount)
-        })
-        if (rows.count > limit)
-            rows.remove(limit, rows.count - limit)
-    }
+    readonly property Connections _runs: Connections {
+        function onRunStarted(cfg) {
+            root._append(cfg)
+        }
 
-    function markCancelled() {
-        _setActiveStatus("Cancelled")
+        function onRunEnded(outcome, text, iterations) {
+            root._end(outcome, text, iterations)
+        }
+
+        target: root.controller
     }
 
     function clear() {
         rows.clear()
     }
 
-    function _setActiveStatus(status: string) {
-        for (let i = 0; i < rows.count; ++i) {
-            if (rows.get(i).runId === _activeRunId && rows.get(i).status === "Running")
-                rows.setProperty(i, "status", status)
-        }
+    function _count(iterations: int): string {
+        return Number(iterations).toLocaleString(Qt.locale(), "f", 0)
     }
 
-    onRunningChanged: {
-        if (!running) {
-            _setActiveStatus("Completed")
-            _activeRunId = -1
-        }
+    /// Adds the run of a solve configuration map.
+    function _append(cfg: var) {
+        const target = Number(cfg.target_exploitability ?? 0)
+        const pot = Number(cfg.starting_pot ?? 0)
+        _asked = qsTr("Target %1% (≈ %2) • Threads %3")
+                 .arg(pot > 0 ? Number((target / pot * 100).toFixed(3)) : 0).arg(target.toFixed(2))
+                 .arg(cfg.thread_count ?? 1)
+        rows.insert(0, {
+            runId: _nextRunId++,
+            startedAt: Qt.formatTime(new Date(), "HH:mm:ss"),
+            status: "Running",
+            summary: qsTr("At most %1 iterations").arg(_count(cfg.max_iterations ?? 0)) + " • " + _asked
+        })
+        if (rows.count > limit)
+            rows.remove(limit, rows.count - limit)
+    }
+
+    function _end(outcome: string, text: string, iterations: int) {
+        if (rows.count === 0 || rows.get(0).status !== "Running")
+            return
+        const summary = outcome === "Completed" ? qsTr("%1 iterations").arg(_count(iterations)) + " • " + _asked
+                                                : text !== "" ? text : rows.get(0).summary
+        rows.set(0, { status: outcome, summary: summary })
     }
 }

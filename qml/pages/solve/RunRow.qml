@@ -9,13 +9,15 @@ Item {
 
     property Theme theme: Fallback.theme
     property Typography type: Fallback.type
-    required property string status  ///< "Running", "Completed" or "Cancelled".
+    required property string status  ///< As in `RunHistory`.
     required property string startedAt
     required property string summary
 
     readonly property color _color: status === "Running" ? theme.success : status === "Completed" ? theme.info : theme.danger
     readonly property string _statusText: status === "Running" ? qsTr("Running")
-        : status === "Completed" ? qsTr("Completed") : qsTr("Cancelled")
+        : status === "Completed" ? qsTr("Completed")
+        : status === "Failed" ? qsTr("Failed")
+        : status === "Refused" ? qsTr("Refused") : qsTr("Cancelled")
 
     implicitHeight: 34
     Accessible.role: Accessible.ListItem

@@ -2,6 +2,7 @@ import QtQuick
 import "../../logic/solve_status.js" as SolveStatus
 
 /// The time of a run in seconds, its average speed, and what the rest of its iterations would take.
+/// The figures of a run begin anew with it.
 Timer {
     id: root
 
@@ -23,9 +24,11 @@ Timer {
         }
     }
     onRunningChanged: {
-        if (!running) {
+        estimatedRemaining = running ? "--:--" : "00:00"
+        if (running) {
             _seconds = 0
-            estimatedRemaining = "00:00"
+            elapsedTime = "00:00"
+            iterationsPerSec = 0
         }
     }
 }

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls
-import QtQuick.Dialogs
 import QtQuick.Layouts
 import Velmora
 import "../../../logic/file_url.js" as FileUrl
@@ -56,11 +55,14 @@ ColumnLayout {
         wrapMode: Text.Wrap
     }
 
-    FileDialog {
+    FileChooser {
         id: fileDialog
 
+        theme: root.theme
+        type: root.type
+        controller: root.libraries.controller
         title: root._standard ? qsTr("Export Standard Ranges") : qsTr("Export Population Ranges")
-        fileMode: FileDialog.SaveFile
+        fileMode: FileChooser.SaveFile
         nameFilters: [qsTr("JSON (*.json)"), qsTr("All Files (*)")]
         defaultSuffix: "json"
         onAccepted: root.libraries.exportRanges(root.library.rangeCategory, FileUrl.ofLocalFile(selectedFile))

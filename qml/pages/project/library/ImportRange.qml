@@ -1,8 +1,6 @@
 import QtQuick
-import QtQuick.Dialogs
 import Velmora
 import "../../../logic/file_url.js" as FileUrl
-import "../../../logic/range_text.js" as RangeText
 
 /// Brings a range from a text file to the user's own ranges: asks for the file, then for a name.
 Item {
@@ -26,15 +24,20 @@ Item {
     /// Reads a file and asks how to call what is in it.
     function read(file: url) {
         const answer = controller.readTextFile(file)
-        _rangeText = answer.ok ? RangeText.normalizeImportedRangeText(answer.text) : ""
-        nameDialog.fault = !answer.ok ? qsTr("Import failed: %1").arg(answer.error || qsTr("unknown error"))
+        const range = answer.ok ? RangeText.imported(answer.text) : ""
+        const fault = answer.ok ? RangeText.fault(range) : answer.error || qsTr("unknown error")
+        _rangeText = fault === "" ? range : ""
+        nameDialog.fault = fault !== "" ? qsTr("Import failed: %1").arg(fault)
                     : _rangeText === "" ? qsTr("Import failed: file contained no recognizable hands.") : ""
         nameDialog.ask(FileUrl.baseName(file, ".txt"))
     }
 
-    FileDialog {
+    FileChooser {
         id: fileDialog
 
+        theme: root.theme
+        type: root.type
+        controller: root.controller
         title: qsTr("Import Range")
         nameFilters: [qsTr("Range text (*.txt)"), qsTr("All Files (*)")]
         onAccepted: root.read(FileUrl.ofLocalFile(selectedFile))

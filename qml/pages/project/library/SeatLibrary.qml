@@ -87,14 +87,13 @@ QtObject {
             _add(node)
     }
 
+    /// The seat keeps its range: what was copied from the library is the seat's own.
     function deleteSelectedItem() {
         const left = Tree.deleteNode(customRanges, openFolderIds, selectedId)
         selectedId = left.selectedId
         openFolderIds = left.openFolderIds
         customRanges = left.tree
         persistCustomRanges()
-        if (left.rangeText !== undefined)
-            rangeChosen(left.rangeText)
     }
 
     function canOverride(rangeText: string): bool {

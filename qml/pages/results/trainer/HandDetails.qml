@@ -5,7 +5,8 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Velmora
 
-/// A played hand street by street, both holdings, and what came of it.
+/// A played hand street by street, both holdings, and what came of it: in columns, or one under the
+/// other where it is narrow.
 Card {
     id: root
 
@@ -13,10 +14,11 @@ Card {
     /// What `Hand.buildPlayHandDetails` makes.
     required property var details
 
-    /// The width at which nothing has to scroll.
+    /// The width at which the columns have room side by side.
     readonly property int fullWidth: 5 * _minimumColumnWidth
-    readonly property int _minimumColumnWidth: 170
-    readonly property int _columnWidth: Math.max(_minimumColumnWidth, Math.floor(area.width / 5))
+    readonly property bool stacked: width < fullWidth
+    readonly property int _minimumColumnWidth: 165
+    readonly property int _columnWidth: stacked ? area.width : Math.floor(area.width / 5)
 
     signal closeRequested
 
@@ -33,11 +35,11 @@ Card {
         default property alias content: column.data
 
         width: root._columnWidth
-        height: area.height
+        height: root.stacked ? column.implicitHeight + 2 * root.theme.spaceMd : area.height
 
         Rectangle {
-            width: 1
-            height: parent.height
+            width: root.stacked ? parent.width : 1
+            height: root.stacked ? 1 : parent.height
             visible: section.divided
             color: root.theme.stroke
         }
@@ -46,6 +48,7 @@ Card {
             id: column
 
             anchors.fill: parent
+            anchors.topMargin: root.stacked ? root.theme.spaceSm : 0
             anchors.leftMargin: root.theme.spaceMd
             anchors.rightMargin: root.theme.spaceSm
             spacing: root.theme.spaceSm
@@ -66,6 +69,7 @@ Card {
 
         height: 44
         Layout.preferredHeight: 44
+        visible: !root.stacked || Array.from(cards).some(card => card !== "")
         spacing: root.theme.spaceXs
 
         Repeater {
@@ -117,7 +121,8 @@ Card {
 
         ListView {
             Layout.fillWidth: true
-            Layout.fillHeight: true
+            Layout.fillHeight: !root.stacked
+            implicitHeight: root.stacked ? contentHeight : 0
             clip: true
             spacing: 2
             boundsBehavior: Flickable.StopAtBounds
@@ -168,18 +173,18 @@ Card {
             Layout.fillHeight: true
             implicitHeight: 0
             clip: true
-            contentWidth: Math.max(width, columns.width)
-            contentHeight: height
+            contentWidth: width
+            contentHeight: root.stacked ? columns.height : height
             boundsBehavior: Flickable.StopAtBounds
 
-            ScrollBar.horizontal: AppScrollBar {
+            ScrollBar.vertical: AppScrollBar {
                 theme: root.theme
-                // The padding at the right end may go out of sight.
-                policy: area.contentWidth > area.width + root.theme.spaceSm ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
             }
 
-            Row {
+            Grid {
                 id: columns
+
+                columns: root.stacked ? 1 : 5
 
                 Street {
                     title: qsTr("Flop")

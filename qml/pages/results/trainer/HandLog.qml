@@ -12,6 +12,14 @@ Card {
     property Typography type: Fallback.type
     required property PlayLog log
 
+    /// The user asked for the details of a hand.
+    signal handChosen
+
+    function _choose(index: int) {
+        log.userSelectPlayLog(index)
+        handChosen()
+    }
+
     padding: theme.spaceMd
 
     ColumnLayout {
@@ -50,8 +58,8 @@ Card {
             highlightMoveDuration: 0
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Hand Log")
-            Keys.onReturnPressed: root.log.userSelectPlayLog(currentIndex)
-            Keys.onSpacePressed: root.log.userSelectPlayLog(currentIndex)
+            Keys.onReturnPressed: root._choose(currentIndex)
+            Keys.onSpacePressed: root._choose(currentIndex)
 
             ScrollBar.vertical: AppScrollBar {
                 theme: root.theme
@@ -86,7 +94,7 @@ Card {
                 focused: list.activeFocus && list.currentIndex === index
                 onClicked: {
                     list.currentIndex = index
-                    root.log.userSelectPlayLog(index)
+                    root._choose(index)
                 }
             }
 

@@ -8,7 +8,7 @@ QtObject {
 
     required property var controller
     required property real rakePercent
-    required property int rakeCap
+    required property real rakeCap
     /// Rows as `Hand.logEntry` makes them.
     readonly property ListModel playHandLog: ListModel {}
     property bool playFollowLatestHandDetails: true

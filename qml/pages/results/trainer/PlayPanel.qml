@@ -3,7 +3,8 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Velmora
 
-/// Play mode: the table with the details of a hand under it, and the log of the hands.
+/// Play mode: the table with the details of a hand under it, and the log of the hands. Where there is
+/// little room, log and details share the place beside the table.
 FocusScope {
     id: root
 
@@ -12,9 +13,22 @@ FocusScope {
     required property TreeWalk walk
     required property PlaySession play
 
-    readonly property int _minimumTableWidth: 404
+    /// The height that the page has for it without scrolling.
+    property real roomHeight: 0
 
-    Layout.minimumWidth: _minimumTableWidth + log.Layout.minimumWidth + content.spacing
+    /// Below this width something is cut off.
+    readonly property real minimumWidth: _minimumTableWidth + _logMinimumWidth + theme.spaceSm
+    /// Whether log and details of a hand share a place.
+    readonly property bool compact: width < details.fullWidth + _logMinimumWidth + theme.spaceSm
+                                    || roomHeight < _detailsHeight + _roomyTableHeight
+
+    readonly property int _minimumTableWidth: 404
+    readonly property int _roomyTableHeight: 440
+    readonly property int _logMinimumWidth: 300
+    readonly property int _detailsHeight: 260
+    readonly property real _asideTop: compact ? tabs.height + theme.spaceSm : 0
+    property bool _detailsChosen: false
+
     implicitHeight: column.implicitHeight
     onVisibleChanged: {
         if (visible)
@@ -60,61 +74,83 @@ FocusScope {
             }
         }
 
-        RowLayout {
+        Item {
             id: content
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            spacing: root.theme.spaceSm
+            implicitHeight: root._minimumTableWidth * table.pictureRatio
+                            + (root.compact ? 0 : root._detailsHeight + root.theme.spaceSm)
 
-            Item {
-                id: left
+            PlayTable {
+                id: table
 
-                readonly property real detailsHeight: details.visible ? details.height + root.theme.spaceSm : 0
+                width: content.width - log.width - root.theme.spaceSm
+                height: content.height - (!root.compact && details.visible ? details.height + root.theme.spaceSm : 0)
+                theme: root.theme
+                type: root.type
+                walk: root.walk
+                play: root.play
+                onCardChangeWanted: (levelIndex, nodeIndex) => picker.openChancePicker(levelIndex, nodeIndex)
+            }
 
-                Layout.fillWidth: true
-                Layout.fillHeight: true
-                Layout.minimumWidth: root._minimumTableWidth
-                Layout.minimumHeight: root._minimumTableWidth * table.pictureRatio + detailsHeight
-                implicitHeight: Layout.minimumHeight
+            TabStrip {
+                id: tabs
 
-                PlayTable {
-                    id: table
-
-                    width: left.width
-                    height: left.height - left.detailsHeight
-                    theme: root.theme
-                    type: root.type
-                    walk: root.walk
-                    play: root.play
-                    onCardChangeWanted: (levelIndex, nodeIndex) => picker.openChancePicker(levelIndex, nodeIndex)
-                }
-
-                HandDetails {
-                    id: details
-
-                    y: table.height + root.theme.spaceSm
-                    width: left.width
-                    height: 260
-                    visible: root.play.log.playHandDetails !== null
-                    theme: root.theme
-                    type: root.type
-                    details: root.play.log.playHandDetails
-                    onCloseRequested: root.play.log.closeHandDetails()
-                }
+                x: content.width - width
+                width: log.width
+                visible: root.compact
+                theme: root.theme
+                type: root.type
+                labels: [qsTr("Hand Log"), qsTr("Hand details")]
+                currentIndex: root._detailsChosen ? 1 : 0
+                onChosen: index => root._detailsChosen = index === 1
             }
 
             HandLog {
                 id: log
 
                 // It gives way to the details, which need some width.
-                Layout.preferredWidth: Math.max(Layout.minimumWidth, Math.min(340, content.width - content.spacing - details.fullWidth))
-                Layout.minimumWidth: 300
-                Layout.fillHeight: true
-                implicitHeight: 0
+                readonly property real room: content.width - root.theme.spaceSm
+                                             - (root.compact ? 1.6 * root._minimumTableWidth : details.fullWidth)
+
+                x: content.width - width
+                y: root._asideTop
+                width: Math.max(root._logMinimumWidth, Math.min(340, room))
+                height: content.height - y
+                visible: !root.compact || !root._detailsChosen
                 theme: root.theme
                 type: root.type
                 log: root.play.log
+                onHandChosen: root._detailsChosen = true
+            }
+
+            HandDetails {
+                id: details
+
+                x: root.compact ? log.x : 0
+                y: root.compact ? root._asideTop : content.height - height
+                width: root.compact ? log.width : table.width
+                height: root.compact ? log.height : root._detailsHeight
+                visible: root.play.log.playHandDetails !== null && (!root.compact || root._detailsChosen)
+                theme: root.theme
+                type: root.type
+                details: root.play.log.playHandDetails
+                onCloseRequested: {
+                    root._detailsChosen = false
+                    root.play.log.closeHandDetails()
+                }
+            }
+
+            Label {
+                x: log.x
+                y: root._asideTop + root.theme.spaceSm
+                width: log.width
+                visible: root.compact && root._detailsChosen && !details.visible
+                text: qsTr("Choose a hand in the log.")
+                color: root.theme.textMuted
+                font.pixelSize: root.type.bodySm
+                wrapMode: Text.Wrap
             }
         }
     }

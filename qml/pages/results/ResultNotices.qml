@@ -1,0 +1,138 @@
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+
+/// What a reader of the results must know about them: that a solve runs which will replace them, how
+/// the last one ended, that Setup shows another spot by now, that locks wait to be solved.
+ColumnLayout {
+    id: root
+
+    property Theme theme: Fallback.theme
+    property Typography type: Fallback.type
+    required property var controller
+    required property SolveFollower follower
+    /// Whether Setup shows another spot than that of the result.
+    required property bool setupDiffers
+    /// Why the figures of the node on view are missing; empty if they are not.
+    required property string nodeError
+
+    /// The run whose end the user has read about.
+    property int _readRevision: -1
+    property int _runRevision: 0
+    readonly property bool _endedBadly: !follower.running && _readRevision !== _runRevision
+        && ["Cancelled", "Failed", "Refused"].includes(controller.lastRunOutcome)
+
+    readonly property bool _locksWait: controller.locksPending && !follower.running
+    readonly property bool _setupWaits: setupDiffers && !follower.running
+
+    signal solveAgainRequested
+    signal setupWanted
+
+    function _lastRunLine(): string {
+        switch (controller.lastRunOutcome) {
+        case "Cancelled":
+            return qsTr("The last solve was cancelled. These are the results of the solve before.")
+        case "Refused":
+            return qsTr("The last solve was not started: %1. These are the results of the solve before.")
+                   .arg(controller.lastRunText)
+        default:
+            return qsTr("The last solve failed: %1. These are the results of the solve before.")
+                   .arg(controller.lastRunText)
+        }
+    }
+
+    visible: follower.running || _endedBadly || nodeError !== "" || _locksWait || _setupWaits
+    spacing: theme.spaceXs
+
+    Connections {
+        function onLastRunChanged() {
+            ++root._runRevision
+        }
+
+        target: root.controller
+    }
+
+    NoticeStrip {
+        Layout.fillWidth: true
+        visible: root.follower.running
+        theme: root.theme
+        type: root.type
+        accentColor: root.theme.success
+        progress: root.follower.progressWheelValue
+        text: qsTr("Solving. These are the results of the solve before, until the new ones are there. %1")
+              .arg(root.follower.shownStatus)
+
+        SmallButton {
+            theme: root.theme
+            type: root.type
+            text: qsTr("Cancel")
+            onClicked: root.controller.cancelSolve()
+        }
+    }
+
+    NoticeStrip {
+        Layout.fillWidth: true
+        visible: root._endedBadly
+        theme: root.theme
+        type: root.type
+        accentColor: root.theme.warn
+        text: root._endedBadly ? root._lastRunLine() : ""
+
+        SmallButton {
+            theme: root.theme
+            type: root.type
+            text: qsTr("OK")
+            onClicked: root._readRevision = root._runRevision
+        }
+    }
+
+    NoticeStrip {
+        Layout.fillWidth: true
+        visible: root.nodeError !== ""
+        theme: root.theme
+        type: root.type
+        accentColor: root.theme.danger
+        text: qsTr("Figures of this node are missing: %1").arg(root.nodeError)
+    }
+
+    NoticeStrip {
+        Layout.fillWidth: true
+        visible: root._locksWait
+        theme: root.theme
+        type: root.type
+        accentColor: root.theme.warn
+        text: root.controller.lockCount > 0
+              ? qsTr("The node locks (%1) are not solved yet. At their nodes the grid, the buckets and the hands show a preview; all other figures are those from before.")
+                .arg(root.controller.lockCount)
+              : qsTr("The node locks of this result were removed. It still shows the solve with them.")
+
+        SmallButton {
+            theme: root.theme
+            type: root.type
+            text: qsTr("Re-solve")
+            onClicked: root.controller.reSolveWithNodeLocks()
+        }
+    }
+
+    NoticeStrip {
+        Layout.fillWidth: true
+        visible: root._setupWaits
+        theme: root.theme
+        type: root.type
+        text: qsTr("Setup has changed since this solve")
+
+        SmallButton {
+            theme: root.theme
+            type: root.type
+            text: qsTr("Solve again")
+            onClicked: root.solveAgainRequested()
+        }
+
+        SmallButton {
+            theme: root.theme
+            type: root.type
+            text: qsTr("Take back the setup of this result")
+            onClicked: root.setupWanted()
+        }
+    }
+}
