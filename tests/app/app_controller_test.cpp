@@ -485,7 +485,7 @@ TEST_F(AppControllerTest, EstimatesTheSpotOnScreen) {
   std::string error;
   const auto estimate = velmora_app::estimate_memory(makeSolveConfig(riverSpot()), error);
   ASSERT_TRUE(estimate) << error;
-  EXPECT_EQ(controller.solveRequiredMemoryBytes(), estimate->total_bytes);
+  EXPECT_EQ(controller.solveRequiredMemoryBytes(), estimate->peak_bytes);
   controller.requestSolveMemoryEstimate({});
   ASSERT_TRUE(waitUntil([&] { return controller.solveRequiredMemoryBytes() == 0; }));
   EXPECT_EQ(controller.solveRequiredMemoryText(), "—");
