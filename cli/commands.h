@@ -8,7 +8,7 @@
 
 #include <QString>
 
-enum ExitStatus : int { kDone = 0, kFailed = 1, kWrongUse = 2, kCancelled = 130 };
+enum ExitStatus : int { kDone = 0, kFailed = 1, kWrongUse = 2, kTimeUp = 3, kInterrupted = 130 };
 
 /// Input that can't be used. The text is one line for the user.
 struct InputFault : std::runtime_error {
@@ -18,14 +18,17 @@ struct InputFault : std::runtime_error {
 
 struct SolveRequest {
   QString spot_path;
+  QString output_path;                      ///< Of the result; standard output if empty.
   QString export_path;                      ///< Empty for no export.
   QString locks_path;                       ///< Empty for no locks.
   std::optional<std::uint64_t> threads;     ///< All processors of this process if absent.
   std::optional<std::uint32_t> iterations;  ///< The spot's limit if absent.
+  std::optional<std::uint64_t> seconds;     ///< Time limit from the start of the command.
   bool quiet = false;
 };
 
-/// Solves a spot and writes the result as JSON to standard output. Throws `InputFault`.
+/// Solves a spot and writes the result as JSON. A signal or the time limit stops the solve and
+/// keeps what is there. Throws `InputFault`.
 ExitStatus solve(const SolveRequest& request);
 
 /// Writes the memory estimate of the same solve as JSON to standard output. Throws `InputFault`.

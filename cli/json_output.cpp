@@ -64,7 +64,7 @@ QJsonObject result_object(const SolveResult& result, const std::optional<MemoryE
     percent = number(result.exploitability / static_cast<float>(result.starting_pot) * 100);
   }
   const MemoryEstimate size = estimate.value_or(MemoryEstimate{});
-  return {
+  QJsonObject object{
       {"success", result.success},
       {"error", QString::fromStdString(result.error)},
       {"board", QString::fromStdString(result.board)},
@@ -81,10 +81,17 @@ QJsonObject result_object(const SolveResult& result, const std::optional<MemoryE
       {"root_actions", actions},
       {"history", measures},
       {"seconds", QJsonObject{{"build", result.build_seconds}, {"solve", result.solve_seconds}}}};
+  if (result.stopped) object["stopped"] = true;
+  if (result.stalled) object["stalled"] = true;
+  return object;
+}
+
+QByteArray json_text(const QJsonObject& object) {
+  return QJsonDocument(object).toJson(QJsonDocument::Indented);
 }
 
 void print_json(const QJsonObject& object) {
-  const QByteArray text = QJsonDocument(object).toJson(QJsonDocument::Indented);
+  const QByteArray text = json_text(object);
   const auto size = static_cast<std::size_t>(text.size());
   if (std::fwrite(text.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0) {
     throw InputFault("The result can't be written to standard output.");

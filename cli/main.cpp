@@ -13,6 +13,7 @@
 namespace {
 
 constexpr std::uint64_t kMaxThreads = 1024;
+constexpr std::uint64_t kMaxSeconds = 100'000'000;
 
 constexpr const char* kOverview =
     "Usage: dunmarrow-cli <command> [options]\n"
@@ -28,7 +29,8 @@ constexpr const char* kOverview =
     "  -h, --help           show this text, or that of a command\n"
     "  -v, --version        show the version\n"
     "\n"
-    "Exit status: 0 done, 1 failed, 2 wrong use, 130 cancelled by Ctrl+C.\n";
+    "Exit status: 0 done, 1 failed, 2 wrong use, 3 stopped by the time limit,\n"
+    "130 stopped by Ctrl+C or SIGTERM. A solve that is stopped gives what is there so far.\n";
 
 void print(std::FILE* stream, const QString& text) {
   std::fputs(text.toLocal8Bit().constData(), stream);
@@ -108,21 +110,32 @@ const QCommandLineOption kLocks("locks",
 ExitStatus run_solve(const QStringList& arguments) {
   CommandLine line("solve",
                    "Solves a spot: a JSON file with a solve configuration map or a "
-                   "project. The result is one JSON object on standard output.");
+                   "project. The result is one JSON object on standard output. Ctrl+C, SIGTERM "
+                   "and the time limit stop the solve and give what is there so far, with "
+                   "\"success\" false and \"stopped\" true.");
   line.parser().addPositionalArgument("SPOT.json", "The spot.");
   line.parser().addOptions(
       {kThreads,
        {"iterations", "Limit of iterations instead of the spot's.", "N"},
+       {"time-limit",
+        "Stop after so many seconds with what is there; exit status 3. The iteration in progress "
+        "is "
+        "completed first.",
+        "SECONDS"},
+       {"output", "Write the result to FILE, at once and whole, instead of standard output.",
+        "FILE"},
        {"export", "Write the strategy of every decision node to FILE as JSON lines.", "FILE"},
        kLocks,
        {"quiet", "No progress on standard error."}});
   SolveRequest request;
   if (!line.read(arguments, 1) || !line.number("threads", 1, kMaxThreads, request.threads) ||
       !line.number("iterations", 0, std::numeric_limits<std::uint32_t>::max(),
-                   request.iterations)) {
+                   request.iterations) ||
+      !line.number("time-limit", 1, kMaxSeconds, request.seconds)) {
     return line.status();
   }
   request.spot_path = line.argument();
+  request.output_path = line.parser().value("output");
   request.export_path = line.parser().value("export");
   request.locks_path = line.parser().value("locks");
   request.quiet = line.parser().isSet("quiet");

@@ -25,7 +25,7 @@ using velmora_app::SolveSession;
 namespace {
 
 constexpr std::chrono::milliseconds kInterruptPoll{50};
-constexpr const char* kCancelledText = "Cancelled";
+constexpr const char* kStoppedEarly = "Stopped before the first iteration: there is no result yet";
 
 void complain(const QString& text) {
   std::fprintf(stderr, "dunmarrow-cli: %s\n", text.toLocal8Bit().constData());
@@ -47,9 +47,24 @@ struct Outcome {
   std::vector<Measure> history;
 };
 
-/// Runs the solve to its end and gives its result. A signal cancels it.
-SolveResult run_to_end(SolveSession& session, const SolveConfig& config, ProgressLine& line,
-                       Outcome& outcome) {
+/// Ends the solve: a signal, or the end of its time.
+class Deadline {
+ public:
+  explicit Deadline(std::optional<std::uint64_t> seconds) {
+    if (seconds) end_ = Clock::now() + std::chrono::seconds(*seconds);
+  }
+  bool time_is_up() const { return end_ && Clock::now() >= *end_; }
+  bool reached() const { return interrupted() || time_is_up(); }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  std::optional<Clock::time_point> end_;
+};
+
+/// Runs the solve to its end, or until it must stop, and gives its result.
+SolveResult run_to_end(SolveSession& session, const SolveConfig& config, const Deadline& deadline,
+                       ProgressLine& line, Outcome& outcome) {
   session.start(config, [&](const SolveProgress& report) {
     const bool measured =
         report.iteration > 0 && (report.iteration % velmora_app::kCheckInterval == 0 ||
@@ -64,10 +79,16 @@ SolveResult run_to_end(SolveSession& session, const SolveConfig& config, Progres
   std::unique_lock lock(outcome.mutex);
   while (
       !outcome.arrived.wait_for(lock, kInterruptPoll, [&] { return outcome.result.has_value(); })) {
-    if (interrupted()) session.cancel();
+    if (deadline.reached()) session.stop_and_keep();
   }
   line.clear();
-  return *outcome.result;
+  const SolveResult& result = *outcome.result;
+  // A run that is stopped measures once more.
+  if (result.stopped && result.iterations > 0 &&
+      (outcome.history.empty() || outcome.history.back().first != result.iterations)) {
+    outcome.history.emplace_back(result.iterations, result.exploitability);
+  }
+  return result;
 }
 
 /// Names the locks that met no node, action or hand of the tree.
@@ -92,21 +113,44 @@ void report_idle_locks(const velmora::Game& game, const SolveConfig& config) {
   }
 }
 
-/// Writes the solution and puts the file in place; what stood there before stays on any failure.
+/// Writes the solution and puts the file in place; what stood there before stays on any failure. A
+/// signal that comes only now ends the writing.
 ExitStatus write_export(const velmora_app::SolvedSpot& spot, const SolveConfig& config,
                         QSaveFile& file) {
+  const bool goes_on = interrupted();
   const bool complete = export_solution(spot, config, [&](const std::string& line) {
     const auto size = static_cast<qint64>(line.size());
-    return file.write(line.data(), size) == size && file.putChar('\n') && !interrupted();
+    return file.write(line.data(), size) == size && file.putChar('\n') &&
+           (goes_on || !interrupted());
   });
   if (complete && file.commit()) return kDone;
   file.cancelWriting();
-  if (interrupted()) {
+  if (interrupted() && !goes_on) {
     complain("The export was cancelled.");
-    return kCancelled;
+    return kInterrupted;
   }
   complain(file.fileName() + ": " + file.errorString());
   return kFailed;
+}
+
+/// Opens the file of an option, if it has one: a path that can't be written should not cost a
+/// solve.
+void open_for_writing(QSaveFile& file) {
+  if (!file.fileName().isEmpty() && !file.open(QIODevice::WriteOnly)) {
+    throw InputFault(file.fileName() + ": " + file.errorString());
+  }
+}
+
+/// Writes the result to its file, which replaces an older one in one step, or to standard output.
+void write_result(const QJsonObject& object, QSaveFile& file) {
+  if (!file.isOpen()) {
+    print_json(object);
+    return;
+  }
+  const QByteArray text = json_text(object);
+  if (file.write(text) != text.size() || !file.commit()) {
+    throw InputFault(file.fileName() + ": " + file.errorString());
+  }
 }
 
 SolveConfig config_of(const SolveRequest& request) {
@@ -135,13 +179,12 @@ ExitStatus estimate(const SolveRequest& request) {
 
 ExitStatus solve(const SolveRequest& request) {
   catch_interrupts();
+  const Deadline deadline(request.seconds);
   const SolveConfig config = config_of(request);
-
-  // Opened first: a path that can't be written should not cost a solve.
   QSaveFile export_file(request.export_path);
-  if (!request.export_path.isEmpty() && !export_file.open(QIODevice::WriteOnly)) {
-    throw InputFault(request.export_path + ": " + export_file.errorString());
-  }
+  QSaveFile output_file(request.output_path);
+  open_for_writing(export_file);
+  open_for_writing(output_file);
 
   // A fault of the estimate comes up again in the run, in the run's own words.
   std::string estimate_error;
@@ -155,21 +198,29 @@ ExitStatus solve(const SolveRequest& request) {
   if (estimate) result.error = shortage_of(*estimate);
   if (!result.error.empty()) {
     // Nothing is started.
-  } else if (interrupted()) {
-    result.error = kCancelledText;
+  } else if (deadline.reached()) {
+    result.stopped = true;
+    result.error = kStoppedEarly;
   } else {
-    result = run_to_end(session, config, line, outcome);
+    result = run_to_end(session, config, deadline, line, outcome);
   }
 
   ExitStatus status = kDone;
-  if (result.success) {
-    const velmora_app::SolvedSpot spot = session.solved_spot();
-    report_idle_locks(*spot.game, config);
-    if (export_file.isOpen()) status = write_export(spot, config, export_file);
-  } else {
-    complain(QString::fromStdString(result.error));
-    status = interrupted() && result.error == kCancelledText ? kCancelled : kFailed;
+  if (!result.error.empty()) complain(QString::fromStdString(result.error));
+  if (result.stopped) {
+    status = interrupted() ? kInterrupted : kTimeUp;
+  } else if (!result.success) {
+    status = kFailed;
+  } else if (result.stalled) {
+    complain("The exploitability falls no further: free hands at locked nodes don't learn.");
   }
-  print_json(result_object(result, estimate, outcome.history));
+  if (const velmora_app::SolvedSpot spot = session.solved_spot(); spot.solver) {
+    report_idle_locks(*spot.game, config);
+    if (export_file.isOpen()) {
+      const ExitStatus exported = write_export(spot, config, export_file);
+      if (exported != kDone) status = exported;
+    }
+  }
+  write_result(result_object(result, estimate, outcome.history), output_file);
   return status;
 }

@@ -62,8 +62,8 @@ const std::vector<Rule>& spot_rules() {
                             {"starting_street", Type::kText},
                             {"oop_range", Type::kText},
                             {"ip_range", Type::kText},
-                            {"starting_pot", Type::kWhole, 0, kMaxChips},
-                            {"effective_stack", Type::kWhole, 0, kMaxChips},
+                            {"starting_pot", Type::kWhole, 1, kMaxChips},
+                            {"effective_stack", Type::kWhole, 1, kMaxChips},
                             {"max_iterations", Type::kWhole, 0, kMaxCount},
                             {"thread_count", Type::kWhole, 0, kMaxCount},
                             {"rake_percent", Type::kNumber, 0, 100},
@@ -141,7 +141,15 @@ QVariantMap read_map(const QString& path) {
     refuse(path, "Unrecognized project format");
   }
   if (object["version"].toInt() != 1) refuse(path, "Unsupported project version");
-  return solveConfigMapOfProject(object["project"].toObject().toVariantMap());
+  const QJsonObject project = object["project"].toObject();
+  // A percentage of the pot there, so it becomes another number before it is looked at.
+  const Rule target{"targetExploitability", Type::kNumber, 0, kMaxExact};
+  const QJsonValue percent = project[target.key];
+  if (!percent.isUndefined() && !percent.isNull()) {
+    const QString fault = violation(percent, target);
+    if (!fault.isEmpty()) refuse(path, "\"" + target.key + "\" " + fault);
+  }
+  return solveConfigMapOfProject(project.toVariantMap());
 }
 
 /// The cards of the text, refused at the first fault instead of read around it.

@@ -20,6 +20,15 @@ DiscountParams discount_params(std::uint32_t i) {
   return {static_cast<float>(p / (p + 1)), 0.5F, static_cast<float>(g * g * g)};
 }
 
+bool StallWatch::add(float exploitability) {
+  measures_.push_back(exploitability);
+  if (measures_.size() < kLeastMeasures) return false;
+  const auto half = measures_.begin() + static_cast<std::ptrdiff_t>(measures_.size() / 2);
+  const float before = *std::min_element(measures_.begin(), half);
+  const float since = *std::min_element(half, measures_.end());
+  return static_cast<double>(since) > (1 - kLeastFall) * static_cast<double>(before);
+}
+
 DiscountedCfr::DiscountedCfr(SolverOptions options) : options_(std::move(options)) {
   if (options_.threads >= 2) pool_ = std::make_unique<WorkerPool>(options_.threads - 1);
 }
@@ -59,12 +68,20 @@ void DiscountedCfr::run(Game& game) {
   using Clock = std::chrono::steady_clock;
   exploitability_ = 0;
   iterations_done_ = 0;
+  stopped_ = stalled_ = false;
   prepare_states(game);
   const Clock::time_point run_start = Clock::now();
+  StallWatch stall_watch;
+  bool measured = true;
 
   for (std::uint32_t i = 1; i <= options_.max_iterations && i != 0; ++i) {
     // Step 1. The iteration, unless somebody wants the run to end.
     if (options_.cancel && options_.cancel()) break;
+    if (options_.stop && options_.stop()) {
+      stopped_ = true;
+      if (!measured) exploitability_ = measure_exploitability(game);
+      break;
+    }
     const Clock::time_point start = Clock::now();
     iterations_done_ = i;
     run_iteration(game, i - 1);
@@ -73,6 +90,7 @@ void DiscountedCfr::run(Game& game) {
     const bool checks = i == options_.max_iterations ||
                         (options_.check_interval != 0 && i % options_.check_interval == 0);
     if (checks) exploitability_ = measure_exploitability(game);
+    measured = checks;
 
     // Step 3. The report.
     const auto micros =
@@ -88,6 +106,11 @@ void DiscountedCfr::run(Game& game) {
     if (options_.check_interval != 0 && checks &&
         options_.target_exploitability >= exploitability_) {
       break;
+    }
+    const bool at_interval = options_.check_interval != 0 && i % options_.check_interval == 0;
+    if (at_interval && game.has_node_locks() && stall_watch.add(exploitability_)) {
+      stalled_ = i != options_.max_iterations;
+      if (stalled_) break;
     }
   }
 

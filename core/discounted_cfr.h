@@ -30,6 +30,29 @@ struct SolverOptions {
   std::function<void(std::uint32_t, float, double)> progress;
   /// Asked before each iteration whether to stop; may be empty.
   std::function<bool()> cancel;
+  /// Asked before each iteration whether to end the run with what there is: it is measured, and
+  /// then the run is over. May be empty.
+  std::function<bool()> stop;
+};
+
+/// Notices that the exploitability of a game with node locks falls no more. At a locked node the
+/// hands that are free don't learn, so it has a limit above 0 that no number of iterations goes
+/// below. While a solve converges, each doubling of the iterations brings the exploitability down
+/// by a fixed share (a half at a rate of 1/t, three tenths at the guaranteed 1/sqrt(t)), however
+/// late it is. So the solve has stalled once the best measure of the second half of its iterations
+/// is less than a hundredth below the best one of the first half.
+class StallWatch {
+ public:
+  /// Measures before a verdict.
+  static constexpr std::size_t kLeastMeasures = 10;
+  static constexpr double kLeastFall = 0.01;
+
+  /// Takes the measures in order; they must be equally many iterations apart. True if the solve has
+  /// stalled.
+  bool add(float exploitability);
+
+ private:
+  std::vector<float> measures_;
 };
 
 /// The discounts of the iteration with index i, from 0: exponents 1.5, 0 and 3 on the iteration
@@ -70,6 +93,11 @@ class DiscountedCfr {
   float exploitability() const { return exploitability_; }
   /// Count of the iteration last begun.
   std::uint32_t iterations_done() const { return iterations_done_; }
+
+  /// True if the last run was ended by `SolverOptions::stop`.
+  bool stopped() const { return stopped_; }
+  /// True if the last run ended because node locks keep the exploitability from falling further.
+  bool stalled() const { return stalled_; }
 
   /// What each seat expects, in chips, when both play their average strategies.
   std::array<float, 2> cf_values(const Game& game) const;
@@ -117,6 +145,8 @@ class DiscountedCfr {
   SolverOptions options_;
   float exploitability_ = 0;
   std::uint32_t iterations_done_ = 0;
+  bool stopped_ = false;
+  bool stalled_ = false;
   SolverState states_;
   std::unique_ptr<WorkerPool> pool_;   ///< Absent with one worker.
   StreetShape shape_;                  ///< Of the whole tree.

@@ -32,6 +32,7 @@ class Game {
 
   /// Stores a lock table under a node, replacing an earlier one.
   void set_node_lock(std::size_t node, LockTable table);
+  bool has_node_locks() const { return !node_lock_table_.empty(); }
   /// The lock table of a node, or null; an empty table counts as none.
   const LockTable* find_node_lock(std::size_t node) const;
 

@@ -12,6 +12,7 @@ namespace velmora_app {
 namespace {
 
 constexpr char kFailed[] = "Error: ";
+constexpr char kStopped[] = "Stopped";
 /// What `std::bad_alloc` says, in a text that needs no memory of its own.
 constexpr char kNoMemory[] = "std::bad_alloc";
 
@@ -81,6 +82,7 @@ bool SolveSession::start(const SolveConfig& config, Callback callback) {
   if (worker_.joinable()) worker_.join();
   running_ = true;
   cancel_requested_ = false;
+  stop_requested_ = false;
   last_report_delivered_ = false;
   clear();
   try {
@@ -104,13 +106,20 @@ void SolveSession::work(const SolveConfig& config, const Callback& callback, End
   SolveResult& result = ending.result;
   try {
     SolvedSpot solved = run_solve(
-        config, [this] { return cancel_requested_.load(); }, report, result);
+        config, [this] { return cancel_requested_.load(); },
+        [this] { return stop_requested_.load(); }, report, result);
     if (solved.solver) {
-      result.success = true;
-      last.progress = 1;
-      last.status = "Done";
+      result.success = !result.stopped;
+      last.progress = result.stopped ? fraction_of(result.iterations, config.max_iterations) : 1;
+      last.status = result.stopped   ? kStopped
+                    : result.stalled ? "Done: node locks keep the exploitability from falling"
+                                     : "Done";
+      if (result.stopped) result.error = "Stopped before the target was reached";
       const std::lock_guard lock(mutex_);
       solved_ = std::move(solved);
+    } else if (result.stopped) {
+      last.status = kStopped;
+      result.error = "Stopped before the first iteration: there is no result yet";
     } else {
       last.status = "Cancelled";
       result.error = "Cancelled";
@@ -125,7 +134,7 @@ void SolveSession::work(const SolveConfig& config, const Callback& callback, End
   try {
     for (int attempt = 1; !deliver(report, last); ++attempt) {
       if (attempt == kMostDeliveries) break;
-      if (last.result->success) {
+      if (last.result->nodes) {
         // The receiver has no room for the result. Once that is gone it may have room for the news.
         clear();
         result = {};

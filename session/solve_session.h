@@ -50,9 +50,14 @@ struct SolveConfig {
 };
 
 /// What a run delivers. A failed or cancelled run has `success` false and only what was filled
-/// up to then.
+/// up to then. A stopped one has `success` false too, but all fields, if it had begun to iterate.
 struct SolveResult {
   bool success = false;
+  /// Ended by `SolveSession::stop_and_keep`, before it reached the target or the limit.
+  bool stopped = false;
+  /// A success that ended before the target and the limit: the hands without a lock at locked nodes
+  /// don't learn, which keeps the exploitability from falling any further.
+  bool stalled = false;
   std::string error;  ///< Empty on success.
   std::string board;
   std::int32_t starting_pot = 0;
@@ -103,6 +108,11 @@ class SolveSession {
   bool start(const SolveConfig& config, Callback callback);
   /// Asks the run to stop. The iteration in progress is completed first.
   void cancel() { cancel_requested_ = true; }
+  /// Asks the run to end with what it has. The iteration in progress is completed and measured, and
+  /// the last report carries all figures, with `success` false and `stopped` true; the session
+  /// keeps the game and the solver. A run that has not begun to iterate ends without them. A cancel
+  /// goes before it; a run that is over when it arrives ends as it would have.
+  void stop_and_keep() { stop_requested_ = true; }
   /// Drops the game and the solver of the last completed run.
   void clear();
   bool running() const { return running_; }
@@ -116,6 +126,7 @@ class SolveSession {
 
   std::atomic<bool> running_ = false;
   std::atomic<bool> cancel_requested_ = false;
+  std::atomic<bool> stop_requested_ = false;
   std::atomic<bool> last_report_delivered_ = false;
   /// Set by the worker itself: it may report before `start` has assigned `worker_`.
   std::atomic<std::thread::id> worker_id_;

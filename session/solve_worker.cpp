@@ -21,11 +21,6 @@ namespace {
 /// Reports before the end stay below a full bar.
 constexpr double kMostProgress = 0.999;
 
-double fraction_of(std::uint32_t iterations, std::uint32_t max_iterations) {
-  if (max_iterations == 0) return 0;
-  return std::clamp(static_cast<double>(iterations) / max_iterations, 0.0, kMostProgress);
-}
-
 /// The pages read the number out of the text, so it must not follow the user's locale.
 std::string iteration_status(std::uint32_t iteration, float exploitability) {
   std::array<char, 64> digits{};
@@ -55,7 +50,13 @@ double seconds_since(std::chrono::steady_clock::time_point start) {
 
 }  // namespace
 
+double fraction_of(std::uint32_t iterations, std::uint32_t max_iterations) {
+  if (max_iterations == 0) return 0;
+  return std::clamp(static_cast<double>(iterations) / max_iterations, 0.0, kMostProgress);
+}
+
 SolvedSpot run_solve(const SolveConfig& config, const std::function<bool()>& cancelled,
+                     const std::function<bool()>& stopped,
                      const std::function<void(const SolveProgress&)>& report, SolveResult& result) {
   const auto start = std::chrono::steady_clock::now();
   const auto stage = [&report](double progress, const char* status) {
@@ -89,6 +90,7 @@ SolvedSpot run_solve(const SolveConfig& config, const std::function<bool()>& can
   options.compressed_storage = config.compressed_storage;
   options.threads = config.thread_count;
   options.cancel = cancelled;
+  options.stop = stopped;
   options.progress = [&](std::uint32_t iteration, float exploitability, double) {
     SolveProgress p;
     p.progress = fraction_of(iteration, config.max_iterations);
@@ -101,10 +103,18 @@ SolvedSpot run_solve(const SolveConfig& config, const std::function<bool()>& can
   const auto solver = std::make_shared<velmora::DiscountedCfr>(std::move(options));
   stage(0, "Init: starting solver...");
   result.build_seconds = seconds_since(start);
+  if (stopped() && !cancelled() && config.max_iterations > 0) {
+    // Before the tables are made, which takes a while for a large tree.
+    result.stopped = true;
+    return {};
+  }
   const auto solve_start = std::chrono::steady_clock::now();
   solver->run(*game);
   result.solve_seconds = seconds_since(solve_start);
   if (cancelled()) return {};
+  result.stopped = solver->stopped();
+  result.stalled = solver->stalled();
+  if (result.stopped && solver->iterations_done() == 0) return {};
 
   // Step 4. The result.
   const double done = fraction_of(solver->iterations_done(), config.max_iterations);

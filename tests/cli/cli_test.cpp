@@ -3,6 +3,7 @@
 #include <csignal>
 #include <vector>
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -121,6 +122,18 @@ TEST(Solve, BadInputIsOneClearLine) {
       {changed("ip_river_bet_sizes", "2x"), "IP river sizing (bet='2x'"},
       {changed("starting_pot", "much"), "\"starting_pot\" must be a whole number"},
       {changed("starting_pot", 2.5), "\"starting_pot\" must be a whole number"},
+      {changed("starting_pot", 0), "\"starting_pot\" must be a whole number from 1 to"},
+      {changed("effective_stack", 99.99), "\"effective_stack\" must be a whole number from 1 to"},
+      {changed("max_iterations", 0.5), "\"max_iterations\" must be a whole number"},
+      {changed("target_exploitability", "0.1"), "\"target_exploitability\" must be a number"},
+      {{{"format", "velmora_project"},
+        {"version", 1},
+        {"project", QJsonObject{{"boardText", "AhKsQd"}, {"targetExploitability", "low"}}}},
+       "\"targetExploitability\" must be a number of 0 or more"},
+      {{{"format", "velmora_project"},
+        {"version", 1},
+        {"project", QJsonObject{{"boardText", "AhKsQd"}, {"startingPot", 2.5}}}},
+       "\"starting_pot\" must be a whole number"},
       {changed("rake_percent", -1), "\"rake_percent\" must be a number from 0 to 100"},
       {changed("oop_river_add_all_in", 1), "\"oop_river_add_all_in\" must be true or false"},
       {{{"format", "other"}}, "Unrecognized project format"},
@@ -193,22 +206,88 @@ TEST(Solve, EstimateIsThatOfTheResult) {
   }
 }
 
-TEST(Solve, InterruptCancels) {
-  const Files files;
-  QProcess process;
+QJsonObject endless_turn() {
   QJsonObject spot = example_spot("turn.json");
   spot["target_exploitability"] = 0;
-  start_cli(process, {"solve", files.write("spot.json", spot), "--iterations", "1000000",
-                      "--export", files.path("solution.jsonl")});
-  // The first line of progress says that the run is under way.
-  process.setReadChannel(QProcess::StandardError);
-  while (!process.canReadLine() && process.waitForReadyRead(60'000)) {
+  return spot;
+}
+
+/// A run that was stopped gives all that it had.
+void expect_stopped(const CliRun& run, int status, const Files& files) {
+  EXPECT_EQ(run.status, status);
+  EXPECT_TRUE(run.error.contains("Stopped before the target was reached"))
+      << run.error.toStdString();
+  const QJsonObject result = run.json();
+  EXPECT_EQ(result["success"], false);
+  EXPECT_EQ(result["stopped"], true);
+  EXPECT_EQ(result["error"], "Stopped before the target was reached");
+  EXPECT_GT(result["iterations"].toInt(), 0);
+  EXPECT_GT(result["exploitability"].toDouble(), 0);
+  EXPECT_LT(result["ev_oop"].toDouble() + result["ev_ip"].toDouble(), -1);  // Less the rake.
+  EXPECT_FALSE(result["root_actions"].toArray().isEmpty());
+  // The last measure is that of the end.
+  const QJsonArray last = result["history"].toArray().last().toArray();
+  EXPECT_EQ(last[0], result["iterations"]);
+  EXPECT_EQ(last[1], result["exploitability"]);
+  QFile solution(files.path("solution.jsonl"));
+  ASSERT_TRUE(solution.open(QIODevice::ReadOnly));
+  EXPECT_EQ(solution.readAll().count('\n'), result["decision_node_count"].toInt() + 1);
+}
+
+TEST(Solve, SignalsStopAndKeep) {
+  for (const int signal : {SIGINT, SIGTERM}) {
+    const Files files;
+    QProcess process;
+    start_cli(process, {"solve", files.write("spot.json", endless_turn()), "--iterations",
+                        "1000000", "--export", files.path("solution.jsonl")});
+    // The first line of progress says that the run is under way.
+    process.setReadChannel(QProcess::StandardError);
+    while (!process.canReadLine() && process.waitForReadyRead(60'000)) {
+    }
+    ASSERT_EQ(::kill(static_cast<pid_t>(process.processId()), signal), 0);
+    expect_stopped(finish_cli(process), 130, files);
   }
-  ASSERT_EQ(::kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
-  const CliRun run = finish_cli(process);
-  EXPECT_EQ(run.status, 130) << run.error.toStdString();
-  EXPECT_EQ(run.json()["error"], "Cancelled");
-  EXPECT_EQ(files.names(), QStringList{"spot.json"});
+}
+
+TEST(Solve, TimeLimitStopsAndKeeps) {
+  const Files files;
+  expect_stopped(
+      run_cli({"solve", files.write("spot.json", endless_turn()), "--iterations", "1000000",
+               "--time-limit", "2", "--export", files.path("solution.jsonl")}),
+      3, files);
+}
+
+TEST(Solve, OutputGoesToAFile) {
+  const Files files;
+  const QString path = files.write("result.json", "older");
+  const QStringList command{"solve", example("river.json"), "--quiet", "--iterations", "50"};
+  const CliRun run = run_cli(command + QStringList{"--output", path});
+  EXPECT_EQ(run.status, 0) << run.error.toStdString();
+  EXPECT_EQ(run.out, "");
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(without_seconds(QJsonDocument::fromJson(file.readAll()).object()),
+            without_seconds(run_cli(command).json()));
+  // A path that can't be written is told before the solve, which takes its time here.
+  const CliRun refused = run_cli({"solve", files.write("spot.json", endless_turn()), "--iterations",
+                                  "1000000", "--output", files.path("none/result.json")});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_TRUE(refused.error.contains("none/result.json")) << refused.error.toStdString();
+  EXPECT_EQ(files.names(), (QStringList{"result.json", "spot.json"}));
+}
+
+TEST(Solve, SaysWhenLocksHoldItUp) {
+  const Files files;
+  QJsonObject spot = example_spot("locked_river.json");
+  spot["target_exploitability"] = 0;
+  const CliRun run = run_cli(
+      {"solve", files.write("spot.json", spot), "--iterations", "100000", "--quiet", "--locks",
+       files.write("locks.json", R"([{"node": 0, "hand": "AA", "action": 0, "frequency": 1}])")});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.json()["success"], true);
+  EXPECT_EQ(run.json()["stalled"], true);
+  EXPECT_LT(run.json()["iterations"].toInt(), 5000);
+  EXPECT_TRUE(run.error.contains("falls no further")) << run.error.toStdString();
 }
 
 TEST(CommandLine, WrongUseGivesHelp) {
@@ -221,6 +300,9 @@ TEST(CommandLine, WrongUseGivesHelp) {
                                       {"solve", "a.json", "--threads", "many"},
                                       {"solve", "a.json", "--iterations", "-1"},
                                       {"solve", "a.json", "--export"},
+                                      {"solve", "a.json", "--time-limit", "0"},
+                                      {"solve", "a.json", "--time-limit", "1.5"},
+                                      {"solve", "a.json", "--output"},
                                       {"estimate"},
                                       {"bench", "a.json"}};
   for (const QStringList& arguments : uses) {

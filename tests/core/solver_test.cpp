@@ -415,4 +415,26 @@ TEST(Driver, QueriesThatFitNothingAreEmptyOrZero) {
   EXPECT_NEAR(std::accumulate(frequencies.begin(), frequencies.end(), 0.0), 1.0, 1e-6);
 }
 
+/// Number of measures after which a sequence counts as stalled; 0 if it never does.
+template <typename Measure>
+std::size_t stalled_after(const Measure& measure) {
+  velmora::StallWatch watch;
+  for (std::size_t k = 1; k <= 4000; ++k) {
+    if (watch.add(static_cast<float>(measure(static_cast<double>(k))))) return k;
+  }
+  return 0;
+}
+
+TEST(StallWatch, TellsASlowFallFromALimit) {
+  EXPECT_EQ(stalled_after([](double k) { return 5 / k; }), 0U);
+  EXPECT_EQ(stalled_after([](double k) { return 5 / std::sqrt(k); }), 0U);
+  EXPECT_EQ(stalled_after([](double k) { return 5 / std::pow(k, 0.1); }), 0U);
+  // Averages that start again leave steps behind.
+  EXPECT_EQ(stalled_after([](double k) { return 1 / k + (k > 20 && k < 30 ? 1.0 : 0.0); }), 0U);
+  EXPECT_EQ(stalled_after([](double) { return 3.0; }), 10U);
+  // Half of the falling part must be behind: 1 + 1/k loses a hundredth from 50 to 100.
+  EXPECT_NEAR(static_cast<double>(stalled_after([](double k) { return 1 + 1 / k; })), 100, 5);
+  EXPECT_EQ(stalled_after([](double) { return 0.0; }), 0U);
+}
+
 }  // namespace

@@ -313,6 +313,85 @@ TEST(SolveSession, CancelStopsBetweenIterations) {
   EXPECT_TRUE(result_of(session, river_request()).success);
 }
 
+TEST(SolveSession, StopKeepsWhatIsThere) {
+  struct Case {
+    std::string at;  ///< Stopped in the report that begins so.
+    std::uint32_t iterations;
+  };
+  const Case cases[] = {{"Init: building game object...", 0},
+                        {"Init: starting solver...", 0},
+                        {"Iter 7 |", 7},
+                        {"Iter 50 |", 50},
+                        {"Iter 64 |", 64}};
+  SolveSession session;
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.at);
+    SolveConfig config = river_request();
+    config.max_iterations = 100;
+    Reports reports;
+    ASSERT_TRUE(session.start(config, reports.callback([&](const SolveProgress& report) {
+      if (report.status.rfind(c.at, 0) == 0) session.stop_and_keep();
+    })));
+    const SolveResult result = reports.result();
+    EXPECT_FALSE(result.success);
+    EXPECT_TRUE(result.stopped);
+    EXPECT_EQ(reports.all().back().status, "Stopped");
+    EXPECT_EQ(reports.all().back().progress, c.iterations / 100.0);
+    EXPECT_EQ(is_empty(session.solved_spot()), c.iterations == 0);
+    EXPECT_EQ(result.error, c.iterations == 0
+                                ? "Stopped before the first iteration: there is no result yet"
+                                : "Stopped before the target was reached");
+    if (c.iterations == 0) continue;
+    // The same as a run of so many iterations, which ends with a measure.
+    config.max_iterations = c.iterations;
+    SolveSession other;
+    const SolveResult whole = result_of(other, config);
+    EXPECT_EQ(result.iterations, c.iterations);
+    EXPECT_GT(result.exploitability, 0);
+    EXPECT_EQ(result.exploitability, whole.exploitability);
+    EXPECT_EQ(result.ev_oop, whole.ev_oop);
+    EXPECT_EQ(result.root_action_freqs, whole.root_action_freqs);
+    EXPECT_EQ(result.nodes->size(), whole.nodes->size());
+  }
+
+  // A cancel goes before it, and at the end it is too late.
+  const auto ended = [&session](const char* at, bool cancel) {
+    Reports reports;
+    session.start(river_request(), reports.callback([&](const SolveProgress& report) {
+      if (report.status.rfind(at, 0) != 0) return;
+      session.stop_and_keep();
+      if (cancel) session.cancel();
+    }));
+    const SolveResult result = reports.result();
+    return result.stopped ? "Stopped" : result.success ? "Done" : result.error;
+  };
+  EXPECT_EQ(ended("Iter 1 |", true), "Cancelled");
+  EXPECT_EQ(ended("Iter 3 |", false), "Done");
+  EXPECT_EQ(ended("Finalizing: computing", false), "Done");
+  EXPECT_TRUE(result_of(session, river_request()).success);
+}
+
+/// The free hands of a locked node never learn, so this solve has a limit above its target.
+TEST(SolveSession, ASolveThatLocksHoldUpEnds) {
+  SolveConfig config = river_request();
+  config.max_iterations = kForever;
+  config.node_locks = {{0, "AA", 0, 1}};
+  SolveSession session;
+  const SolveResult locked = result_of(session, config);
+  EXPECT_TRUE(locked.success);
+  EXPECT_TRUE(locked.stalled);
+  EXPECT_GT(locked.exploitability, 1);
+  EXPECT_LT(locked.iterations, 5000U);
+  EXPECT_FALSE(is_empty(session.solved_spot()));
+
+  // Without locks the limit ends it, however long nothing falls.
+  config.node_locks.clear();
+  config.max_iterations = 5000;
+  const SolveResult free = result_of(session, config);
+  EXPECT_FALSE(free.stalled);
+  EXPECT_EQ(free.iterations, 5000U);
+}
+
 TEST(SolveSession, OneRunAtATime) {
   SolveSession session;
   SolveConfig endless = river_request();
