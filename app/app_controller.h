@@ -62,6 +62,7 @@ class AppController : public QObject {
   Q_PROPERTY(QString resultBoard READ resultBoard NOTIFY resultsChanged)
   Q_PROPERTY(double resultRakePercent READ resultRakePercent NOTIFY resultsChanged)
   Q_PROPERTY(double resultRakeCap READ resultRakeCap NOTIFY resultsChanged)
+  Q_PROPERTY(bool resultStalled READ resultStalled NOTIFY resultsChanged)
   Q_PROPERTY(bool resultHasTables READ resultHasTables NOTIFY resultTablesChanged)
   Q_PROPERTY(bool resultUnsaved READ resultUnsaved NOTIFY resultUnsavedChanged)
   Q_PROPERTY(int lockCount READ lockCount NOTIFY locksChanged)
@@ -108,6 +109,8 @@ class AppController : public QObject {
   QString resultBoard() const;
   double resultRakePercent() const { return resultCfg_.value("rake_percent").toDouble(); }
   double resultRakeCap() const { return resultCfg_.value("rake_cap").toDouble(); }
+  /// Whether its locks ended the solve above its target.
+  bool resultStalled() const { return outcome_.stalled; }
   /// False for a result whose solver is gone, as after a load: then there are only the answers
   /// that were given before.
   bool resultHasTables() const { return solved_.solver != nullptr; }

@@ -196,6 +196,7 @@ class DocumentReader {
       if (name == "resultEvOop") outcome.evOop = in_.scalar().toDouble();
       if (name == "resultEvIp") outcome.evIp = in_.scalar().toDouble();
       if (name == "spot") project_.resultCfg = mapIn(in_);
+      if (name == "stalled") outcome.stalled = in_.scalar().toBool();
       if (name == "locks") project_.solvedLocks = readLocks();
       if (name == "rootActions") readRootActions();
       if (name == "treeNodeMeta") readTreeMeta(*tree, effectiveStack);

@@ -135,6 +135,7 @@ class DocumentWriter {
     member("resultsSummary", outcome.summary);
     member("rootActions", jsonOf(outcome.rootActions));
     member("spot", jsonOf(project_.resultCfg));
+    member("stalled", outcome.stalled);
     const int nodes = project_.tree.nodeCount();
     out_.key("treeNodeActions");
     out_.beginArray();

@@ -53,6 +53,7 @@ SolveOutcome outcomeOf(const SolveResult& result) {
   outcome.exploitability = result.exploitability;
   outcome.evOop = result.ev_oop;
   outcome.evIp = result.ev_ip;
+  outcome.stalled = result.stalled;
   outcome.rootActions = rootActionsOf(result);
   return outcome;
 }

@@ -14,6 +14,8 @@ struct SolveOutcome {
   double exploitability = 0;  ///< Chips.
   double evOop = 0;           ///< Chips.
   double evIp = 0;
+  /// Locks kept the exploitability from falling, and the solve ended above its target.
+  bool stalled = false;
   QVariantList rootActions;  ///< Maps of "name", "actionType" and "frequency" (0..1).
 };
 

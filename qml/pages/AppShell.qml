@@ -307,7 +307,7 @@ Item {
         theme: theme_
         type: type_
         controller: shell.controller
-        stateProvider: shell.exportProjectState
+        project: project_
         suggestedName: project_.boardText.replace(/_/g, "") === "" ? ""
                        : qsTr("%1 pot %2").arg(project_.boardText.replace(/_/g, "")).arg(project_.startingPot)
         onSaved: (name, projectState) => {
@@ -584,7 +584,7 @@ Item {
     }
 
     Shortcut {
-        sequences: [StandardKey.Save]
+        sequence: "Ctrl+S"
         enabled: shell.hasProject && !files.busy
         onActivated: shell.save()
     }
@@ -599,13 +599,13 @@ Item {
     }
 
     Shortcut {
-        sequences: [StandardKey.Open]
+        sequence: "Ctrl+O"
         enabled: !files.busy
         onActivated: shell.openFile()
     }
 
     Shortcut {
-        sequences: [StandardKey.New]
+        sequence: "Ctrl+N"
         onActivated: shell.newSolve()
     }
 

@@ -37,7 +37,7 @@ MainWindowCase {
     }
 
     function files(): var {
-        return Find.withHidden(window.contentItem, "stateProvider", "suggestedName")
+        return Find.withHidden(window.contentItem, "currentFile", "suggestedName")
     }
 
     function statValue(label: string): string {

@@ -130,7 +130,7 @@ MainWindowCase {
     }
 
     function files(): var {
-        return Find.withHidden(window.contentItem, "stateProvider", "suggestedName")
+        return Find.withHidden(window.contentItem, "currentFile", "suggestedName")
     }
 
     function answerWhatIsAsked() {

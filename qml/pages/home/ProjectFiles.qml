@@ -10,8 +10,7 @@ Item {
     property Theme theme: Fallback.theme
     property Typography type: Fallback.type
     required property var controller
-    /// Gives the project state to be saved.
-    required property var stateProvider
+    required property ProjectState project
     /// The file name that a project without one is offered, without its ending.
     property string suggestedName: ""
     /// The file of the project at hand; empty until it is saved or opened.
@@ -32,7 +31,7 @@ Item {
     /// Saves to the file of the project, or asks for one. `then` is called once it is saved.
     function save(then: var) {
         _afterSave = then ?? null
-        if (currentFile.toString() !== "")
+        if (String(currentFile) !== "")
             _saveTo(currentFile)
         else
             saveDialog.openWith(suggestedName)
@@ -58,7 +57,7 @@ Item {
 
     function _saveTo(file: url) {
         _pendingFile = file
-        _savedState = stateProvider()
+        _savedState = project.exportProjectState()
         controller.saveProjectInBackground(file, _savedState)
     }
 

@@ -41,7 +41,7 @@ ColumnLayout {
         }
     }
 
-    visible: follower.running || _endedBadly || nodeError !== "" || _locksWait || _setupWaits
+    visible: follower.running || _endedBadly || nodeError !== "" || _locksWait || _setupWaits || controller.resultStalled
     spacing: theme.spaceXs
 
     Connections {
@@ -112,6 +112,15 @@ ColumnLayout {
             text: qsTr("Re-solve")
             onClicked: root.controller.reSolveWithNodeLocks()
         }
+    }
+
+    NoticeStrip {
+        Layout.fillWidth: true
+        visible: root.controller.resultStalled
+        theme: root.theme
+        type: root.type
+        accentColor: root.theme.warn
+        text: qsTr("The node locks keep the exploitability from falling any further. The solve ended above its target.")
     }
 
     NoticeStrip {
