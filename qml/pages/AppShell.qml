@@ -129,11 +129,12 @@ Item {
     }
 
     function startSolve() {
-        _commitEdits()
+        // First, as leaving a field holds what stands in it to its range.
         if (!canSolve) {
             _answerRefusal()
             return
         }
+        _commitEdits()
         const config = project_.solveConfig()
         if (!controller.locksFit(config) || _locksAnswer !== "") {
             _start(config)

@@ -91,6 +91,7 @@ ScrollPage {
                 theme: root.theme
                 type: root.type
                 project: root.project
+                onProfileLoaded: root.controller.abandonRun()
             }
         }
 

@@ -123,9 +123,9 @@ MainWindowCase {
         verify(!controller.running)
         type(size, "33, 75")
         verify(!says(sentence))
-        compare(shell.solveRefusal, "The memory that this solve takes is still being estimated.")
-        tryVerify(() => shell.canSolve, 10000)
         compare(shell.solveRefusal, "")
+        verify(shell.estimatePending)
+        tryVerify(() => !shell.estimatePending && shell.canSolve, 10000)
     }
 
     function test_a_range_is_what_the_parser_reads_data() {

@@ -11,6 +11,9 @@ Card {
     property Typography type: Fallback.type
     required property ProjectState project
 
+    /// A profile replaced the settings.
+    signal profileLoaded
+
     function currentSettingsSnapshot(): var {
         return SettingsProfiles.snapshot(project)
     }
@@ -74,6 +77,9 @@ Card {
         theme: root.theme
         type: root.type
         store: store
-        onProfileChosen: data => root.applySettingsSnapshot(data)
+        onProfileChosen: data => {
+            root.applySettingsSnapshot(data)
+            root.profileLoaded()
+        }
     }
 }

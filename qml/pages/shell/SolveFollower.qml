@@ -53,6 +53,8 @@ QtObject {
         switch (text) {
         case "Done":
             return qsTr("Done")
+        case "Done: node locks keep the exploitability from falling":
+            return qsTr("Done: node locks keep the exploitability from falling")
         case "Cancelled":
             return qsTr("Cancelled")
         case "Init: building game object...":
