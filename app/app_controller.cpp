@@ -151,7 +151,7 @@ void AppController::dropTables() {
   memory_.noteResultsDropped();
 }
 
-void AppController::tellOfResult() {
+void AppController::announceResult() {
   emit locksChanged(-1);
   emit resultTablesChanged();
   emit systemMemoryChanged();
@@ -361,7 +361,7 @@ void AppController::takeResult(const SolveResult& result) {
   qInfo().noquote().nospace() << "UI about to emit resultsChanged: root_actions="
                               << outcome_.rootActions.size()
                               << " summary.len=" << outcome_.summary.size();
-  tellOfResult();
+  announceResult();
   qInfo().noquote() << "UI emitted resultsChanged";
 }
 
@@ -395,7 +395,7 @@ void AppController::clearResults() {
   setStatus(tr("Ready"));
   memory_.reset();
   setResultUnsaved(false);
-  tellOfResult();
+  announceResult();
 }
 
 void AppController::requestSolveMemoryEstimate(const QVariantMap& cfg) {
@@ -537,7 +537,7 @@ QVariantMap AppController::adopt(const ProjectReading& reading, const QString& p
                 .arg(project.caches.handStrategyCache.size())
                 .arg(project.caches.handCombosCache.size()));
   setResultUnsaved(false);
-  tellOfResult();
+  announceResult();
   qInfo() << "Loaded project:" << path << "hasResults=" << project.hasResults;
   return {{"ok", true},
           {"error", QString()},

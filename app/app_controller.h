@@ -265,7 +265,7 @@ class AppController : public QObject {
   /// Drops the result with all that belongs to it.
   void dropResult();
   /// Emits all signals of the result and its locks.
-  void tellOfResult();
+  void announceResult();
   /// Drops the solver of the result and keeps what it has answered.
   void dropTables();
   void setSolvedLocks(const NodeLockTable& locks);

@@ -294,7 +294,7 @@ Item {
                 qsTr("This solve needs %1, and %2 are available. It can start if the solver of the result on view is dropped: of that result only what was looked at so far stays.")
                 .arg(needed).arg(available), [
                 { text: qsTr("Save first"), kind: "", action: () => files.save(solve) },
-                { text: qsTr("Solve"), kind: "primary", action: solve }
+                { text: qsTr("Solve without saving"), kind: "primary", action: solve }
             ])
         }
 

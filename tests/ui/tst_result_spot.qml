@@ -104,6 +104,31 @@ MainWindowCase {
         verify(statValue("EV (OOP)") !== ev)
     }
 
+    function test_a_solve_that_needs_the_memory_of_the_result_asks() {
+        solveTurnSpot()
+        project.startingPot = 60
+        const config = project.solveConfig()
+        controller.memoryWanted(config, "9 GB", "5 GB")
+        answer("Cancel")
+        verify(controller.resultHasTables && !controller.running)
+        controller.memoryWanted(config, "9 GB", "5 GB")
+        answer("Solve without saving")
+        tryCompare(controller, "resultStartingPot", 60, 20000)
+        verify(controller.resultHasTables)
+    }
+
+    function test_the_figures_of_a_run_start_with_it() {
+        const clock = Qt.createQmlObject("import Velmora; SolveClock { currentIteration: 40; maxIterations: 100; interval: 1 }", root)
+        clock.running = true
+        tryVerify(() => clock.iterationsPerSec > 0 && clock.estimatedRemaining !== "--:--")
+        clock.running = false
+        clock.interval = 100000
+        clock.currentIteration = 0
+        clock.running = true
+        compare([clock.elapsedTime, clock.estimatedRemaining, clock.iterationsPerSec].join(), "00:00,--:--,0")
+        clock.destroy()
+    }
+
     function test_locks_are_asked_about_and_every_view_previews_them() {
         solveTurnSpot()
         const hand = "KTs"
