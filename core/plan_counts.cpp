@@ -88,10 +88,10 @@ PlanCounts PlanCounter::count(const PlanPoint& point) {
 
 PlanCounts PlanCounter::count_at_least(const PlanPoint& point) {
   held_children_ = 0;
-  const Subtree tree = visit(point, 0);
-  trees_ = tree.trees;
+  visit(point, 0);
+  trees_ = levels_[0].trees;
   trees_[0].largest = trees_[0].nodes;
-  return tree.counts;
+  return levels_[0].counts;
 }
 
 bool PlanCounter::may_expand(const PlanPoint& point) {
@@ -103,15 +103,17 @@ bool PlanCounter::may_expand(const PlanPoint& point) {
          memo_->subtrees.size() < kMaxStates;
 }
 
-PlanCounter::Subtree PlanCounter::visit(const PlanPoint& point, std::size_t depth) {
+void PlanCounter::visit(const PlanPoint& point, std::size_t depth) {
   if (depth > kMaxPlanDepth) throw std::length_error("Betting tree is too deep");
   const PlanNode& node = point.node;
   const BuildContext& context = point.context;
-  Subtree tree;
+  if (levels_.size() <= depth) levels_.emplace_back();
+  Subtree& tree = levels_[depth];
+  tree = {};
   PlanCounts& counts = tree.counts;
   counts.nodes = 1;
   tree.trees[0].nodes = 1;
-  if (node.kind == NodeKind::kTerminal && !node.runout) return tree;
+  if (node.kind == NodeKind::kTerminal && !node.runout) return;
 
   const StateKey key = {
       static_cast<std::int32_t>(node.kind) | (node.seat << 4) | (node.street << 8) |
@@ -127,12 +129,13 @@ PlanCounter::Subtree PlanCounter::visit(const PlanPoint& point, std::size_t dept
       node.runout,
   };
   if (const auto known = memo_->subtrees.find(key); known != memo_->subtrees.end()) {
-    return known->second;
+    tree = known->second;
+    return;
   }
 
   if (!may_expand(point)) {
     complete_ = false;
-    return tree;
+    return;
   }
   const std::vector<PlanChild> children = expand(settings_, cards_, point);
   held_children_ += children.size();
@@ -148,7 +151,8 @@ PlanCounter::Subtree PlanCounter::visit(const PlanPoint& point, std::size_t dept
     tree.trees[0].cards = num_children;
   }
   for (const PlanChild& child : children) {
-    const Subtree below = visit(child.point, depth + 1);
+    visit(child.point, depth + 1);
+    const Subtree& below = levels_[depth + 1];
     counts.add(below.counts);
     if (node.kind == NodeKind::kDecision) {
       for (std::size_t i = 0; i < tree.trees.size(); ++i) tree.trees[i].add(below.trees[i]);
@@ -157,11 +161,10 @@ PlanCounter::Subtree PlanCounter::visit(const PlanPoint& point, std::size_t dept
       for (std::size_t i = 1; i < tree.trees.size(); ++i) tree.trees[i] = below.trees[i - 1];
       tree.trees[1].largest = tree.trees[1].nodes;
     }
-    if (!complete_) return tree;
+    if (!complete_) return;
   }
   held_children_ -= children.size();
   memo_->subtrees.emplace(key, tree);
-  return tree;
 }
 
 PlanCounts count_plan(const GameSettings& settings, const CardContext& cards) {

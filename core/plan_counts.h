@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <deque>
 #include <memory>
 
 namespace velmora {
@@ -68,7 +69,8 @@ class PlanCounter {
     BettingTrees trees;
   };
 
-  Subtree visit(const PlanPoint& point, std::size_t depth);
+  /// Counts into the level of the depth. The levels below it are overwritten.
+  void visit(const PlanPoint& point, std::size_t depth);
   /// Notes that so many sizes are about to be tried at a node. False if that is too much.
   bool may_expand(const PlanPoint& point);
 
@@ -79,6 +81,9 @@ class PlanCounter {
   std::size_t held_children_ = 0;  ///< Along the path, by the recursion.
   bool complete_ = true;
   BettingTrees trees_;
+  /// By depth: what a level has counted so far. Not on the call stack, which a deep tree would
+  /// fill.
+  std::deque<Subtree> levels_;
 };
 
 /// The counts of the whole tree of a spot. Throws as `PlanCounter::count`.
