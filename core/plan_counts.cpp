@@ -1,6 +1,7 @@
 #include "plan_counts.h"
 
 #include <algorithm>
+#include <deque>
 #include <limits>
 #include <stdexcept>
 #include <unordered_map>
@@ -59,7 +60,15 @@ void StreetCounts::add(const StreetCounts& other) {
   }
 }
 
+/// What the recursion knows at a depth. Not on the call stack, which a deep tree would fill.
+struct PlanCounter::Level {
+  Subtree tree;
+  StateKey key;
+  std::vector<PlanChild> children;
+};
+
 struct PlanCounter::Memo {
+  std::deque<Level> levels;
   std::unordered_map<StateKey, Subtree, StateHash> subtrees;
   std::array<std::int32_t, kNumCards> river_cards;  ///< By turn card; -1 while not counted.
 
@@ -89,9 +98,10 @@ PlanCounts PlanCounter::count(const PlanPoint& point) {
 PlanCounts PlanCounter::count_at_least(const PlanPoint& point) {
   held_children_ = 0;
   visit(point, 0);
-  trees_ = levels_[0].trees;
+  const Subtree& tree = memo_->levels[0].tree;
+  trees_ = tree.trees;
   trees_[0].largest = trees_[0].nodes;
-  return levels_[0].counts;
+  return tree.counts;
 }
 
 bool PlanCounter::may_expand(const PlanPoint& point) {
@@ -105,17 +115,29 @@ bool PlanCounter::may_expand(const PlanPoint& point) {
 
 void PlanCounter::visit(const PlanPoint& point, std::size_t depth) {
   if (depth > kMaxPlanDepth) throw std::length_error("Betting tree is too deep");
+  if (memo_->levels.size() <= depth) memo_->levels.emplace_back();
+  Level& level = memo_->levels[depth];
+  if (!enter(point, level)) return;
+  for (std::size_t i = 0; i < level.children.size(); ++i) {
+    visit(level.children[i].point, depth + 1);
+    add_child(point.node.kind, i == 0, memo_->levels[depth + 1].tree, level.tree);
+    if (!complete_) return;
+  }
+  held_children_ -= level.children.size();
+  memo_->subtrees.emplace(level.key, level.tree);
+}
+
+// Neither of the next two may be inlined into the recursion: that would fill the stack again.
+[[gnu::noinline]] bool PlanCounter::enter(const PlanPoint& point, Level& level) {
   const PlanNode& node = point.node;
   const BuildContext& context = point.context;
-  if (levels_.size() <= depth) levels_.emplace_back();
-  Subtree& tree = levels_[depth];
+  Subtree& tree = level.tree;
   tree = {};
-  PlanCounts& counts = tree.counts;
-  counts.nodes = 1;
+  tree.counts.nodes = 1;
   tree.trees[0].nodes = 1;
-  if (node.kind == NodeKind::kTerminal && !node.runout) return;
+  if (node.kind == NodeKind::kTerminal && !node.runout) return false;
 
-  const StateKey key = {
+  level.key = {
       static_cast<std::int32_t>(node.kind) | (node.seat << 4) | (node.street << 8) |
           (context.aggressor << 12) | (static_cast<std::int32_t>(context.last_edge) << 16) |
           (static_cast<std::int32_t>(context.all_in) << 20),
@@ -128,43 +150,40 @@ void PlanCounter::visit(const PlanPoint& point, std::size_t depth) {
       memo_->cards_to_come(context, cards_),
       node.runout,
   };
-  if (const auto known = memo_->subtrees.find(key); known != memo_->subtrees.end()) {
+  if (const auto known = memo_->subtrees.find(level.key); known != memo_->subtrees.end()) {
     tree = known->second;
-    return;
+    return false;
   }
-
   if (!may_expand(point)) {
     complete_ = false;
-    return;
+    return false;
   }
-  const std::vector<PlanChild> children = expand(settings_, cards_, point);
-  held_children_ += children.size();
-  const auto num_children = static_cast<float>(children.size());
-  if (node.kind == NodeKind::kDecision && !children.empty()) {
-    counts.decision_nodes = 1;
-    counts.action_rows[node.seat] = children.size();
+  level.children = expand(settings_, cards_, point);
+  const std::size_t num_children = level.children.size();
+  held_children_ += num_children;
+  if (node.kind == NodeKind::kDecision && num_children > 0) {
+    tree.counts.decision_nodes = 1;
+    tree.counts.action_rows[node.seat] = num_children;
     tree.trees[0].decisions[node.seat] = 1;
-    tree.trees[0].action_rows[node.seat] = num_children;
-    tree.trees[0].single_rows[node.seat] = children.size() == 1 ? 1.0F : 0.0F;
+    tree.trees[0].action_rows[node.seat] = static_cast<float>(num_children);
+    tree.trees[0].single_rows[node.seat] = num_children == 1 ? 1.0F : 0.0F;
   } else if (node.kind == NodeKind::kChance) {
     tree.trees[0].deals = 1;
-    tree.trees[0].cards = num_children;
+    tree.trees[0].cards = static_cast<float>(num_children);
   }
-  for (const PlanChild& child : children) {
-    visit(child.point, depth + 1);
-    const Subtree& below = levels_[depth + 1];
-    counts.add(below.counts);
-    if (node.kind == NodeKind::kDecision) {
-      for (std::size_t i = 0; i < tree.trees.size(); ++i) tree.trees[i].add(below.trees[i]);
-    } else if (node.kind == NodeKind::kChance && &child == &children.front()) {
-      // The trees below the other cards are the same. Those of a run-out are not walked.
-      for (std::size_t i = 1; i < tree.trees.size(); ++i) tree.trees[i] = below.trees[i - 1];
-      tree.trees[1].largest = tree.trees[1].nodes;
-    }
-    if (!complete_) return;
+  return true;
+}
+
+[[gnu::noinline]] void PlanCounter::add_child(NodeKind kind, bool first, const Subtree& below,
+                                              Subtree& tree) {
+  tree.counts.add(below.counts);
+  if (kind == NodeKind::kDecision) {
+    for (std::size_t i = 0; i < tree.trees.size(); ++i) tree.trees[i].add(below.trees[i]);
+  } else if (kind == NodeKind::kChance && first) {
+    // The trees below the other cards are the same. Those of a run-out are not walked.
+    for (std::size_t i = 1; i < tree.trees.size(); ++i) tree.trees[i] = below.trees[i - 1];
+    tree.trees[1].largest = tree.trees[1].nodes;
   }
-  held_children_ -= children.size();
-  memo_->subtrees.emplace(key, tree);
 }
 
 PlanCounts count_plan(const GameSettings& settings, const CardContext& cards) {

@@ -3,12 +3,12 @@
 
 #include <array>
 #include <cstdint>
-#include <deque>
 #include <memory>
 
 namespace velmora {
 
 class CardContext;
+enum class NodeKind : std::uint8_t;
 struct GameSettings;
 struct PlanPoint;
 
@@ -63,14 +63,19 @@ class PlanCounter {
   const BettingTrees& betting_trees() const { return trees_; }
 
  private:
-  struct Memo;
   struct Subtree {
     PlanCounts counts;
     BettingTrees trees;
   };
+  struct Level;
+  struct Memo;
 
   /// Counts into the level of the depth. The levels below it are overwritten.
   void visit(const PlanPoint& point, std::size_t depth);
+  /// Begins to count at a point. False if there is nothing below it to be counted.
+  bool enter(const PlanPoint& point, Level& level);
+  /// Adds the counts below a child to those of its node, of this kind.
+  static void add_child(NodeKind kind, bool first, const Subtree& below, Subtree& tree);
   /// Notes that so many sizes are about to be tried at a node. False if that is too much.
   bool may_expand(const PlanPoint& point);
 
@@ -81,9 +86,6 @@ class PlanCounter {
   std::size_t held_children_ = 0;  ///< Along the path, by the recursion.
   bool complete_ = true;
   BettingTrees trees_;
-  /// By depth: what a level has counted so far. Not on the call stack, which a deep tree would
-  /// fill.
-  std::deque<Subtree> levels_;
 };
 
 /// The counts of the whole tree of a spot. Throws as `PlanCounter::count`.
