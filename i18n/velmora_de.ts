@@ -53,15 +53,7 @@
     </message>
     <message>
         <source>Starting...</source>
-        <translation>Startet …</translation>
-    </message>
-    <message>
-        <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation>Zu wenig RAM für die Berechnung (auch ohne frühere Ergebnisse)</translation>
-    </message>
-    <message>
-        <source>Already running</source>
-        <translation>Läuft bereits</translation>
+        <translation>Startet&#xa0;…</translation>
     </message>
     <message>
         <source>No previous solve config (solve once first)</source>
@@ -69,7 +61,7 @@
     </message>
     <message>
         <source>Cancelling...</source>
-        <translation>Wird abgebrochen …</translation>
+        <translation>Wird abgebrochen&#xa0;…</translation>
     </message>
     <message>
         <source>Another file is still being saved or opened</source>
@@ -106,6 +98,141 @@
     <message>
         <source>Failed to open file: %1</source>
         <translation>Öffnen fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Estimating the memory...</source>
+        <translation>Speicherbedarf wird geschätzt&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Not started: the solve needs the memory of the result on view</source>
+        <translation>Nicht gestartet: Die Berechnung braucht den Speicher des angezeigten Ergebnisses</translation>
+    </message>
+    <message>
+        <source>Not enough RAM to solve: %1 needed, %2 available</source>
+        <translation>Zu wenig RAM für die Berechnung: %1 nötig, %2 verfügbar</translation>
+    </message>
+    <message>
+        <source>Waiting for the cancelled solve to stop...</source>
+        <translation>Warten auf das Ende der abgebrochenen Berechnung&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the answers of this node</source>
+        <translation>Der Speicher reicht für die Antworten dieses Knotens nicht aus</translation>
+    </message>
+</context>
+<context>
+    <name>AppShell</name>
+    <message>
+        <source>Start a new project (or load one) from Home to enable Project</source>
+        <translation>Unter „Start“ ein Projekt anlegen (oder laden), um „Projekt“ freizuschalten</translation>
+    </message>
+    <message>
+        <source>The memory that this solve takes could not be estimated.</source>
+        <translation>Der Speicherbedarf dieser Berechnung konnte nicht geschätzt werden.</translation>
+    </message>
+    <message>
+        <source>Not enough memory: this solve takes %1, and %2 is available.</source>
+        <translation>Zu wenig Speicher: Diese Berechnung braucht %1, verfügbar sind %2.</translation>
+    </message>
+    <message>
+        <source>Dunmarrow</source>
+        <translation>Dunmarrow</translation>
+    </message>
+    <message>
+        <source>%1%2 — Dunmarrow</source>
+        <translation>%1%2 — Dunmarrow</translation>
+    </message>
+    <message>
+        <source>New spot</source>
+        <translation>Neuer Spot</translation>
+    </message>
+    <message>
+        <source>Node locks</source>
+        <translation>Node-Locks</translation>
+    </message>
+    <message>
+        <source>Node locks (%1) are set on the tree of this spot. Apply them in this solve?</source>
+        <translation>Im Baum dieses Spots sind Node-Locks gesetzt (%1). In dieser Berechnung anwenden?</translation>
+    </message>
+    <message>
+        <source>Solve without locks</source>
+        <translation>Ohne Locks berechnen</translation>
+    </message>
+    <message>
+        <source>Apply the locks</source>
+        <translation>Locks anwenden</translation>
+    </message>
+    <message>
+        <source>A solve is running, and it will be cancelled.</source>
+        <translation>Es läuft eine Berechnung; sie wird abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The spot or its results are not saved.</source>
+        <translation>Der Spot oder seine Ergebnisse sind nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Nicht speichern</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel the solve</source>
+        <translation>Berechnung abbrechen</translation>
+    </message>
+    <message>
+        <source>Take back your spot?</source>
+        <translation>Spot wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>Dunmarrow did not close properly. The spot that you were editing was kept on %1.</source>
+        <translation>Dunmarrow wurde nicht ordnungsgemäß beendet. Der zuletzt bearbeitete Spot wurde gesichert (%1).</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Not enough memory for both</source>
+        <translation>Zu wenig Speicher für beides</translation>
+    </message>
+    <message>
+        <source>This solve needs %1, and %2 are available. It can start if the solver of the result on view is dropped: of that result only what was looked at so far stays.</source>
+        <translation>Diese Berechnung braucht %1, verfügbar sind %2. Sie kann starten, wenn der Solver des angezeigten Ergebnisses verworfen wird: Von diesem Ergebnis bleibt dann nur, was bisher angesehen wurde.</translation>
+    </message>
+    <message>
+        <source>Save first</source>
+        <translation>Erst speichern</translation>
+    </message>
+    <message>
+        <source>Solve without saving</source>
+        <translation>Ohne Speichern berechnen</translation>
+    </message>
+    <message>
+        <source>%1 pot %2</source>
+        <translation>%1 Pot %2</translation>
+    </message>
+    <message>
+        <source>Saved %1 at %2</source>
+        <translation>%1 um %2 gespeichert</translation>
     </message>
 </context>
 <context>
@@ -223,7 +350,7 @@
     <name>BusyLabel</name>
     <message>
         <source>Loading…</source>
-        <translation>Wird geladen …</translation>
+        <translation>Wird geladen&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -284,6 +411,14 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be dealt here.</source>
+        <translation>%1 kann hier nicht ausgeteilt werden.</translation>
+    </message>
+    <message>
+        <source>Arrow keys and Return choose a card, or type it: 7c.</source>
+        <translation>Karte mit Pfeiltasten und Eingabetaste wählen oder eintippen: 7c.</translation>
     </message>
 </context>
 <context>
@@ -430,7 +565,7 @@
     </message>
     <message>
         <source>Solving...</source>
-        <translation>Wird berechnet …</translation>
+        <translation>Wird berechnet&#xa0;…</translation>
     </message>
     <message>
         <source>Start Solve</source>
@@ -465,19 +600,19 @@
     </message>
     <message>
         <source>Save current range…</source>
-        <translation>Range speichern …</translation>
+        <translation>Range speichern&#xa0;…</translation>
     </message>
     <message>
         <source>Import range…</source>
-        <translation>Range importieren …</translation>
+        <translation>Range importieren&#xa0;…</translation>
     </message>
     <message>
         <source>Add folder…</source>
-        <translation>Ordner anlegen …</translation>
+        <translation>Ordner anlegen&#xa0;…</translation>
     </message>
     <message>
         <source>Delete selected…</source>
-        <translation>Auswahl löschen …</translation>
+        <translation>Auswahl löschen&#xa0;…</translation>
     </message>
     <message>
         <source>Save OOP range</source>
@@ -493,7 +628,7 @@
     </message>
     <message>
         <source>e.g., BTN vs BB (default)</source>
-        <translation>z. B. BTN vs BB (Standard)</translation>
+        <translation>z.&#xa0;B.&#xa0;BTN vs BB (Standard)</translation>
     </message>
     <message>
         <source>Add folder (OOP)</source>
@@ -509,7 +644,7 @@
     </message>
     <message>
         <source>e.g., BTN vs BB</source>
-        <translation>z. B. BTN vs BB</translation>
+        <translation>z.&#xa0;B.&#xa0;BTN vs BB</translation>
     </message>
     <message>
         <source>Add</source>
@@ -543,15 +678,15 @@
     </message>
     <message>
         <source>Export standard…</source>
-        <translation>Standard exportieren …</translation>
+        <translation>Standard exportieren&#xa0;…</translation>
     </message>
     <message>
         <source>Export population…</source>
-        <translation>Population exportieren …</translation>
+        <translation>Population exportieren&#xa0;…</translation>
     </message>
     <message>
         <source>Clear overrides…</source>
-        <translation>Überschreibungen löschen …</translation>
+        <translation>Überschreibungen löschen&#xa0;…</translation>
     </message>
     <message>
         <source>Export Standard Ranges</source>
@@ -602,6 +737,88 @@
     </message>
 </context>
 <context>
+    <name>FileChooser</name>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Schreibtisch</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Downloads</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home-Ordner</translation>
+    </message>
+    <message>
+        <source>There is no folder “%1”.</source>
+        <translation>Den Ordner „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>There is no file “%1” here.</source>
+        <translation>Die Datei „%1“ gibt es hier nicht.</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Aufwärts</translation>
+    </message>
+    <message>
+        <source>Nothing to choose here.</source>
+        <translation>Hier gibt es nichts zur Auswahl.</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Dateityp</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Replace file?</source>
+        <translation>Datei ersetzen?</translation>
+    </message>
+    <message>
+        <source>“%1” is there already. Saving replaces what it holds.</source>
+        <translation>„%1“ gibt es schon. Beim Speichern wird der Inhalt ersetzt.</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+</context>
+<context>
+    <name>FileList</name>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Folder %1</source>
+        <translation>Ordner %1</translation>
+    </message>
+</context>
+<context>
     <name>FileProgress</name>
     <message>
         <source>%1%</source>
@@ -620,7 +837,7 @@
     </message>
     <message>
         <source>e.g., 100</source>
-        <translation>z. B. 100</translation>
+        <translation>z.&#xa0;B.&#xa0;100</translation>
     </message>
     <message>
         <source>Effective Stack</source>
@@ -632,7 +849,7 @@
     </message>
     <message>
         <source>e.g., 5.0</source>
-        <translation>z. B. 5.0</translation>
+        <translation>z.&#xa0;B.&#xa0;5.0</translation>
     </message>
     <message>
         <source>Rake Cap</source>
@@ -640,7 +857,7 @@
     </message>
     <message>
         <source>e.g., 0</source>
-        <translation>z. B. 0</translation>
+        <translation>z.&#xa0;B.&#xa0;0</translation>
     </message>
     <message>
         <source>Target Exploitability (%)</source>
@@ -648,7 +865,7 @@
     </message>
     <message>
         <source>e.g., 0.10</source>
-        <translation>z. B. 0.10</translation>
+        <translation>z.&#xa0;B.&#xa0;0.10</translation>
     </message>
     <message>
         <source>%1%</source>
@@ -784,7 +1001,7 @@
     <name>HandDetailsCard</name>
     <message>
         <source>Loading hand combos…</source>
-        <translation>Combos werden geladen …</translation>
+        <translation>Combos werden geladen&#xa0;…</translation>
     </message>
     <message>
         <source>No hand combos to display for this node.</source>
@@ -804,7 +1021,7 @@
     </message>
     <message>
         <source>Search (JJ, 56s, JcJd, ...)</source>
-        <translation>Suche (JJ, 56s, JcJd, …)</translation>
+        <translation>Suche (JJ, 56s, JcJd,&#xa0;…)</translation>
     </message>
     <message>
         <source>Filter: %1</source>
@@ -934,7 +1151,7 @@
     </message>
     <message>
         <source>e.g., BTN open (custom)</source>
-        <translation>z. B. BTN Open (eigene)</translation>
+        <translation>z.&#xa0;B.&#xa0;BTN Open (eigene)</translation>
     </message>
     <message>
         <source>Import</source>
@@ -1053,13 +1270,6 @@
     </message>
 </context>
 <context>
-    <name>Main</name>
-    <message>
-        <source>Dunmarrow</source>
-        <translation>Dunmarrow</translation>
-    </message>
-</context>
-<context>
     <name>MessageBox</name>
     <message>
         <source>OK</source>
@@ -1122,6 +1332,17 @@
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
         <translation>Tipp: Oben eine Aktion wählen, dann eine Hand in der Matrix anklicken, um sie zu locken.</translation>
     </message>
+    <message>
+        <source>Undo reset</source>
+        <translation>Reset rückgängig</translation>
+    </message>
+</context>
+<context>
+    <name>NodeLocks</name>
+    <message>
+        <source>The weight must be a number from 0 to 1</source>
+        <translation>Das Gewicht muss eine Zahl von 0 bis 1 sein</translation>
+    </message>
 </context>
 <context>
     <name>NodeView</name>
@@ -1132,6 +1353,24 @@
     <message>
         <source>Random turn card</source>
         <translation>Zufällige Turn-Karte</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeStrip</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>Enter a number from %1 to %2 with at most %3 decimals.</source>
+        <translation>Eine Zahl von %1 bis %2 eingeben (Nachkommastellen: höchstens %3).</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from %1 to %2.</source>
+        <translation>Eine ganze Zahl von %1 bis %2 eingeben.</translation>
     </message>
 </context>
 <context>
@@ -1166,6 +1405,10 @@
     <message>
         <source>Hand details</source>
         <translation>Details zur Hand</translation>
+    </message>
+    <message>
+        <source>Choose a hand in the log.</source>
+        <translation>Eine Hand im Verlauf wählen.</translation>
     </message>
 </context>
 <context>
@@ -1259,7 +1502,7 @@
     </message>
     <message>
         <source>Finalizing…</source>
-        <translation>Wird abgeschlossen …</translation>
+        <translation>Wird abgeschlossen&#xa0;…</translation>
     </message>
     <message>
         <source>Progress</source>
@@ -1267,7 +1510,7 @@
     </message>
     <message>
         <source>Solver converged — finalizing results…</source>
-        <translation>Solver konvergiert – Ergebnisse werden fertiggestellt …</translation>
+        <translation>Solver konvergiert – Ergebnisse werden fertiggestellt&#xa0;…</translation>
     </message>
     <message>
         <source>Window %1/%2</source>
@@ -1303,7 +1546,7 @@
     </message>
     <message>
         <source>Measuring...</source>
-        <translation>Messung …</translation>
+        <translation>Messung&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -1369,6 +1612,33 @@
     <message>
         <source>Continue to Solve →</source>
         <translation>Weiter zur Berechnung →</translation>
+    </message>
+    <message>
+        <source>Solve RAM: being estimated…</source>
+        <translation>RAM-Bedarf: wird geschätzt&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Take back the last change (Ctrl+Z)</source>
+        <translation>Letzte Änderung rückgängig machen (Strg+Z)</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Bring back what was undone (Ctrl+Shift+Z)</source>
+        <translation>Rückgängig Gemachtes wiederholen (Strg+Umschalt+Z)</translation>
+    </message>
+</context>
+<context>
+    <name>QuestionDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1445,7 +1715,7 @@
     </message>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation>z. B. AA, KK, AKs, QQ+ oder 50%</translation>
+        <translation>z.&#xa0;B.&#xa0;AA, KK, AKs, QQ+ oder 50%</translation>
     </message>
 </context>
 <context>
@@ -1495,7 +1765,7 @@
     <name>RangeTextField</name>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation>z. B. AA, KK, AKs, QQ+ oder 50%</translation>
+        <translation>z.&#xa0;B.&#xa0;AA, KK, AKs, QQ+ oder 50%</translation>
     </message>
 </context>
 <context>
@@ -1511,6 +1781,65 @@
     <message>
         <source>No runs yet — click Start Solve to record a run here.</source>
         <translation>Noch keine Läufe – mit „Berechnung starten“ erscheint hier der erste.</translation>
+    </message>
+</context>
+<context>
+    <name>ResultNotices</name>
+    <message>
+        <source>The last solve was cancelled. These are the results of the solve before.</source>
+        <translation>Die letzte Berechnung wurde abgebrochen. Dies sind die Ergebnisse der vorherigen Berechnung.</translation>
+    </message>
+    <message>
+        <source>The last solve was not started: %1. These are the results of the solve before.</source>
+        <translation>Die letzte Berechnung wurde nicht gestartet: %1. Dies sind die Ergebnisse der vorherigen Berechnung.</translation>
+    </message>
+    <message>
+        <source>The last solve failed: %1. These are the results of the solve before.</source>
+        <translation>Die letzte Berechnung ist fehlgeschlagen: %1. Dies sind die Ergebnisse der vorherigen Berechnung.</translation>
+    </message>
+    <message>
+        <source>Solving. These are the results of the solve before, until the new ones are there. %1</source>
+        <translation>Wird berechnet. Bis die neuen Ergebnisse da sind, sind hier die der vorherigen Berechnung zu sehen. %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Figures of this node are missing: %1</source>
+        <translation>Werte dieses Knotens fehlen: %1</translation>
+    </message>
+    <message>
+        <source>The node locks (%1) are not solved yet. At their nodes the grid, the buckets and the hands show a preview; all other figures are those from before.</source>
+        <translation>Die Node-Locks (%1) sind noch nicht eingerechnet. An ihren Knoten zeigen Matrix, Handkategorien und Hände eine Vorschau; alle übrigen Werte sind die bisherigen.</translation>
+    </message>
+    <message>
+        <source>The node locks of this result were removed. It still shows the solve with them.</source>
+        <translation>Die Node-Locks dieses Ergebnisses wurden entfernt. Es zeigt noch die Berechnung mit ihnen.</translation>
+    </message>
+    <message>
+        <source>Re-solve</source>
+        <translation>Neu berechnen</translation>
+    </message>
+    <message>
+        <source>The node locks keep the exploitability from falling any further. The solve ended above its target.</source>
+        <translation>Die Node-Locks lassen die Exploitability nicht weiter sinken. Die Berechnung endete über ihrem Ziel.</translation>
+    </message>
+    <message>
+        <source>Setup has changed since this solve</source>
+        <translation>„Projekt“ wurde seit dieser Berechnung geändert</translation>
+    </message>
+    <message>
+        <source>Solve again</source>
+        <translation>Erneut berechnen</translation>
+    </message>
+    <message>
+        <source>Take back the setup of this result</source>
+        <translation>Projekt dieses Ergebnisses wiederherstellen</translation>
     </message>
 </context>
 <context>
@@ -1562,8 +1891,16 @@
 <context>
     <name>RunHistory</name>
     <message>
-        <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation>Iterationen %1 • Ziel %2% (≈ %3) • Threads %4</translation>
+        <source>Target %1% (≈ %2) • Threads %3</source>
+        <translation>Ziel %1% (≈ %2) • Threads %3</translation>
+    </message>
+    <message>
+        <source>At most %1 iterations</source>
+        <translation>Iterationen: höchstens %1</translation>
+    </message>
+    <message>
+        <source>%1 iterations</source>
+        <translation>Iterationen: %1</translation>
     </message>
 </context>
 <context>
@@ -1579,6 +1916,14 @@
     <message>
         <source>Cancelled</source>
         <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Abgelehnt</translation>
     </message>
 </context>
 <context>
@@ -1635,7 +1980,7 @@
     </message>
     <message>
         <source>e.g., 100bb rake-free (fast)</source>
-        <translation>z. B. 100bb ohne Rake (schnell)</translation>
+        <translation>z.&#xa0;B.&#xa0;100bb ohne Rake (schnell)</translation>
     </message>
 </context>
 <context>
@@ -1749,7 +2094,7 @@
     </message>
     <message>
         <source>e.g. 30</source>
-        <translation>z. B. 30</translation>
+        <translation>z.&#xa0;B.&#xa0;30</translation>
     </message>
     <message>
         <source>% pot</source>
@@ -1765,6 +2110,49 @@
     <message>
         <source>Last 52 weeks</source>
         <translation>Letzte 52 Wochen</translation>
+    </message>
+</context>
+<context>
+    <name>SolveFollower</name>
+    <message>
+        <source>Iteration %1 | exploitability=%2</source>
+        <translation>Iteration %1 | Exploitability=%2</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Done: node locks keep the exploitability from falling</source>
+        <translation>Fertig: Node-Locks lassen die Exploitability nicht weiter sinken</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Building the cards and the tree...</source>
+        <translation>Karten und Baum werden aufgebaut&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Preparing the solver...</source>
+        <translation>Solver wird vorbereitet&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Starting the solver...</source>
+        <translation>Solver wird gestartet&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Computing the results...</source>
+        <translation>Ergebnisse werden berechnet&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Collecting the tree...</source>
+        <translation>Baum wird zusammengestellt&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -1818,6 +2206,10 @@
     <message>
         <source>Strategy by Hand</source>
         <translation>Strategie je Hand</translation>
+    </message>
+    <message>
+        <source>Strategy by Hand (preview, not solved yet)</source>
+        <translation>Strategie je Hand (Vorschau, noch nicht berechnet)</translation>
     </message>
 </context>
 <context>
@@ -1900,6 +2292,10 @@
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
+    <message>
+        <source>%1. Still missing: %2.</source>
+        <translation>%1. Es fehlt noch: %2.</translation>
+    </message>
 </context>
 <context>
     <name>TrainerStatsCard</name>
@@ -1977,6 +2373,14 @@
         <source>EV: %1%2</source>
         <translation>EV: %1%2</translation>
     </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>%1 einklappen</translation>
+    </message>
+    <message>
+        <source>Expand %1</source>
+        <translation>%1 ausklappen</translation>
+    </message>
 </context>
 <context>
     <name>TreeWalk</name>
@@ -2028,7 +2432,7 @@
     </message>
     <message>
         <source>Checking...</source>
-        <translation>Wird geprüft …</translation>
+        <translation>Wird geprüft&#xa0;…</translation>
     </message>
     <message>
         <source>Check for updates</source>

@@ -56,14 +56,6 @@
         <translation>Iniciando…</translation>
     </message>
     <message>
-        <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation>RAM insuficiente para el cálculo (incluso sin los resultados anteriores)</translation>
-    </message>
-    <message>
-        <source>Already running</source>
-        <translation>Ya está en curso</translation>
-    </message>
-    <message>
         <source>No previous solve config (solve once first)</source>
         <translation>No hay configuración anterior (hay que calcular primero)</translation>
     </message>
@@ -106,6 +98,141 @@
     <message>
         <source>Failed to open file: %1</source>
         <translation>No se pudo abrir el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Estimating the memory...</source>
+        <translation>Estimando la memoria…</translation>
+    </message>
+    <message>
+        <source>Not started: the solve needs the memory of the result on view</source>
+        <translation>No iniciado: el cálculo necesita la memoria del resultado en pantalla</translation>
+    </message>
+    <message>
+        <source>Not enough RAM to solve: %1 needed, %2 available</source>
+        <translation>RAM insuficiente para el cálculo: hacen falta %1, hay %2 disponibles</translation>
+    </message>
+    <message>
+        <source>Waiting for the cancelled solve to stop...</source>
+        <translation>Esperando a que se detenga el cálculo cancelado…</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the answers of this node</source>
+        <translation>No hay memoria suficiente para las respuestas de este nodo</translation>
+    </message>
+</context>
+<context>
+    <name>AppShell</name>
+    <message>
+        <source>Start a new project (or load one) from Home to enable Project</source>
+        <translation>Cree (o cargue) un proyecto en «Inicio» para activar «Proyecto»</translation>
+    </message>
+    <message>
+        <source>The memory that this solve takes could not be estimated.</source>
+        <translation>No se pudo estimar la memoria que requiere este cálculo.</translation>
+    </message>
+    <message>
+        <source>Not enough memory: this solve takes %1, and %2 is available.</source>
+        <translation>Memoria insuficiente: este cálculo requiere %1 y hay %2 disponibles.</translation>
+    </message>
+    <message>
+        <source>Dunmarrow</source>
+        <translation>Dunmarrow</translation>
+    </message>
+    <message>
+        <source>%1%2 — Dunmarrow</source>
+        <translation>%1%2 — Dunmarrow</translation>
+    </message>
+    <message>
+        <source>New spot</source>
+        <translation>Nuevo spot</translation>
+    </message>
+    <message>
+        <source>Node locks</source>
+        <translation>Node-locks</translation>
+    </message>
+    <message>
+        <source>Node locks (%1) are set on the tree of this spot. Apply them in this solve?</source>
+        <translation>El árbol de este spot tiene node-locks (%1). ¿Aplicarlos en este cálculo?</translation>
+    </message>
+    <message>
+        <source>Solve without locks</source>
+        <translation>Calcular sin node-locks</translation>
+    </message>
+    <message>
+        <source>Apply the locks</source>
+        <translation>Aplicar node-locks</translation>
+    </message>
+    <message>
+        <source>A solve is running, and it will be cancelled.</source>
+        <translation>Hay un cálculo en curso y se cancelará.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>The spot or its results are not saved.</source>
+        <translation>El spot o sus resultados no se han guardado.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>No guardar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Cancel the solve</source>
+        <translation>Cancelar el cálculo</translation>
+    </message>
+    <message>
+        <source>Take back your spot?</source>
+        <translation>¿Recuperar su spot?</translation>
+    </message>
+    <message>
+        <source>Dunmarrow did not close properly. The spot that you were editing was kept on %1.</source>
+        <translation>Dunmarrow no se cerró correctamente. El spot que estaba editando se conservó (%1).</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Recuperar</translation>
+    </message>
+    <message>
+        <source>Not enough memory for both</source>
+        <translation>Memoria insuficiente para ambos</translation>
+    </message>
+    <message>
+        <source>This solve needs %1, and %2 are available. It can start if the solver of the result on view is dropped: of that result only what was looked at so far stays.</source>
+        <translation>Este cálculo requiere %1 y hay %2 disponibles. Puede iniciarse si se descarta el solver del resultado en pantalla: de ese resultado solo quedará lo que ya se haya consultado.</translation>
+    </message>
+    <message>
+        <source>Save first</source>
+        <translation>Guardar antes</translation>
+    </message>
+    <message>
+        <source>Solve without saving</source>
+        <translation>Calcular sin guardar</translation>
+    </message>
+    <message>
+        <source>%1 pot %2</source>
+        <translation>%1 bote %2</translation>
+    </message>
+    <message>
+        <source>Saved %1 at %2</source>
+        <translation>%1 guardado a las %2</translation>
     </message>
 </context>
 <context>
@@ -284,6 +411,14 @@
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be dealt here.</source>
+        <translation>%1 no se puede repartir aquí.</translation>
+    </message>
+    <message>
+        <source>Arrow keys and Return choose a card, or type it: 7c.</source>
+        <translation>Elija una carta con las flechas e Intro o escríbala: 7c.</translation>
     </message>
 </context>
 <context>
@@ -493,7 +628,7 @@
     </message>
     <message>
         <source>e.g., BTN vs BB (default)</source>
-        <translation>p. ej., BTN vs BB (por defecto)</translation>
+        <translation>p.&#xa0;ej., BTN vs BB (por defecto)</translation>
     </message>
     <message>
         <source>Add folder (OOP)</source>
@@ -509,7 +644,7 @@
     </message>
     <message>
         <source>e.g., BTN vs BB</source>
-        <translation>p. ej., BTN vs BB</translation>
+        <translation>p.&#xa0;ej., BTN vs BB</translation>
     </message>
     <message>
         <source>Add</source>
@@ -602,6 +737,88 @@
     </message>
 </context>
 <context>
+    <name>FileChooser</name>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Escritorio</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Descargas</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Personal</translation>
+    </message>
+    <message>
+        <source>There is no folder “%1”.</source>
+        <translation>La carpeta «%1» no existe.</translation>
+    </message>
+    <message>
+        <source>There is no file “%1” here.</source>
+        <translation>Aquí no hay ningún archivo «%1».</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Nothing to choose here.</source>
+        <translation>Aquí no hay nada que elegir.</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Nombre de archivo</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Tipo de archivo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Replace file?</source>
+        <translation>¿Reemplazar el archivo?</translation>
+    </message>
+    <message>
+        <source>“%1” is there already. Saving replaces what it holds.</source>
+        <translation>«%1» ya existe. Al guardar se reemplazará su contenido.</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Conservar</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+</context>
+<context>
+    <name>FileList</name>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Folder %1</source>
+        <translation>Carpeta %1</translation>
+    </message>
+</context>
+<context>
     <name>FileProgress</name>
     <message>
         <source>%1%</source>
@@ -620,7 +837,7 @@
     </message>
     <message>
         <source>e.g., 100</source>
-        <translation>p. ej., 100</translation>
+        <translation>p.&#xa0;ej., 100</translation>
     </message>
     <message>
         <source>Effective Stack</source>
@@ -632,7 +849,7 @@
     </message>
     <message>
         <source>e.g., 5.0</source>
-        <translation>p. ej., 5.0</translation>
+        <translation>p.&#xa0;ej., 5.0</translation>
     </message>
     <message>
         <source>Rake Cap</source>
@@ -640,7 +857,7 @@
     </message>
     <message>
         <source>e.g., 0</source>
-        <translation>p. ej., 0</translation>
+        <translation>p.&#xa0;ej., 0</translation>
     </message>
     <message>
         <source>Target Exploitability (%)</source>
@@ -648,7 +865,7 @@
     </message>
     <message>
         <source>e.g., 0.10</source>
-        <translation>p. ej., 0.10</translation>
+        <translation>p.&#xa0;ej., 0.10</translation>
     </message>
     <message>
         <source>%1%</source>
@@ -934,7 +1151,7 @@
     </message>
     <message>
         <source>e.g., BTN open (custom)</source>
-        <translation>p. ej., BTN open (propio)</translation>
+        <translation>p.&#xa0;ej., BTN open (propio)</translation>
     </message>
     <message>
         <source>Import</source>
@@ -1053,13 +1270,6 @@
     </message>
 </context>
 <context>
-    <name>Main</name>
-    <message>
-        <source>Dunmarrow</source>
-        <translation>Dunmarrow</translation>
-    </message>
-</context>
-<context>
     <name>MessageBox</name>
     <message>
         <source>OK</source>
@@ -1122,6 +1332,17 @@
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
         <translation>Consejo: elija una acción arriba y haga clic en una mano de la matriz para bloquearla.</translation>
     </message>
+    <message>
+        <source>Undo reset</source>
+        <translation>Deshacer reset</translation>
+    </message>
+</context>
+<context>
+    <name>NodeLocks</name>
+    <message>
+        <source>The weight must be a number from 0 to 1</source>
+        <translation>El peso debe ser un número de 0 a 1</translation>
+    </message>
 </context>
 <context>
     <name>NodeView</name>
@@ -1132,6 +1353,24 @@
     <message>
         <source>Random turn card</source>
         <translation>Carta del turn al azar</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeStrip</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>Enter a number from %1 to %2 with at most %3 decimals.</source>
+        <translation>Introduzca un número de %1 a %2 con un máximo de %3 decimales.</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from %1 to %2.</source>
+        <translation>Introduzca un número entero de %1 a %2.</translation>
     </message>
 </context>
 <context>
@@ -1166,6 +1405,10 @@
     <message>
         <source>Hand details</source>
         <translation>Detalles de la mano</translation>
+    </message>
+    <message>
+        <source>Choose a hand in the log.</source>
+        <translation>Elija una mano del historial.</translation>
     </message>
 </context>
 <context>
@@ -1370,6 +1613,33 @@
         <source>Continue to Solve →</source>
         <translation>Continuar al cálculo →</translation>
     </message>
+    <message>
+        <source>Solve RAM: being estimated…</source>
+        <translation>RAM necesaria: estimando…</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Take back the last change (Ctrl+Z)</source>
+        <translation>Deshacer el último cambio (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Bring back what was undone (Ctrl+Shift+Z)</source>
+        <translation>Rehacer lo deshecho (Ctrl+Mayús+Z)</translation>
+    </message>
+</context>
+<context>
+    <name>QuestionDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>QuickActionsCard</name>
@@ -1445,7 +1715,7 @@
     </message>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation>p. ej., AA, KK, AKs, QQ+ o 50%</translation>
+        <translation>p.&#xa0;ej., AA, KK, AKs, QQ+ o 50%</translation>
     </message>
 </context>
 <context>
@@ -1495,7 +1765,7 @@
     <name>RangeTextField</name>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation>p. ej., AA, KK, AKs, QQ+ o 50%</translation>
+        <translation>p.&#xa0;ej., AA, KK, AKs, QQ+ o 50%</translation>
     </message>
 </context>
 <context>
@@ -1511,6 +1781,65 @@
     <message>
         <source>No runs yet — click Start Solve to record a run here.</source>
         <translation>Aún no hay cálculos: al pulsar «Iniciar cálculo» aparecerá uno aquí.</translation>
+    </message>
+</context>
+<context>
+    <name>ResultNotices</name>
+    <message>
+        <source>The last solve was cancelled. These are the results of the solve before.</source>
+        <translation>El último cálculo se canceló. Estos son los resultados del cálculo anterior.</translation>
+    </message>
+    <message>
+        <source>The last solve was not started: %1. These are the results of the solve before.</source>
+        <translation>El último cálculo no se inició: %1. Estos son los resultados del cálculo anterior.</translation>
+    </message>
+    <message>
+        <source>The last solve failed: %1. These are the results of the solve before.</source>
+        <translation>El último cálculo falló: %1. Estos son los resultados del cálculo anterior.</translation>
+    </message>
+    <message>
+        <source>Solving. These are the results of the solve before, until the new ones are there. %1</source>
+        <translation>Calculando. Hasta que estén los nuevos resultados, se muestran los del cálculo anterior. %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Figures of this node are missing: %1</source>
+        <translation>Faltan datos de este nodo: %1</translation>
+    </message>
+    <message>
+        <source>The node locks (%1) are not solved yet. At their nodes the grid, the buckets and the hands show a preview; all other figures are those from before.</source>
+        <translation>Los node-locks (%1) aún no se han calculado. En sus nodos, la matriz, las categorías y las manos muestran una vista previa; los demás valores son los anteriores.</translation>
+    </message>
+    <message>
+        <source>The node locks of this result were removed. It still shows the solve with them.</source>
+        <translation>Se han quitado los node-locks de este resultado. Aún muestra el cálculo hecho con ellos.</translation>
+    </message>
+    <message>
+        <source>Re-solve</source>
+        <translation>Recalcular</translation>
+    </message>
+    <message>
+        <source>The node locks keep the exploitability from falling any further. The solve ended above its target.</source>
+        <translation>Los node-locks impiden que la explotabilidad baje más. El cálculo terminó por encima de su objetivo.</translation>
+    </message>
+    <message>
+        <source>Setup has changed since this solve</source>
+        <translation>«Proyecto» ha cambiado desde este cálculo</translation>
+    </message>
+    <message>
+        <source>Solve again</source>
+        <translation>Volver a calcular</translation>
+    </message>
+    <message>
+        <source>Take back the setup of this result</source>
+        <translation>Recuperar el proyecto de este resultado</translation>
     </message>
 </context>
 <context>
@@ -1562,8 +1891,16 @@
 <context>
     <name>RunHistory</name>
     <message>
-        <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation>Iteraciones %1 • Objetivo %2% (≈ %3) • Hilos %4</translation>
+        <source>Target %1% (≈ %2) • Threads %3</source>
+        <translation>Objetivo %1% (≈ %2) • Hilos %3</translation>
+    </message>
+    <message>
+        <source>At most %1 iterations</source>
+        <translation>Iteraciones: máximo %1</translation>
+    </message>
+    <message>
+        <source>%1 iterations</source>
+        <translation>Iteraciones: %1</translation>
     </message>
 </context>
 <context>
@@ -1579,6 +1916,14 @@
     <message>
         <source>Cancelled</source>
         <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fallido</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Rechazado</translation>
     </message>
 </context>
 <context>
@@ -1635,7 +1980,7 @@
     </message>
     <message>
         <source>e.g., 100bb rake-free (fast)</source>
-        <translation>p. ej., 100bb sin rake (rápido)</translation>
+        <translation>p.&#xa0;ej., 100bb sin rake (rápido)</translation>
     </message>
 </context>
 <context>
@@ -1749,7 +2094,7 @@
     </message>
     <message>
         <source>e.g. 30</source>
-        <translation>p. ej. 30</translation>
+        <translation>p.&#xa0;ej. 30</translation>
     </message>
     <message>
         <source>% pot</source>
@@ -1765,6 +2110,49 @@
     <message>
         <source>Last 52 weeks</source>
         <translation>Últimas 52 semanas</translation>
+    </message>
+</context>
+<context>
+    <name>SolveFollower</name>
+    <message>
+        <source>Iteration %1 | exploitability=%2</source>
+        <translation>Iteración %1 | explotabilidad=%2</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Error: %1</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Done: node locks keep the exploitability from falling</source>
+        <translation>Listo: los node-locks impiden que baje la explotabilidad</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>Building the cards and the tree...</source>
+        <translation>Construyendo las cartas y el árbol…</translation>
+    </message>
+    <message>
+        <source>Preparing the solver...</source>
+        <translation>Preparando el solver…</translation>
+    </message>
+    <message>
+        <source>Starting the solver...</source>
+        <translation>Iniciando el solver…</translation>
+    </message>
+    <message>
+        <source>Computing the results...</source>
+        <translation>Calculando los resultados…</translation>
+    </message>
+    <message>
+        <source>Collecting the tree...</source>
+        <translation>Recopilando el árbol…</translation>
     </message>
 </context>
 <context>
@@ -1818,6 +2206,10 @@
     <message>
         <source>Strategy by Hand</source>
         <translation>Estrategia por mano</translation>
+    </message>
+    <message>
+        <source>Strategy by Hand (preview, not solved yet)</source>
+        <translation>Estrategia por mano (vista previa, aún sin calcular)</translation>
     </message>
 </context>
 <context>
@@ -1900,6 +2292,10 @@
         <source>Settings</source>
         <translation>Ajustes</translation>
     </message>
+    <message>
+        <source>%1. Still missing: %2.</source>
+        <translation>%1. Aún falta: %2.</translation>
+    </message>
 </context>
 <context>
     <name>TrainerStatsCard</name>
@@ -1976,6 +2372,14 @@
     <message>
         <source>EV: %1%2</source>
         <translation>EV: %1%2</translation>
+    </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>Contraer %1</translation>
+    </message>
+    <message>
+        <source>Expand %1</source>
+        <translation>Expandir %1</translation>
     </message>
 </context>
 <context>

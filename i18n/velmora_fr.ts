@@ -16,15 +16,15 @@
     </message>
     <message>
         <source>%1 combos</source>
-        <translation>Combos : %1</translation>
+        <translation>Combos&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1% equity</source>
-        <translation>Equity : %1%</translation>
+        <translation>Equity&#xa0;: %1%</translation>
     </message>
     <message>
         <source>%1 EV</source>
-        <translation>EV : %1</translation>
+        <translation>EV&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -56,14 +56,6 @@
         <translation>Démarrage…</translation>
     </message>
     <message>
-        <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation>RAM insuffisante pour le calcul (même sans les résultats précédents)</translation>
-    </message>
-    <message>
-        <source>Already running</source>
-        <translation>Déjà en cours</translation>
-    </message>
-    <message>
         <source>No previous solve config (solve once first)</source>
         <translation>Aucune configuration précédente (lancer d’abord un calcul)</translation>
     </message>
@@ -77,11 +69,11 @@
     </message>
     <message>
         <source>Loaded project (%1 strategy nodes, %2 combo nodes)</source>
-        <translation>Projet chargé (nœuds de stratégie : %1, nœuds de combos : %2)</translation>
+        <translation>Projet chargé (nœuds de stratégie&#xa0;: %1, nœuds de combos&#xa0;: %2)</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 Go</translation>
+        <translation>%1&#xa0;Go</translation>
     </message>
     <message>
         <source>Failed to open file</source>
@@ -101,11 +93,146 @@
     </message>
     <message>
         <source>Failed to save file: %1</source>
-        <translation>Échec de l’enregistrement : %1</translation>
+        <translation>Échec de l’enregistrement&#xa0;: %1</translation>
     </message>
     <message>
         <source>Failed to open file: %1</source>
-        <translation>Échec de l’ouverture : %1</translation>
+        <translation>Échec de l’ouverture&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Estimating the memory...</source>
+        <translation>Estimation de la mémoire…</translation>
+    </message>
+    <message>
+        <source>Not started: the solve needs the memory of the result on view</source>
+        <translation>Non lancé&#xa0;: le calcul a besoin de la mémoire du résultat affiché</translation>
+    </message>
+    <message>
+        <source>Not enough RAM to solve: %1 needed, %2 available</source>
+        <translation>RAM insuffisante pour le calcul&#xa0;: %1 requis, %2 disponibles</translation>
+    </message>
+    <message>
+        <source>Waiting for the cancelled solve to stop...</source>
+        <translation>Attente de l’arrêt du calcul annulé…</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the answers of this node</source>
+        <translation>Mémoire insuffisante pour les réponses de ce nœud</translation>
+    </message>
+</context>
+<context>
+    <name>AppShell</name>
+    <message>
+        <source>Start a new project (or load one) from Home to enable Project</source>
+        <translation>Créer (ou charger) un projet depuis «&#xa0;Accueil&#xa0;» pour activer «&#xa0;Projet&#xa0;»</translation>
+    </message>
+    <message>
+        <source>The memory that this solve takes could not be estimated.</source>
+        <translation>Impossible d’estimer la mémoire requise par ce calcul.</translation>
+    </message>
+    <message>
+        <source>Not enough memory: this solve takes %1, and %2 is available.</source>
+        <translation>Mémoire insuffisante&#xa0;: ce calcul requiert %1, et %2 sont disponibles.</translation>
+    </message>
+    <message>
+        <source>Dunmarrow</source>
+        <translation>Dunmarrow</translation>
+    </message>
+    <message>
+        <source>%1%2 — Dunmarrow</source>
+        <translation>%1%2 — Dunmarrow</translation>
+    </message>
+    <message>
+        <source>New spot</source>
+        <translation>Nouveau spot</translation>
+    </message>
+    <message>
+        <source>Node locks</source>
+        <translation>Node-locks</translation>
+    </message>
+    <message>
+        <source>Node locks (%1) are set on the tree of this spot. Apply them in this solve?</source>
+        <translation>Des node-locks (%1) sont posés sur l’arbre de ce spot. Les appliquer dans ce calcul&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Solve without locks</source>
+        <translation>Calculer sans node-locks</translation>
+    </message>
+    <message>
+        <source>Apply the locks</source>
+        <translation>Appliquer les node-locks</translation>
+    </message>
+    <message>
+        <source>A solve is running, and it will be cancelled.</source>
+        <translation>Un calcul est en cours&#x202f;; il sera annulé.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>The spot or its results are not saved.</source>
+        <translation>Le spot ou ses résultats ne sont pas enregistrés.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel the solve</source>
+        <translation>Annuler le calcul</translation>
+    </message>
+    <message>
+        <source>Take back your spot?</source>
+        <translation>Récupérer votre spot&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Dunmarrow did not close properly. The spot that you were editing was kept on %1.</source>
+        <translation>Dunmarrow ne s’est pas fermé correctement. Le spot en cours de modification a été conservé (%1).</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Récupérer</translation>
+    </message>
+    <message>
+        <source>Not enough memory for both</source>
+        <translation>Mémoire insuffisante pour les deux</translation>
+    </message>
+    <message>
+        <source>This solve needs %1, and %2 are available. It can start if the solver of the result on view is dropped: of that result only what was looked at so far stays.</source>
+        <translation>Ce calcul requiert %1, et %2 sont disponibles. Il peut démarrer si le solver du résultat affiché est abandonné&#xa0;: de ce résultat, il ne restera que ce qui a déjà été consulté.</translation>
+    </message>
+    <message>
+        <source>Save first</source>
+        <translation>Enregistrer d’abord</translation>
+    </message>
+    <message>
+        <source>Solve without saving</source>
+        <translation>Calculer sans enregistrer</translation>
+    </message>
+    <message>
+        <source>%1 pot %2</source>
+        <translation>%1 pot %2</translation>
+    </message>
+    <message>
+        <source>Saved %1 at %2</source>
+        <translation>%1 enregistré à %2</translation>
     </message>
 </context>
 <context>
@@ -205,7 +332,7 @@
     <name>BucketRow</name>
     <message>
         <source>%1 combos</source>
-        <translation>Combos : %1</translation>
+        <translation>Combos&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -216,7 +343,7 @@
     </message>
     <message>
         <source>%1 shown</source>
-        <translation>Affichées : %1</translation>
+        <translation>Affichées&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -285,6 +412,14 @@
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t be dealt here.</source>
+        <translation>Impossible de distribuer %1 ici.</translation>
+    </message>
+    <message>
+        <source>Arrow keys and Return choose a card, or type it: 7c.</source>
+        <translation>Choisir une carte avec les flèches et Entrée, ou la saisir&#xa0;: 7c.</translation>
+    </message>
 </context>
 <context>
     <name>Chip</name>
@@ -297,11 +432,11 @@
     <name>ClearStatsDialog</name>
     <message>
         <source>Clear Play vs. Solution Stats</source>
-        <translation>Effacer les stats « Contre la solution »</translation>
+        <translation>Effacer les stats «&#xa0;Contre la solution&#xa0;»</translation>
     </message>
     <message>
         <source>Clear all Play vs. Solution statistics (today + total)?</source>
-        <translation>Effacer toutes les statistiques « Contre la solution » (jour + total) ?</translation>
+        <translation>Effacer toutes les statistiques «&#xa0;Contre la solution&#xa0;» (jour + total)&#x202f;?</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -316,7 +451,7 @@
     <name>ComboRow</name>
     <message>
         <source>EV:</source>
-        <translation>EV :</translation>
+        <translation>EV&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -358,23 +493,23 @@
     </message>
     <message>
         <source>OOP: don&apos;t donk on %1</source>
-        <translation>OOP : pas de donk %1</translation>
+        <translation>OOP&#xa0;: pas de donk %1</translation>
     </message>
     <message>
         <source>OOP: add all-in on %1</source>
-        <translation>OOP : ajouter all-in %1</translation>
+        <translation>OOP&#xa0;: ajouter all-in %1</translation>
     </message>
     <message>
         <source>IP: add all-in on %1</source>
-        <translation>IP : ajouter all-in %1</translation>
+        <translation>IP&#xa0;: ajouter all-in %1</translation>
     </message>
     <message>
         <source>OOP: add all-in if jam &lt; %1% pot</source>
-        <translation>OOP : ajouter all-in si jam &lt; %1% du pot</translation>
+        <translation>OOP&#xa0;: ajouter all-in si jam &lt; %1% du pot</translation>
     </message>
     <message>
         <source>IP: add all-in if jam &lt; %1% pot</source>
-        <translation>IP : ajouter all-in si jam &lt; %1% du pot</translation>
+        <translation>IP&#xa0;: ajouter all-in si jam &lt; %1% du pot</translation>
     </message>
     <message>
         <source>Configuration</source>
@@ -449,15 +584,15 @@
     <name>CustomActions</name>
     <message>
         <source>Are you sure you want to delete this folder?</source>
-        <translation>Voulez-vous vraiment supprimer ce dossier ?</translation>
+        <translation>Voulez-vous vraiment supprimer ce dossier&#x202f;?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this range?</source>
-        <translation>Voulez-vous vraiment supprimer cette range ?</translation>
+        <translation>Voulez-vous vraiment supprimer cette range&#x202f;?</translation>
     </message>
     <message>
         <source>This will also delete %1 range(s). This cannot be undone.</source>
-        <translation>Les ranges du dossier seront aussi supprimées (nombre : %1). Cette action est irréversible.</translation>
+        <translation>Les ranges du dossier seront aussi supprimées (nombre&#xa0;: %1). Cette action est irréversible.</translation>
     </message>
     <message>
         <source>This cannot be undone.</source>
@@ -489,11 +624,11 @@
     </message>
     <message>
         <source>Name this range:</source>
-        <translation>Nom de la range :</translation>
+        <translation>Nom de la range&#xa0;:</translation>
     </message>
     <message>
         <source>e.g., BTN vs BB (default)</source>
-        <translation>p. ex. BTN vs BB (par défaut)</translation>
+        <translation>p.&#xa0;ex.&#xa0;BTN vs BB (par défaut)</translation>
     </message>
     <message>
         <source>Add folder (OOP)</source>
@@ -505,11 +640,11 @@
     </message>
     <message>
         <source>Folder name:</source>
-        <translation>Nom du dossier :</translation>
+        <translation>Nom du dossier&#xa0;:</translation>
     </message>
     <message>
         <source>e.g., BTN vs BB</source>
-        <translation>p. ex. BTN vs BB</translation>
+        <translation>p.&#xa0;ex.&#xa0;BTN vs BB</translation>
     </message>
     <message>
         <source>Add</source>
@@ -579,11 +714,11 @@
     </message>
     <message>
         <source>Clear all locally overridden standard ranges for %1?</source>
-        <translation>Effacer toutes les ranges standard remplacées localement pour %1 ?</translation>
+        <translation>Effacer toutes les ranges standard remplacées localement pour %1&#x202f;?</translation>
     </message>
     <message>
         <source>Clear all locally overridden population ranges for %1?</source>
-        <translation>Effacer toutes les ranges de population remplacées localement pour %1 ?</translation>
+        <translation>Effacer toutes les ranges de population remplacées localement pour %1&#x202f;?</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -599,6 +734,88 @@
     <message>
         <source>Drill spot</source>
         <translation>Driller le spot</translation>
+    </message>
+</context>
+<context>
+    <name>FileChooser</name>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Bureau</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Téléchargements</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Personnel</translation>
+    </message>
+    <message>
+        <source>There is no folder “%1”.</source>
+        <translation>Le dossier «&#xa0;%1&#xa0;» n’existe pas.</translation>
+    </message>
+    <message>
+        <source>There is no file “%1” here.</source>
+        <translation>Il n’y a pas de fichier «&#xa0;%1&#xa0;» ici.</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Nothing to choose here.</source>
+        <translation>Rien à choisir ici.</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Nom du fichier</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Type de fichier</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Replace file?</source>
+        <translation>Remplacer le fichier&#x202f;?</translation>
+    </message>
+    <message>
+        <source>“%1” is there already. Saving replaces what it holds.</source>
+        <translation>«&#xa0;%1&#xa0;» existe déjà. L’enregistrement remplacera son contenu.</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Conserver</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+</context>
+<context>
+    <name>FileList</name>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Folder %1</source>
+        <translation>Dossier %1</translation>
     </message>
 </context>
 <context>
@@ -620,7 +837,7 @@
     </message>
     <message>
         <source>e.g., 100</source>
-        <translation>p. ex. 100</translation>
+        <translation>p.&#xa0;ex.&#xa0;100</translation>
     </message>
     <message>
         <source>Effective Stack</source>
@@ -632,7 +849,7 @@
     </message>
     <message>
         <source>e.g., 5.0</source>
-        <translation>p. ex. 5.0</translation>
+        <translation>p.&#xa0;ex.&#xa0;5.0</translation>
     </message>
     <message>
         <source>Rake Cap</source>
@@ -640,7 +857,7 @@
     </message>
     <message>
         <source>e.g., 0</source>
-        <translation>p. ex. 0</translation>
+        <translation>p.&#xa0;ex.&#xa0;0</translation>
     </message>
     <message>
         <source>Target Exploitability (%)</source>
@@ -648,7 +865,7 @@
     </message>
     <message>
         <source>e.g., 0.10</source>
-        <translation>p. ex. 0.10</translation>
+        <translation>p.&#xa0;ex.&#xa0;0.10</translation>
     </message>
     <message>
         <source>%1%</source>
@@ -808,7 +1025,7 @@
     </message>
     <message>
         <source>Filter: %1</source>
-        <translation>Filtre : %1</translation>
+        <translation>Filtre&#xa0;: %1</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -823,7 +1040,7 @@
     </message>
     <message>
         <source>%1 hands</source>
-        <translation>Mains : %1</translation>
+        <translation>Mains&#xa0;: %1</translation>
     </message>
     <message>
         <source>Hands that you finish are listed here.</source>
@@ -856,27 +1073,27 @@
     <name>HandSummary</name>
     <message>
         <source>Winner: %1</source>
-        <translation>Vainqueur : %1</translation>
+        <translation>Vainqueur&#xa0;: %1</translation>
     </message>
     <message>
         <source>Won: %1</source>
-        <translation>Gagné : %1</translation>
+        <translation>Gagné&#xa0;: %1</translation>
     </message>
     <message>
         <source>Rake: %1</source>
-        <translation>Rake : %1</translation>
+        <translation>Rake&#xa0;: %1</translation>
     </message>
     <message>
         <source>EV lost: %1</source>
-        <translation>EV perdue : %1</translation>
+        <translation>EV perdue&#xa0;: %1</translation>
     </message>
     <message>
         <source>Incorrect: %1</source>
-        <translation>Incorrect : %1</translation>
+        <translation>Incorrect&#xa0;: %1</translation>
     </message>
     <message>
         <source>Correct: %1</source>
-        <translation>Correct : %1</translation>
+        <translation>Correct&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -906,7 +1123,7 @@
     <name>ImportRange</name>
     <message>
         <source>Import failed: %1</source>
-        <translation>Échec de l’importation : %1</translation>
+        <translation>Échec de l’importation&#xa0;: %1</translation>
     </message>
     <message>
         <source>unknown error</source>
@@ -914,7 +1131,7 @@
     </message>
     <message>
         <source>Import failed: file contained no recognizable hands.</source>
-        <translation>Échec de l’importation : le fichier ne contient aucune main reconnaissable.</translation>
+        <translation>Échec de l’importation&#xa0;: le fichier ne contient aucune main reconnaissable.</translation>
     </message>
     <message>
         <source>Import Range</source>
@@ -930,11 +1147,11 @@
     </message>
     <message>
         <source>Name this range:</source>
-        <translation>Nom de la range :</translation>
+        <translation>Nom de la range&#xa0;:</translation>
     </message>
     <message>
         <source>e.g., BTN open (custom)</source>
-        <translation>p. ex. BTN open (perso)</translation>
+        <translation>p.&#xa0;ex.&#xa0;BTN open (perso)</translation>
     </message>
     <message>
         <source>Import</source>
@@ -991,7 +1208,7 @@
     </message>
     <message>
         <source>Third-party notices and license texts are included in the &apos;licenses&apos; folder next to the executable.</source>
-        <translation>Les mentions de tiers et les textes des licences se trouvent dans le dossier « licenses », à côté de l’exécutable.</translation>
+        <translation>Les mentions de tiers et les textes des licences se trouvent dans le dossier «&#xa0;licenses&#xa0;», à côté de l’exécutable.</translation>
     </message>
     <message>
         <source>Open licenses folder</source>
@@ -1014,7 +1231,7 @@
     </message>
     <message>
         <source>Choose a saved profile:</source>
-        <translation>Choisir un profil enregistré :</translation>
+        <translation>Choisir un profil enregistré&#xa0;:</translation>
     </message>
     <message>
         <source>No saved profiles yet.</source>
@@ -1038,7 +1255,7 @@
     </message>
     <message>
         <source>Are you sure you want to delete this saved profile?</source>
-        <translation>Voulez-vous vraiment supprimer ce profil enregistré ?</translation>
+        <translation>Voulez-vous vraiment supprimer ce profil enregistré&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -1050,13 +1267,6 @@
     <message>
         <source>Node-lock mode</source>
         <translation>Mode node-lock</translation>
-    </message>
-</context>
-<context>
-    <name>Main</name>
-    <message>
-        <source>Dunmarrow</source>
-        <translation>Dunmarrow</translation>
     </message>
 </context>
 <context>
@@ -1120,7 +1330,18 @@
     </message>
     <message>
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
-        <translation>Astuce : choisir une action ci-dessus, puis cliquer sur une main de la matrice pour la verrouiller.</translation>
+        <translation>Astuce&#xa0;: choisir une action ci-dessus, puis cliquer sur une main de la matrice pour la verrouiller.</translation>
+    </message>
+    <message>
+        <source>Undo reset</source>
+        <translation>Annuler le reset</translation>
+    </message>
+</context>
+<context>
+    <name>NodeLocks</name>
+    <message>
+        <source>The weight must be a number from 0 to 1</source>
+        <translation>Le poids doit être un nombre de 0 à 1</translation>
     </message>
 </context>
 <context>
@@ -1132,6 +1353,24 @@
     <message>
         <source>Random turn card</source>
         <translation>Carte turn aléatoire</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeStrip</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>Enter a number from %1 to %2 with at most %3 decimals.</source>
+        <translation>Saisir un nombre de %1 à %2 (décimales&#xa0;: %3 au plus).</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from %1 to %2.</source>
+        <translation>Saisir un nombre entier de %1 à %2.</translation>
     </message>
 </context>
 <context>
@@ -1149,7 +1388,7 @@
     </message>
     <message>
         <source>Role: %1</source>
-        <translation>Rôle : %1</translation>
+        <translation>Rôle&#xa0;: %1</translation>
     </message>
     <message>
         <source>Choose a role to start</source>
@@ -1167,12 +1406,16 @@
         <source>Hand details</source>
         <translation>Détails de la main</translation>
     </message>
+    <message>
+        <source>Choose a hand in the log.</source>
+        <translation>Choisir une main dans l’historique.</translation>
+    </message>
 </context>
 <context>
     <name>PlayPrompt</name>
     <message>
         <source>%1 loses %2 EV. Best: %3</source>
-        <translation>%1 perd %2 d’EV. Mieux : %3</translation>
+        <translation>%1 perd %2 d’EV. Mieux&#xa0;: %3</translation>
     </message>
     <message>
         <source>Perfect</source>
@@ -1187,22 +1430,22 @@
     <name>PlaySeat</name>
     <message>
         <source>%1: no cards</source>
-        <translation>%1 : pas de cartes</translation>
+        <translation>%1&#xa0;: pas de cartes</translation>
     </message>
     <message>
         <source>%1: opponent&apos;s cards, face down</source>
-        <translation>%1 : cartes de l’adversaire, cachées</translation>
+        <translation>%1&#xa0;: cartes de l’adversaire, cachées</translation>
     </message>
     <message>
         <source>Stack: %1</source>
-        <translation>Stack : %1</translation>
+        <translation>Stack&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>PlaySession</name>
     <message>
         <source>Wrong — best: %1 (EV -%2)</source>
-        <translation>Faux – mieux : %1 (EV -%2)</translation>
+        <translation>Faux – mieux&#xa0;: %1 (EV -%2)</translation>
     </message>
     <message>
         <source>Correct</source>
@@ -1221,7 +1464,7 @@
     </message>
     <message>
         <source>Pot: %1</source>
-        <translation>Pot : %1</translation>
+        <translation>Pot&#xa0;: %1</translation>
     </message>
     <message>
         <source>Click Turn/River to change</source>
@@ -1229,7 +1472,7 @@
     </message>
     <message>
         <source>OOP action: %1</source>
-        <translation>Action OOP : %1</translation>
+        <translation>Action OOP&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1275,7 +1518,7 @@
     </message>
     <message>
         <source>Iterations: %1</source>
-        <translation>Itérations : %1</translation>
+        <translation>Itérations&#xa0;: %1</translation>
     </message>
     <message>
         <source>Metrics</source>
@@ -1360,15 +1603,42 @@
     </message>
     <message>
         <source>Solve RAM: %1</source>
-        <translation>RAM requise : %1</translation>
+        <translation>RAM requise&#xa0;: %1</translation>
     </message>
     <message>
         <source>Available RAM: %1</source>
-        <translation>RAM disponible : %1</translation>
+        <translation>RAM disponible&#xa0;: %1</translation>
     </message>
     <message>
         <source>Continue to Solve →</source>
         <translation>Passer au calcul →</translation>
+    </message>
+    <message>
+        <source>Solve RAM: being estimated…</source>
+        <translation>RAM requise&#xa0;: estimation…</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Take back the last change (Ctrl+Z)</source>
+        <translation>Annuler la dernière modification (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Bring back what was undone (Ctrl+Shift+Z)</source>
+        <translation>Rétablir ce qui a été annulé (Ctrl+Maj+Z)</translation>
+    </message>
+</context>
+<context>
+    <name>QuestionDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -1426,7 +1696,7 @@
     </message>
     <message>
         <source>%1 combos (%2%)</source>
-        <translation>Combos : %1 (%2%)</translation>
+        <translation>Combos&#xa0;: %1 (%2%)</translation>
     </message>
 </context>
 <context>
@@ -1437,7 +1707,7 @@
     </message>
     <message>
         <source>%1 hands</source>
-        <translation>Mains : %1</translation>
+        <translation>Mains&#xa0;: %1</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1445,7 +1715,7 @@
     </message>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation>p. ex. AA, KK, AKs, QQ+ ou 50%</translation>
+        <translation>p.&#xa0;ex.&#xa0;AA, KK, AKs, QQ+ ou 50%</translation>
     </message>
 </context>
 <context>
@@ -1476,7 +1746,7 @@
     </message>
     <message>
         <source>Export failed: %1</source>
-        <translation>Échec de l’exportation : %1</translation>
+        <translation>Échec de l’exportation&#xa0;: %1</translation>
     </message>
     <message>
         <source>unknown error</source>
@@ -1488,14 +1758,14 @@
     </message>
     <message>
         <source>Failed to load bundled presets: </source>
-        <translation>Impossible de charger les ranges fournies : </translation>
+        <translation>Impossible de charger les ranges fournies&#xa0;: </translation>
     </message>
 </context>
 <context>
     <name>RangeTextField</name>
     <message>
         <source>e.g., AA, KK, AKs, QQ+ or 50%</source>
-        <translation>p. ex. AA, KK, AKs, QQ+ ou 50%</translation>
+        <translation>p.&#xa0;ex.&#xa0;AA, KK, AKs, QQ+ ou 50%</translation>
     </message>
 </context>
 <context>
@@ -1510,7 +1780,66 @@
     </message>
     <message>
         <source>No runs yet — click Start Solve to record a run here.</source>
-        <translation>Aucun calcul pour l’instant – cliquer sur « Lancer le calcul » pour en voir un ici.</translation>
+        <translation>Aucun calcul pour l’instant – cliquer sur «&#xa0;Lancer le calcul&#xa0;» pour en voir un ici.</translation>
+    </message>
+</context>
+<context>
+    <name>ResultNotices</name>
+    <message>
+        <source>The last solve was cancelled. These are the results of the solve before.</source>
+        <translation>Le dernier calcul a été annulé. Ces résultats sont ceux du calcul précédent.</translation>
+    </message>
+    <message>
+        <source>The last solve was not started: %1. These are the results of the solve before.</source>
+        <translation>Le dernier calcul n’a pas été lancé&#xa0;: %1. Ces résultats sont ceux du calcul précédent.</translation>
+    </message>
+    <message>
+        <source>The last solve failed: %1. These are the results of the solve before.</source>
+        <translation>Le dernier calcul a échoué&#xa0;: %1. Ces résultats sont ceux du calcul précédent.</translation>
+    </message>
+    <message>
+        <source>Solving. These are the results of the solve before, until the new ones are there. %1</source>
+        <translation>Calcul en cours. En attendant les nouveaux résultats, ceux du calcul précédent restent affichés. %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Figures of this node are missing: %1</source>
+        <translation>Des valeurs de ce nœud manquent&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The node locks (%1) are not solved yet. At their nodes the grid, the buckets and the hands show a preview; all other figures are those from before.</source>
+        <translation>Les node-locks (%1) ne sont pas encore pris en compte dans le calcul. À leurs nœuds, la matrice, les catégories et les mains montrent un aperçu&#x202f;; toutes les autres valeurs sont les précédentes.</translation>
+    </message>
+    <message>
+        <source>The node locks of this result were removed. It still shows the solve with them.</source>
+        <translation>Les node-locks de ce résultat ont été retirés. Il montre encore le calcul fait avec eux.</translation>
+    </message>
+    <message>
+        <source>Re-solve</source>
+        <translation>Recalculer</translation>
+    </message>
+    <message>
+        <source>The node locks keep the exploitability from falling any further. The solve ended above its target.</source>
+        <translation>Les node-locks empêchent l’exploitabilité de baisser davantage. Le calcul s’est terminé au-dessus de son objectif.</translation>
+    </message>
+    <message>
+        <source>Setup has changed since this solve</source>
+        <translation>«&#xa0;Projet&#xa0;» a changé depuis ce calcul</translation>
+    </message>
+    <message>
+        <source>Solve again</source>
+        <translation>Relancer le calcul</translation>
+    </message>
+    <message>
+        <source>Take back the setup of this result</source>
+        <translation>Rétablir le projet de ce résultat</translation>
     </message>
 </context>
 <context>
@@ -1562,8 +1891,16 @@
 <context>
     <name>RunHistory</name>
     <message>
-        <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation>Itérations %1 • Objectif %2% (≈ %3) • Threads %4</translation>
+        <source>Target %1% (≈ %2) • Threads %3</source>
+        <translation>Objectif %1% (≈ %2) • Threads %3</translation>
+    </message>
+    <message>
+        <source>At most %1 iterations</source>
+        <translation>Itérations&#xa0;: %1 au plus</translation>
+    </message>
+    <message>
+        <source>%1 iterations</source>
+        <translation>Itérations&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1579,6 +1916,14 @@
     <message>
         <source>Cancelled</source>
         <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échoué</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Refusé</translation>
     </message>
 </context>
 <context>
@@ -1631,11 +1976,11 @@
     </message>
     <message>
         <source>Profile name:</source>
-        <translation>Nom du profil :</translation>
+        <translation>Nom du profil&#xa0;:</translation>
     </message>
     <message>
         <source>e.g., 100bb rake-free (fast)</source>
-        <translation>p. ex. 100bb sans rake (rapide)</translation>
+        <translation>p.&#xa0;ex.&#xa0;100bb sans rake (rapide)</translation>
     </message>
 </context>
 <context>
@@ -1749,7 +2094,7 @@
     </message>
     <message>
         <source>e.g. 30</source>
-        <translation>p. ex. 30</translation>
+        <translation>p.&#xa0;ex.&#xa0;30</translation>
     </message>
     <message>
         <source>% pot</source>
@@ -1765,6 +2110,49 @@
     <message>
         <source>Last 52 weeks</source>
         <translation>52 dernières semaines</translation>
+    </message>
+</context>
+<context>
+    <name>SolveFollower</name>
+    <message>
+        <source>Iteration %1 | exploitability=%2</source>
+        <translation>Itération %1 | exploitabilité=%2</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Erreur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Done: node locks keep the exploitability from falling</source>
+        <translation>Terminé&#xa0;: les node-locks empêchent l’exploitabilité de baisser</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>Building the cards and the tree...</source>
+        <translation>Construction des cartes et de l’arbre…</translation>
+    </message>
+    <message>
+        <source>Preparing the solver...</source>
+        <translation>Préparation du solver…</translation>
+    </message>
+    <message>
+        <source>Starting the solver...</source>
+        <translation>Lancement du solver…</translation>
+    </message>
+    <message>
+        <source>Computing the results...</source>
+        <translation>Calcul des résultats…</translation>
+    </message>
+    <message>
+        <source>Collecting the tree...</source>
+        <translation>Assemblage de l’arbre…</translation>
     </message>
 </context>
 <context>
@@ -1819,6 +2207,10 @@
         <source>Strategy by Hand</source>
         <translation>Stratégie par main</translation>
     </message>
+    <message>
+        <source>Strategy by Hand (preview, not solved yet)</source>
+        <translation>Stratégie par main (aperçu, pas encore calculé)</translation>
+    </message>
 </context>
 <context>
     <name>StrategyViews</name>
@@ -1851,7 +2243,7 @@
     </message>
     <message>
         <source>%1 available</source>
-        <translation>Disponibles : %1</translation>
+        <translation>Disponibles&#xa0;: %1</translation>
     </message>
     <message>
         <source>Memory</source>
@@ -1859,7 +2251,7 @@
     </message>
     <message>
         <source>%1 (%2 free)</source>
-        <translation>%1 (libre : %2)</translation>
+        <translation>%1 (libre&#xa0;: %2)</translation>
     </message>
 </context>
 <context>
@@ -1878,7 +2270,7 @@
     </message>
     <message>
         <source>Start a new project (or load one) from Home to enable Project</source>
-        <translation>Créer (ou charger) un projet depuis « Accueil » pour activer « Projet »</translation>
+        <translation>Créer (ou charger) un projet depuis «&#xa0;Accueil&#xa0;» pour activer «&#xa0;Projet&#xa0;»</translation>
     </message>
     <message>
         <source>Solve</source>
@@ -1886,7 +2278,7 @@
     </message>
     <message>
         <source>Fill board, ranges, and sizings to enable Solve</source>
-        <translation>Renseigner board, ranges et sizings pour activer « Calcul »</translation>
+        <translation>Renseigner board, ranges et sizings pour activer «&#xa0;Calcul&#xa0;»</translation>
     </message>
     <message>
         <source>Results</source>
@@ -1894,11 +2286,15 @@
     </message>
     <message>
         <source>Run a solve to enable Results</source>
-        <translation>Lancer un calcul pour activer « Résultats »</translation>
+        <translation>Lancer un calcul pour activer «&#xa0;Résultats&#xa0;»</translation>
     </message>
     <message>
         <source>Settings</source>
         <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>%1. Still missing: %2.</source>
+        <translation>%1. Il manque encore&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -1913,7 +2309,7 @@
     </message>
     <message>
         <source>Clear Play vs. Solution Stats</source>
-        <translation>Effacer les stats « Contre la solution »</translation>
+        <translation>Effacer les stats «&#xa0;Contre la solution&#xa0;»</translation>
     </message>
     <message>
         <source>Hands (Today / Total)</source>
@@ -1940,7 +2336,7 @@
     </message>
     <message>
         <source>%1 options</source>
-        <translation>Options : %1</translation>
+        <translation>Options&#xa0;: %1</translation>
     </message>
     <message>
         <source>Deal %1</source>
@@ -1967,15 +2363,23 @@
     </message>
     <message>
         <source>Pot: %1</source>
-        <translation>Pot : %1</translation>
+        <translation>Pot&#xa0;: %1</translation>
     </message>
     <message>
         <source>Freq: %1%</source>
-        <translation>Fréq. : %1%</translation>
+        <translation>Fréq.&#xa0;: %1%</translation>
     </message>
     <message>
         <source>EV: %1%2</source>
-        <translation>EV : %1%2</translation>
+        <translation>EV&#xa0;: %1%2</translation>
+    </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>Réduire %1</translation>
+    </message>
+    <message>
+        <source>Expand %1</source>
+        <translation>Développer %1</translation>
     </message>
 </context>
 <context>
@@ -1993,7 +2397,7 @@
     </message>
     <message>
         <source>Update check failed: %1</source>
-        <translation>Échec de la recherche de mise à jour : %1</translation>
+        <translation>Échec de la recherche de mise à jour&#xa0;: %1</translation>
     </message>
     <message>
         <source>Invalid update response (HTTP %1).</source>
@@ -2008,7 +2412,7 @@
     <name>UpdatesCard</name>
     <message>
         <source>Last checked: %1</source>
-        <translation>Dernière vérification : %1</translation>
+        <translation>Dernière vérification&#xa0;: %1</translation>
     </message>
     <message>
         <source>Updates</source>
@@ -2016,7 +2420,7 @@
     </message>
     <message>
         <source>Current version: %1</source>
-        <translation>Version actuelle : %1</translation>
+        <translation>Version actuelle&#xa0;: %1</translation>
     </message>
     <message>
         <source>Unknown</source>
@@ -2024,7 +2428,7 @@
     </message>
     <message>
         <source>Update available: %1</source>
-        <translation>Mise à jour disponible : %1</translation>
+        <translation>Mise à jour disponible&#xa0;: %1</translation>
     </message>
     <message>
         <source>Checking...</source>
@@ -2381,15 +2785,15 @@
     </message>
     <message>
         <source>Solves: %1</source>
-        <translation>Calculs : %1</translation>
+        <translation>Calculs&#xa0;: %1</translation>
     </message>
     <message>
         <source>Avg iters: %1</source>
-        <translation>Itér. moy. : %1</translation>
+        <translation>Itér. moy.&#xa0;: %1</translation>
     </message>
     <message>
         <source>Avg expl: %1</source>
-        <translation>Expl. moy. : %1</translation>
+        <translation>Expl. moy.&#xa0;: %1</translation>
     </message>
 </context>
 </TS>

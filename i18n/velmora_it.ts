@@ -56,14 +56,6 @@
         <translation>Avvio…</translation>
     </message>
     <message>
-        <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation>RAM insufficiente per il calcolo (anche senza i risultati precedenti)</translation>
-    </message>
-    <message>
-        <source>Already running</source>
-        <translation>Calcolo già in corso</translation>
-    </message>
-    <message>
         <source>No previous solve config (solve once first)</source>
         <translation>Nessuna configurazione precedente (esegui prima un calcolo)</translation>
     </message>
@@ -106,6 +98,141 @@
     <message>
         <source>Failed to open file: %1</source>
         <translation>Impossibile aprire il file: %1</translation>
+    </message>
+    <message>
+        <source>Estimating the memory...</source>
+        <translation>Stima della memoria…</translation>
+    </message>
+    <message>
+        <source>Not started: the solve needs the memory of the result on view</source>
+        <translation>Non avviato: al calcolo serve la memoria del risultato visualizzato</translation>
+    </message>
+    <message>
+        <source>Not enough RAM to solve: %1 needed, %2 available</source>
+        <translation>RAM insufficiente per il calcolo: necessari %1, disponibili %2</translation>
+    </message>
+    <message>
+        <source>Waiting for the cancelled solve to stop...</source>
+        <translation>In attesa che il calcolo annullato si fermi…</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annullato</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the answers of this node</source>
+        <translation>Memoria insufficiente per le risposte di questo nodo</translation>
+    </message>
+</context>
+<context>
+    <name>AppShell</name>
+    <message>
+        <source>Start a new project (or load one) from Home to enable Project</source>
+        <translation>Crea o carica un progetto da “Home” per attivare “Progetto”</translation>
+    </message>
+    <message>
+        <source>The memory that this solve takes could not be estimated.</source>
+        <translation>Impossibile stimare la memoria richiesta da questo calcolo.</translation>
+    </message>
+    <message>
+        <source>Not enough memory: this solve takes %1, and %2 is available.</source>
+        <translation>Memoria insufficiente: questo calcolo richiede %1, ma sono disponibili %2.</translation>
+    </message>
+    <message>
+        <source>Dunmarrow</source>
+        <translation>Dunmarrow</translation>
+    </message>
+    <message>
+        <source>%1%2 — Dunmarrow</source>
+        <translation>%1%2 — Dunmarrow</translation>
+    </message>
+    <message>
+        <source>New spot</source>
+        <translation>Nuovo spot</translation>
+    </message>
+    <message>
+        <source>Node locks</source>
+        <translation>Node-lock</translation>
+    </message>
+    <message>
+        <source>Node locks (%1) are set on the tree of this spot. Apply them in this solve?</source>
+        <translation>Sull’albero di questo spot sono impostati dei node-lock (%1). Applicarli in questo calcolo?</translation>
+    </message>
+    <message>
+        <source>Solve without locks</source>
+        <translation>Calcola senza node-lock</translation>
+    </message>
+    <message>
+        <source>Apply the locks</source>
+        <translation>Applica i node-lock</translation>
+    </message>
+    <message>
+        <source>A solve is running, and it will be cancelled.</source>
+        <translation>È in corso un calcolo, che verrà annullato.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifiche non salvate</translation>
+    </message>
+    <message>
+        <source>The spot or its results are not saved.</source>
+        <translation>Lo spot o i suoi risultati non sono stati salvati.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Non salvare</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Cancel the solve</source>
+        <translation>Annulla il calcolo</translation>
+    </message>
+    <message>
+        <source>Take back your spot?</source>
+        <translation>Recuperare lo spot?</translation>
+    </message>
+    <message>
+        <source>Dunmarrow did not close properly. The spot that you were editing was kept on %1.</source>
+        <translation>Dunmarrow non si è chiuso correttamente. Lo spot che stavi modificando è stato conservato (%1).</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Scarta</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Recupera</translation>
+    </message>
+    <message>
+        <source>Not enough memory for both</source>
+        <translation>Memoria insufficiente per entrambi</translation>
+    </message>
+    <message>
+        <source>This solve needs %1, and %2 are available. It can start if the solver of the result on view is dropped: of that result only what was looked at so far stays.</source>
+        <translation>Questo calcolo richiede %1, ma sono disponibili %2. Può partire se si scarta il solver del risultato visualizzato: di quel risultato resterà solo ciò che è già stato consultato.</translation>
+    </message>
+    <message>
+        <source>Save first</source>
+        <translation>Prima salva</translation>
+    </message>
+    <message>
+        <source>Solve without saving</source>
+        <translation>Calcola senza salvare</translation>
+    </message>
+    <message>
+        <source>%1 pot %2</source>
+        <translation>%1 piatto %2</translation>
+    </message>
+    <message>
+        <source>Saved %1 at %2</source>
+        <translation>%1 salvato alle %2</translation>
     </message>
 </context>
 <context>
@@ -284,6 +411,14 @@
     <message>
         <source>Close</source>
         <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be dealt here.</source>
+        <translation>Qui non si può distribuire %1.</translation>
+    </message>
+    <message>
+        <source>Arrow keys and Return choose a card, or type it: 7c.</source>
+        <translation>Scegli una carta con le frecce e Invio o digitala: 7c.</translation>
     </message>
 </context>
 <context>
@@ -599,6 +734,88 @@
     <message>
         <source>Drill spot</source>
         <translation>Drill sullo spot</translation>
+    </message>
+</context>
+<context>
+    <name>FileChooser</name>
+    <message>
+        <source>Documents</source>
+        <translation>Documenti</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Scrivania</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Scaricati</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>There is no folder “%1”.</source>
+        <translation>La cartella “%1” non esiste.</translation>
+    </message>
+    <message>
+        <source>There is no file “%1” here.</source>
+        <translation>Qui non c’è nessun file “%1”.</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Su</translation>
+    </message>
+    <message>
+        <source>Nothing to choose here.</source>
+        <translation>Niente da scegliere qui.</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Nome file</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Tipo di file</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Replace file?</source>
+        <translation>Sostituire il file?</translation>
+    </message>
+    <message>
+        <source>“%1” is there already. Saving replaces what it holds.</source>
+        <translation>“%1” esiste già. Salvando se ne sostituisce il contenuto.</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Mantieni</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sostituisci</translation>
+    </message>
+</context>
+<context>
+    <name>FileList</name>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Folder %1</source>
+        <translation>Cartella %1</translation>
     </message>
 </context>
 <context>
@@ -1053,13 +1270,6 @@
     </message>
 </context>
 <context>
-    <name>Main</name>
-    <message>
-        <source>Dunmarrow</source>
-        <translation>Dunmarrow</translation>
-    </message>
-</context>
-<context>
     <name>MessageBox</name>
     <message>
         <source>OK</source>
@@ -1122,6 +1332,17 @@
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
         <translation>Suggerimento: scegli un’azione qui sopra, poi clicca su una mano nella matrice per bloccarla.</translation>
     </message>
+    <message>
+        <source>Undo reset</source>
+        <translation>Annulla reset</translation>
+    </message>
+</context>
+<context>
+    <name>NodeLocks</name>
+    <message>
+        <source>The weight must be a number from 0 to 1</source>
+        <translation>Il peso deve essere un numero da 0 a 1</translation>
+    </message>
 </context>
 <context>
     <name>NodeView</name>
@@ -1132,6 +1353,24 @@
     <message>
         <source>Random turn card</source>
         <translation>Carta turn casuale</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeStrip</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>Enter a number from %1 to %2 with at most %3 decimals.</source>
+        <translation>Inserisci un numero da %1 a %2 (decimali: al massimo %3).</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from %1 to %2.</source>
+        <translation>Inserisci un numero intero da %1 a %2.</translation>
     </message>
 </context>
 <context>
@@ -1166,6 +1405,10 @@
     <message>
         <source>Hand details</source>
         <translation>Dettagli della mano</translation>
+    </message>
+    <message>
+        <source>Choose a hand in the log.</source>
+        <translation>Scegli una mano nella cronologia.</translation>
     </message>
 </context>
 <context>
@@ -1370,6 +1613,33 @@
         <source>Continue to Solve →</source>
         <translation>Vai al calcolo →</translation>
     </message>
+    <message>
+        <source>Solve RAM: being estimated…</source>
+        <translation>RAM per il calcolo: stima…</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Take back the last change (Ctrl+Z)</source>
+        <translation>Annulla l’ultima modifica (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Bring back what was undone (Ctrl+Shift+Z)</source>
+        <translation>Ripristina ciò che è stato annullato (Ctrl+Maiusc+Z)</translation>
+    </message>
+</context>
+<context>
+    <name>QuestionDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
 </context>
 <context>
     <name>QuickActionsCard</name>
@@ -1514,6 +1784,65 @@
     </message>
 </context>
 <context>
+    <name>ResultNotices</name>
+    <message>
+        <source>The last solve was cancelled. These are the results of the solve before.</source>
+        <translation>L’ultimo calcolo è stato annullato. Questi sono i risultati del calcolo precedente.</translation>
+    </message>
+    <message>
+        <source>The last solve was not started: %1. These are the results of the solve before.</source>
+        <translation>L’ultimo calcolo non è stato avviato: %1. Questi sono i risultati del calcolo precedente.</translation>
+    </message>
+    <message>
+        <source>The last solve failed: %1. These are the results of the solve before.</source>
+        <translation>L’ultimo calcolo non è riuscito: %1. Questi sono i risultati del calcolo precedente.</translation>
+    </message>
+    <message>
+        <source>Solving. These are the results of the solve before, until the new ones are there. %1</source>
+        <translation>Calcolo in corso. Finché non ci sono i nuovi risultati, restano visibili quelli del calcolo precedente. %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Figures of this node are missing: %1</source>
+        <translation>Mancano dei valori di questo nodo: %1</translation>
+    </message>
+    <message>
+        <source>The node locks (%1) are not solved yet. At their nodes the grid, the buckets and the hands show a preview; all other figures are those from before.</source>
+        <translation>I node-lock (%1) non sono ancora stati calcolati. Nei loro nodi la matrice, le categorie e le mani mostrano un’anteprima; tutti gli altri valori sono quelli di prima.</translation>
+    </message>
+    <message>
+        <source>The node locks of this result were removed. It still shows the solve with them.</source>
+        <translation>I node-lock di questo risultato sono stati rimossi. Mostra ancora il calcolo fatto con essi.</translation>
+    </message>
+    <message>
+        <source>Re-solve</source>
+        <translation>Ricalcola</translation>
+    </message>
+    <message>
+        <source>The node locks keep the exploitability from falling any further. The solve ended above its target.</source>
+        <translation>I node-lock impediscono alla sfruttabilità di scendere ancora. Il calcolo si è chiuso sopra l’obiettivo.</translation>
+    </message>
+    <message>
+        <source>Setup has changed since this solve</source>
+        <translation>“Progetto” è cambiato dopo questo calcolo</translation>
+    </message>
+    <message>
+        <source>Solve again</source>
+        <translation>Calcola di nuovo</translation>
+    </message>
+    <message>
+        <source>Take back the setup of this result</source>
+        <translation>Ripristina il progetto di questo risultato</translation>
+    </message>
+</context>
+<context>
     <name>ResultsHeader</name>
     <message>
         <source>Strategy View</source>
@@ -1562,8 +1891,16 @@
 <context>
     <name>RunHistory</name>
     <message>
-        <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation>Iterazioni: %1 • Obiettivo: %2% (≈ %3) • Thread: %4</translation>
+        <source>Target %1% (≈ %2) • Threads %3</source>
+        <translation>Obiettivo: %1% (≈ %2) • Thread: %3</translation>
+    </message>
+    <message>
+        <source>At most %1 iterations</source>
+        <translation>Iterazioni: al massimo %1</translation>
+    </message>
+    <message>
+        <source>%1 iterations</source>
+        <translation>Iterazioni: %1</translation>
     </message>
 </context>
 <context>
@@ -1579,6 +1916,14 @@
     <message>
         <source>Cancelled</source>
         <translation>Annullato</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Non riuscito</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Rifiutato</translation>
     </message>
 </context>
 <context>
@@ -1768,6 +2113,49 @@
     </message>
 </context>
 <context>
+    <name>SolveFollower</name>
+    <message>
+        <source>Iteration %1 | exploitability=%2</source>
+        <translation>Iterazione %1 | sfruttabilità: %2</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Errore: %1</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Completato</translation>
+    </message>
+    <message>
+        <source>Done: node locks keep the exploitability from falling</source>
+        <translation>Completato: i node-lock impediscono alla sfruttabilità di scendere</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annullato</translation>
+    </message>
+    <message>
+        <source>Building the cards and the tree...</source>
+        <translation>Costruzione di carte e albero…</translation>
+    </message>
+    <message>
+        <source>Preparing the solver...</source>
+        <translation>Preparazione del solver…</translation>
+    </message>
+    <message>
+        <source>Starting the solver...</source>
+        <translation>Avvio del solver…</translation>
+    </message>
+    <message>
+        <source>Computing the results...</source>
+        <translation>Calcolo dei risultati…</translation>
+    </message>
+    <message>
+        <source>Collecting the tree...</source>
+        <translation>Raccolta dell’albero…</translation>
+    </message>
+</context>
+<context>
     <name>SolvePage</name>
     <message>
         <source>Solve</source>
@@ -1818,6 +2206,10 @@
     <message>
         <source>Strategy by Hand</source>
         <translation>Strategia per mano</translation>
+    </message>
+    <message>
+        <source>Strategy by Hand (preview, not solved yet)</source>
+        <translation>Strategia per mano (anteprima, non ancora calcolata)</translation>
     </message>
 </context>
 <context>
@@ -1900,6 +2292,10 @@
         <source>Settings</source>
         <translation>Impostazioni</translation>
     </message>
+    <message>
+        <source>%1. Still missing: %2.</source>
+        <translation>%1. Manca ancora: %2.</translation>
+    </message>
 </context>
 <context>
     <name>TrainerStatsCard</name>
@@ -1976,6 +2372,14 @@
     <message>
         <source>EV: %1%2</source>
         <translation>EV: %1%2</translation>
+    </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>Comprimi %1</translation>
+    </message>
+    <message>
+        <source>Expand %1</source>
+        <translation>Espandi %1</translation>
     </message>
 </context>
 <context>

@@ -56,14 +56,6 @@
         <translation>Uruchamianie…</translation>
     </message>
     <message>
-        <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation>Za mało RAM na obliczenia (nawet po usunięciu poprzednich wyników)</translation>
-    </message>
-    <message>
-        <source>Already running</source>
-        <translation>Obliczenia już trwają</translation>
-    </message>
-    <message>
         <source>No previous solve config (solve once first)</source>
         <translation>Brak poprzedniej konfiguracji (najpierw uruchom obliczenia)</translation>
     </message>
@@ -106,6 +98,141 @@
     <message>
         <source>Failed to open file: %1</source>
         <translation>Nie udało się otworzyć pliku: %1</translation>
+    </message>
+    <message>
+        <source>Estimating the memory...</source>
+        <translation>Szacowanie pamięci…</translation>
+    </message>
+    <message>
+        <source>Not started: the solve needs the memory of the result on view</source>
+        <translation>Nie uruchomiono: obliczenia potrzebują pamięci wyświetlanego wyniku</translation>
+    </message>
+    <message>
+        <source>Not enough RAM to solve: %1 needed, %2 available</source>
+        <translation>Za mało RAM na obliczenia: potrzeba %1, dostępne %2</translation>
+    </message>
+    <message>
+        <source>Waiting for the cancelled solve to stop...</source>
+        <translation>Oczekiwanie na koniec anulowanych obliczeń…</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Anulowane</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the answers of this node</source>
+        <translation>Za mało pamięci na odpowiedzi tego węzła</translation>
+    </message>
+</context>
+<context>
+    <name>AppShell</name>
+    <message>
+        <source>Start a new project (or load one) from Home to enable Project</source>
+        <translation>Utwórz lub wczytaj projekt na karcie „Start”, aby odblokować „Projekt”</translation>
+    </message>
+    <message>
+        <source>The memory that this solve takes could not be estimated.</source>
+        <translation>Nie udało się oszacować pamięci potrzebnej na te obliczenia.</translation>
+    </message>
+    <message>
+        <source>Not enough memory: this solve takes %1, and %2 is available.</source>
+        <translation>Za mało pamięci: te obliczenia wymagają %1, a dostępne jest %2.</translation>
+    </message>
+    <message>
+        <source>Dunmarrow</source>
+        <translation>Dunmarrow</translation>
+    </message>
+    <message>
+        <source>%1%2 — Dunmarrow</source>
+        <translation>%1%2 — Dunmarrow</translation>
+    </message>
+    <message>
+        <source>New spot</source>
+        <translation>Nowy spot</translation>
+    </message>
+    <message>
+        <source>Node locks</source>
+        <translation>Nodelocki</translation>
+    </message>
+    <message>
+        <source>Node locks (%1) are set on the tree of this spot. Apply them in this solve?</source>
+        <translation>W drzewie tego spotu ustawiono nodelocki (%1). Zastosować je w tych obliczeniach?</translation>
+    </message>
+    <message>
+        <source>Solve without locks</source>
+        <translation>Oblicz bez nodelocków</translation>
+    </message>
+    <message>
+        <source>Apply the locks</source>
+        <translation>Zastosuj nodelocki</translation>
+    </message>
+    <message>
+        <source>A solve is running, and it will be cancelled.</source>
+        <translation>Trwają obliczenia; zostaną anulowane.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Niezapisane zmiany</translation>
+    </message>
+    <message>
+        <source>The spot or its results are not saved.</source>
+        <translation>Spot lub jego wyniki nie zostały zapisane.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Nie zapisuj</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Cancel the solve</source>
+        <translation>Anuluj obliczenia</translation>
+    </message>
+    <message>
+        <source>Take back your spot?</source>
+        <translation>Przywrócić Twój spot?</translation>
+    </message>
+    <message>
+        <source>Dunmarrow did not close properly. The spot that you were editing was kept on %1.</source>
+        <translation>Program Dunmarrow nie został poprawnie zamknięty. Edytowany spot został zachowany (%1).</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Odrzuć</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Przywróć</translation>
+    </message>
+    <message>
+        <source>Not enough memory for both</source>
+        <translation>Za mało pamięci na jedno i drugie</translation>
+    </message>
+    <message>
+        <source>This solve needs %1, and %2 are available. It can start if the solver of the result on view is dropped: of that result only what was looked at so far stays.</source>
+        <translation>Te obliczenia wymagają %1, a dostępne jest %2. Można je uruchomić, jeśli solver wyświetlanego wyniku zostanie usunięty z pamięci: z tego wyniku zostanie tylko to, co już obejrzano.</translation>
+    </message>
+    <message>
+        <source>Save first</source>
+        <translation>Najpierw zapisz</translation>
+    </message>
+    <message>
+        <source>Solve without saving</source>
+        <translation>Oblicz bez zapisu</translation>
+    </message>
+    <message>
+        <source>%1 pot %2</source>
+        <translation>%1 pula %2</translation>
+    </message>
+    <message>
+        <source>Saved %1 at %2</source>
+        <translation>Zapisano %1 o %2</translation>
     </message>
 </context>
 <context>
@@ -284,6 +411,14 @@
     <message>
         <source>Close</source>
         <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be dealt here.</source>
+        <translation>Nie można tu rozdać %1.</translation>
+    </message>
+    <message>
+        <source>Arrow keys and Return choose a card, or type it: 7c.</source>
+        <translation>Wybierz kartę strzałkami i klawiszem Enter lub wpisz ją: 7c.</translation>
     </message>
 </context>
 <context>
@@ -599,6 +734,88 @@
     <message>
         <source>Drill spot</source>
         <translation>Trenuj spot</translation>
+    </message>
+</context>
+<context>
+    <name>FileChooser</name>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumenty</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Pulpit</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Pobrane</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Domowy</translation>
+    </message>
+    <message>
+        <source>There is no folder “%1”.</source>
+        <translation>Folder „%1” nie istnieje.</translation>
+    </message>
+    <message>
+        <source>There is no file “%1” here.</source>
+        <translation>Nie ma tu pliku „%1”.</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>W górę</translation>
+    </message>
+    <message>
+        <source>Nothing to choose here.</source>
+        <translation>Nie ma tu nic do wyboru.</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Nazwa pliku</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Typ pliku</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Otwórz</translation>
+    </message>
+    <message>
+        <source>Replace file?</source>
+        <translation>Zastąpić plik?</translation>
+    </message>
+    <message>
+        <source>“%1” is there already. Saving replaces what it holds.</source>
+        <translation>Plik „%1” już istnieje. Zapisanie zastąpi jego zawartość.</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Zachowaj</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Zastąp</translation>
+    </message>
+</context>
+<context>
+    <name>FileList</name>
+    <message>
+        <source>Files</source>
+        <translation>Pliki</translation>
+    </message>
+    <message>
+        <source>Folder %1</source>
+        <translation>Folder %1</translation>
     </message>
 </context>
 <context>
@@ -1053,13 +1270,6 @@
     </message>
 </context>
 <context>
-    <name>Main</name>
-    <message>
-        <source>Dunmarrow</source>
-        <translation>Dunmarrow</translation>
-    </message>
-</context>
-<context>
     <name>MessageBox</name>
     <message>
         <source>OK</source>
@@ -1122,6 +1332,17 @@
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
         <translation>Wskazówka: wybierz akcję powyżej, a potem kliknij rękę w macierzy, aby ją zablokować.</translation>
     </message>
+    <message>
+        <source>Undo reset</source>
+        <translation>Cofnij reset</translation>
+    </message>
+</context>
+<context>
+    <name>NodeLocks</name>
+    <message>
+        <source>The weight must be a number from 0 to 1</source>
+        <translation>Waga musi być liczbą od 0 do 1</translation>
+    </message>
 </context>
 <context>
     <name>NodeView</name>
@@ -1132,6 +1353,24 @@
     <message>
         <source>Random turn card</source>
         <translation>Losowa karta turna</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeStrip</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>Enter a number from %1 to %2 with at most %3 decimals.</source>
+        <translation>Podaj liczbę od %1 do %2 (miejsca po przecinku: najwyżej %3).</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from %1 to %2.</source>
+        <translation>Podaj liczbę całkowitą od %1 do %2.</translation>
     </message>
 </context>
 <context>
@@ -1166,6 +1405,10 @@
     <message>
         <source>Hand details</source>
         <translation>Szczegóły rozdania</translation>
+    </message>
+    <message>
+        <source>Choose a hand in the log.</source>
+        <translation>Wybierz rozdanie z historii.</translation>
     </message>
 </context>
 <context>
@@ -1370,6 +1613,33 @@
         <source>Continue to Solve →</source>
         <translation>Do obliczeń →</translation>
     </message>
+    <message>
+        <source>Solve RAM: being estimated…</source>
+        <translation>RAM na obliczenia: szacowanie…</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Cofnij</translation>
+    </message>
+    <message>
+        <source>Take back the last change (Ctrl+Z)</source>
+        <translation>Cofnij ostatnią zmianę (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ponów</translation>
+    </message>
+    <message>
+        <source>Bring back what was undone (Ctrl+Shift+Z)</source>
+        <translation>Przywróć cofniętą zmianę (Ctrl+Shift+Z)</translation>
+    </message>
+</context>
+<context>
+    <name>QuestionDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
 </context>
 <context>
     <name>QuickActionsCard</name>
@@ -1514,6 +1784,65 @@
     </message>
 </context>
 <context>
+    <name>ResultNotices</name>
+    <message>
+        <source>The last solve was cancelled. These are the results of the solve before.</source>
+        <translation>Ostatnie obliczenia anulowano. To wyniki poprzednich obliczeń.</translation>
+    </message>
+    <message>
+        <source>The last solve was not started: %1. These are the results of the solve before.</source>
+        <translation>Ostatnich obliczeń nie uruchomiono: %1. To wyniki poprzednich obliczeń.</translation>
+    </message>
+    <message>
+        <source>The last solve failed: %1. These are the results of the solve before.</source>
+        <translation>Ostatnie obliczenia się nie powiodły: %1. To wyniki poprzednich obliczeń.</translation>
+    </message>
+    <message>
+        <source>Solving. These are the results of the solve before, until the new ones are there. %1</source>
+        <translation>Obliczanie. Do czasu uzyskania nowych wyników widać wyniki poprzednich obliczeń. %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Figures of this node are missing: %1</source>
+        <translation>Brakuje danych tego węzła: %1</translation>
+    </message>
+    <message>
+        <source>The node locks (%1) are not solved yet. At their nodes the grid, the buckets and the hands show a preview; all other figures are those from before.</source>
+        <translation>Nodelocki (%1) nie zostały jeszcze przeliczone. W ich węzłach macierz, kategorie i ręce pokazują podgląd; wszystkie pozostałe wartości są dotychczasowe.</translation>
+    </message>
+    <message>
+        <source>The node locks of this result were removed. It still shows the solve with them.</source>
+        <translation>Nodelocki tego wyniku usunięto. Wynik nadal pokazuje obliczenia z nimi.</translation>
+    </message>
+    <message>
+        <source>Re-solve</source>
+        <translation>Przelicz</translation>
+    </message>
+    <message>
+        <source>The node locks keep the exploitability from falling any further. The solve ended above its target.</source>
+        <translation>Nodelocki nie pozwalają na dalszy spadek eksploatowalności. Obliczenia zakończyły się powyżej celu.</translation>
+    </message>
+    <message>
+        <source>Setup has changed since this solve</source>
+        <translation>„Projekt” zmienił się od czasu tych obliczeń</translation>
+    </message>
+    <message>
+        <source>Solve again</source>
+        <translation>Oblicz ponownie</translation>
+    </message>
+    <message>
+        <source>Take back the setup of this result</source>
+        <translation>Przywróć projekt tego wyniku</translation>
+    </message>
+</context>
+<context>
     <name>ResultsHeader</name>
     <message>
         <source>Strategy View</source>
@@ -1562,8 +1891,16 @@
 <context>
     <name>RunHistory</name>
     <message>
-        <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation>Iteracje: %1 • Cel: %2% (≈ %3) • Wątki: %4</translation>
+        <source>Target %1% (≈ %2) • Threads %3</source>
+        <translation>Cel: %1% (≈ %2) • Wątki: %3</translation>
+    </message>
+    <message>
+        <source>At most %1 iterations</source>
+        <translation>Iteracje: najwyżej %1</translation>
+    </message>
+    <message>
+        <source>%1 iterations</source>
+        <translation>Iteracje: %1</translation>
     </message>
 </context>
 <context>
@@ -1579,6 +1916,14 @@
     <message>
         <source>Cancelled</source>
         <translation>Anulowane</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Niepowodzenie</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Odrzucone</translation>
     </message>
 </context>
 <context>
@@ -1768,6 +2113,49 @@
     </message>
 </context>
 <context>
+    <name>SolveFollower</name>
+    <message>
+        <source>Iteration %1 | exploitability=%2</source>
+        <translation>Iteracja %1 | eksploatowalność: %2</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Błąd: %1</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Gotowe</translation>
+    </message>
+    <message>
+        <source>Done: node locks keep the exploitability from falling</source>
+        <translation>Gotowe: nodelocki nie pozwalają na spadek eksploatowalności</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Anulowane</translation>
+    </message>
+    <message>
+        <source>Building the cards and the tree...</source>
+        <translation>Budowanie kart i drzewa…</translation>
+    </message>
+    <message>
+        <source>Preparing the solver...</source>
+        <translation>Przygotowywanie solvera…</translation>
+    </message>
+    <message>
+        <source>Starting the solver...</source>
+        <translation>Uruchamianie solvera…</translation>
+    </message>
+    <message>
+        <source>Computing the results...</source>
+        <translation>Obliczanie wyników…</translation>
+    </message>
+    <message>
+        <source>Collecting the tree...</source>
+        <translation>Zbieranie drzewa…</translation>
+    </message>
+</context>
+<context>
     <name>SolvePage</name>
     <message>
         <source>Solve</source>
@@ -1818,6 +2206,10 @@
     <message>
         <source>Strategy by Hand</source>
         <translation>Strategia dla rąk</translation>
+    </message>
+    <message>
+        <source>Strategy by Hand (preview, not solved yet)</source>
+        <translation>Strategia dla rąk (podgląd, jeszcze nie obliczono)</translation>
     </message>
 </context>
 <context>
@@ -1900,6 +2292,10 @@
         <source>Settings</source>
         <translation>Ustawienia</translation>
     </message>
+    <message>
+        <source>%1. Still missing: %2.</source>
+        <translation>%1. Nadal brakuje: %2.</translation>
+    </message>
 </context>
 <context>
     <name>TrainerStatsCard</name>
@@ -1976,6 +2372,14 @@
     <message>
         <source>EV: %1%2</source>
         <translation>EV: %1%2</translation>
+    </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>Zwiń %1</translation>
+    </message>
+    <message>
+        <source>Expand %1</source>
+        <translation>Rozwiń %1</translation>
     </message>
 </context>
 <context>

@@ -56,14 +56,6 @@
         <translation>Iniciando…</translation>
     </message>
     <message>
-        <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation>RAM insuficiente para o cálculo (mesmo sem os resultados anteriores)</translation>
-    </message>
-    <message>
-        <source>Already running</source>
-        <translation>Cálculo já em andamento</translation>
-    </message>
-    <message>
         <source>No previous solve config (solve once first)</source>
         <translation>Nenhuma configuração anterior (faça primeiro um cálculo)</translation>
     </message>
@@ -106,6 +98,141 @@
     <message>
         <source>Failed to open file: %1</source>
         <translation>Não foi possível abrir o arquivo: %1</translation>
+    </message>
+    <message>
+        <source>Estimating the memory...</source>
+        <translation>Estimando a memória…</translation>
+    </message>
+    <message>
+        <source>Not started: the solve needs the memory of the result on view</source>
+        <translation>Não iniciado: o cálculo precisa da memória do resultado exibido</translation>
+    </message>
+    <message>
+        <source>Not enough RAM to solve: %1 needed, %2 available</source>
+        <translation>RAM insuficiente para o cálculo: necessário %1, disponível %2</translation>
+    </message>
+    <message>
+        <source>Waiting for the cancelled solve to stop...</source>
+        <translation>Aguardando o cálculo cancelado parar…</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the answers of this node</source>
+        <translation>Não há memória suficiente para as respostas deste nó</translation>
+    </message>
+</context>
+<context>
+    <name>AppShell</name>
+    <message>
+        <source>Start a new project (or load one) from Home to enable Project</source>
+        <translation>Crie (ou carregue) um projeto em “Início” para liberar “Projeto”</translation>
+    </message>
+    <message>
+        <source>The memory that this solve takes could not be estimated.</source>
+        <translation>Não foi possível estimar a memória que este cálculo exige.</translation>
+    </message>
+    <message>
+        <source>Not enough memory: this solve takes %1, and %2 is available.</source>
+        <translation>Memória insuficiente: este cálculo exige %1, e há %2 disponíveis.</translation>
+    </message>
+    <message>
+        <source>Dunmarrow</source>
+        <translation>Dunmarrow</translation>
+    </message>
+    <message>
+        <source>%1%2 — Dunmarrow</source>
+        <translation>%1%2 — Dunmarrow</translation>
+    </message>
+    <message>
+        <source>New spot</source>
+        <translation>Novo spot</translation>
+    </message>
+    <message>
+        <source>Node locks</source>
+        <translation>Node-locks</translation>
+    </message>
+    <message>
+        <source>Node locks (%1) are set on the tree of this spot. Apply them in this solve?</source>
+        <translation>A árvore deste spot tem node-locks (%1). Aplicá-los neste cálculo?</translation>
+    </message>
+    <message>
+        <source>Solve without locks</source>
+        <translation>Calcular sem node-locks</translation>
+    </message>
+    <message>
+        <source>Apply the locks</source>
+        <translation>Aplicar node-locks</translation>
+    </message>
+    <message>
+        <source>A solve is running, and it will be cancelled.</source>
+        <translation>Há um cálculo em andamento, e ele será cancelado.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Alterações não salvas</translation>
+    </message>
+    <message>
+        <source>The spot or its results are not saved.</source>
+        <translation>O spot ou seus resultados não foram salvos.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Não salvar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Cancel the solve</source>
+        <translation>Cancelar o cálculo</translation>
+    </message>
+    <message>
+        <source>Take back your spot?</source>
+        <translation>Recuperar o seu spot?</translation>
+    </message>
+    <message>
+        <source>Dunmarrow did not close properly. The spot that you were editing was kept on %1.</source>
+        <translation>O Dunmarrow não foi fechado corretamente. O spot que você estava editando foi guardado (%1).</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Recuperar</translation>
+    </message>
+    <message>
+        <source>Not enough memory for both</source>
+        <translation>Memória insuficiente para ambos</translation>
+    </message>
+    <message>
+        <source>This solve needs %1, and %2 are available. It can start if the solver of the result on view is dropped: of that result only what was looked at so far stays.</source>
+        <translation>Este cálculo exige %1, e há %2 disponíveis. Ele pode começar se o solver do resultado exibido for descartado: desse resultado ficará apenas o que já foi consultado.</translation>
+    </message>
+    <message>
+        <source>Save first</source>
+        <translation>Salvar antes</translation>
+    </message>
+    <message>
+        <source>Solve without saving</source>
+        <translation>Calcular sem salvar</translation>
+    </message>
+    <message>
+        <source>%1 pot %2</source>
+        <translation>%1 pote %2</translation>
+    </message>
+    <message>
+        <source>Saved %1 at %2</source>
+        <translation>%1 salvo às %2</translation>
     </message>
 </context>
 <context>
@@ -284,6 +411,14 @@
     <message>
         <source>Close</source>
         <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be dealt here.</source>
+        <translation>%1 não pode ser distribuída aqui.</translation>
+    </message>
+    <message>
+        <source>Arrow keys and Return choose a card, or type it: 7c.</source>
+        <translation>Escolha uma carta com as setas e Enter ou digite-a: 7c.</translation>
     </message>
 </context>
 <context>
@@ -599,6 +734,88 @@
     <message>
         <source>Drill spot</source>
         <translation>Treinar spot</translation>
+    </message>
+</context>
+<context>
+    <name>FileChooser</name>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Desktop</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Downloads</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Pessoal</translation>
+    </message>
+    <message>
+        <source>There is no folder “%1”.</source>
+        <translation>A pasta “%1” não existe.</translation>
+    </message>
+    <message>
+        <source>There is no file “%1” here.</source>
+        <translation>Não há nenhum arquivo “%1” aqui.</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Acima</translation>
+    </message>
+    <message>
+        <source>Nothing to choose here.</source>
+        <translation>Não há nada para escolher aqui.</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Nome do arquivo</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Tipo de arquivo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Replace file?</source>
+        <translation>Substituir o arquivo?</translation>
+    </message>
+    <message>
+        <source>“%1” is there already. Saving replaces what it holds.</source>
+        <translation>“%1” já existe. Ao salvar, o conteúdo será substituído.</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Manter</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Substituir</translation>
+    </message>
+</context>
+<context>
+    <name>FileList</name>
+    <message>
+        <source>Files</source>
+        <translation>Arquivos</translation>
+    </message>
+    <message>
+        <source>Folder %1</source>
+        <translation>Pasta %1</translation>
     </message>
 </context>
 <context>
@@ -1053,13 +1270,6 @@
     </message>
 </context>
 <context>
-    <name>Main</name>
-    <message>
-        <source>Dunmarrow</source>
-        <translation>Dunmarrow</translation>
-    </message>
-</context>
-<context>
     <name>MessageBox</name>
     <message>
         <source>OK</source>
@@ -1122,6 +1332,17 @@
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
         <translation>Dica: selecione uma ação acima e depois clique em uma mão na matriz para travá-la.</translation>
     </message>
+    <message>
+        <source>Undo reset</source>
+        <translation>Desfazer limpeza</translation>
+    </message>
+</context>
+<context>
+    <name>NodeLocks</name>
+    <message>
+        <source>The weight must be a number from 0 to 1</source>
+        <translation>O peso deve ser um número de 0 a 1</translation>
+    </message>
 </context>
 <context>
     <name>NodeView</name>
@@ -1132,6 +1353,24 @@
     <message>
         <source>Random turn card</source>
         <translation>Carta aleatória no turn</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeStrip</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>Enter a number from %1 to %2 with at most %3 decimals.</source>
+        <translation>Digite um número de %1 a %2 (casas decimais: no máximo %3).</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from %1 to %2.</source>
+        <translation>Digite um número inteiro de %1 a %2.</translation>
     </message>
 </context>
 <context>
@@ -1166,6 +1405,10 @@
     <message>
         <source>Hand details</source>
         <translation>Detalhes da mão</translation>
+    </message>
+    <message>
+        <source>Choose a hand in the log.</source>
+        <translation>Escolha uma mão no registro.</translation>
     </message>
 </context>
 <context>
@@ -1370,6 +1613,33 @@
         <source>Continue to Solve →</source>
         <translation>Ir para o cálculo →</translation>
     </message>
+    <message>
+        <source>Solve RAM: being estimated…</source>
+        <translation>RAM para o cálculo: estimando…</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Take back the last change (Ctrl+Z)</source>
+        <translation>Desfazer a última alteração (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refazer</translation>
+    </message>
+    <message>
+        <source>Bring back what was undone (Ctrl+Shift+Z)</source>
+        <translation>Refazer o que foi desfeito (Ctrl+Shift+Z)</translation>
+    </message>
+</context>
+<context>
+    <name>QuestionDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>QuickActionsCard</name>
@@ -1514,6 +1784,65 @@
     </message>
 </context>
 <context>
+    <name>ResultNotices</name>
+    <message>
+        <source>The last solve was cancelled. These are the results of the solve before.</source>
+        <translation>O último cálculo foi cancelado. Estes são os resultados do cálculo anterior.</translation>
+    </message>
+    <message>
+        <source>The last solve was not started: %1. These are the results of the solve before.</source>
+        <translation>O último cálculo não foi iniciado: %1. Estes são os resultados do cálculo anterior.</translation>
+    </message>
+    <message>
+        <source>The last solve failed: %1. These are the results of the solve before.</source>
+        <translation>O último cálculo falhou: %1. Estes são os resultados do cálculo anterior.</translation>
+    </message>
+    <message>
+        <source>Solving. These are the results of the solve before, until the new ones are there. %1</source>
+        <translation>Calculando. Até saírem os novos resultados, aparecem aqui os do cálculo anterior. %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Figures of this node are missing: %1</source>
+        <translation>Faltam valores deste nó: %1</translation>
+    </message>
+    <message>
+        <source>The node locks (%1) are not solved yet. At their nodes the grid, the buckets and the hands show a preview; all other figures are those from before.</source>
+        <translation>Os node-locks (%1) ainda não foram calculados. Nos nós deles, a matriz, as categorias e as mãos mostram uma prévia; todos os outros valores são os anteriores.</translation>
+    </message>
+    <message>
+        <source>The node locks of this result were removed. It still shows the solve with them.</source>
+        <translation>Os node-locks deste resultado foram removidos. Ele ainda mostra o cálculo feito com eles.</translation>
+    </message>
+    <message>
+        <source>Re-solve</source>
+        <translation>Recalcular</translation>
+    </message>
+    <message>
+        <source>The node locks keep the exploitability from falling any further. The solve ended above its target.</source>
+        <translation>Os node-locks impedem que a explorabilidade caia mais. O cálculo terminou acima do alvo.</translation>
+    </message>
+    <message>
+        <source>Setup has changed since this solve</source>
+        <translation>“Projeto” mudou desde este cálculo</translation>
+    </message>
+    <message>
+        <source>Solve again</source>
+        <translation>Calcular de novo</translation>
+    </message>
+    <message>
+        <source>Take back the setup of this result</source>
+        <translation>Recuperar o projeto deste resultado</translation>
+    </message>
+</context>
+<context>
     <name>ResultsHeader</name>
     <message>
         <source>Strategy View</source>
@@ -1562,8 +1891,16 @@
 <context>
     <name>RunHistory</name>
     <message>
-        <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation>Iterações: %1 • Alvo: %2% (≈ %3) • Threads: %4</translation>
+        <source>Target %1% (≈ %2) • Threads %3</source>
+        <translation>Alvo: %1% (≈ %2) • Threads: %3</translation>
+    </message>
+    <message>
+        <source>At most %1 iterations</source>
+        <translation>Iterações: no máximo %1</translation>
+    </message>
+    <message>
+        <source>%1 iterations</source>
+        <translation>Iterações: %1</translation>
     </message>
 </context>
 <context>
@@ -1579,6 +1916,14 @@
     <message>
         <source>Cancelled</source>
         <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Falhou</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Recusado</translation>
     </message>
 </context>
 <context>
@@ -1768,6 +2113,49 @@
     </message>
 </context>
 <context>
+    <name>SolveFollower</name>
+    <message>
+        <source>Iteration %1 | exploitability=%2</source>
+        <translation>Iteração %1 | explorabilidade: %2</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Erro: %1</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Concluído</translation>
+    </message>
+    <message>
+        <source>Done: node locks keep the exploitability from falling</source>
+        <translation>Concluído: os node-locks impedem que a explorabilidade caia</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>Building the cards and the tree...</source>
+        <translation>Montando as cartas e a árvore…</translation>
+    </message>
+    <message>
+        <source>Preparing the solver...</source>
+        <translation>Preparando o solver…</translation>
+    </message>
+    <message>
+        <source>Starting the solver...</source>
+        <translation>Iniciando o solver…</translation>
+    </message>
+    <message>
+        <source>Computing the results...</source>
+        <translation>Calculando os resultados…</translation>
+    </message>
+    <message>
+        <source>Collecting the tree...</source>
+        <translation>Reunindo a árvore…</translation>
+    </message>
+</context>
+<context>
     <name>SolvePage</name>
     <message>
         <source>Solve</source>
@@ -1818,6 +2206,10 @@
     <message>
         <source>Strategy by Hand</source>
         <translation>Estratégia por mão</translation>
+    </message>
+    <message>
+        <source>Strategy by Hand (preview, not solved yet)</source>
+        <translation>Estratégia por mão (prévia, ainda não calculada)</translation>
     </message>
 </context>
 <context>
@@ -1900,6 +2292,10 @@
         <source>Settings</source>
         <translation>Configurações</translation>
     </message>
+    <message>
+        <source>%1. Still missing: %2.</source>
+        <translation>%1. Ainda falta: %2.</translation>
+    </message>
 </context>
 <context>
     <name>TrainerStatsCard</name>
@@ -1976,6 +2372,14 @@
     <message>
         <source>EV: %1%2</source>
         <translation>EV: %1%2</translation>
+    </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>Recolher %1</translation>
+    </message>
+    <message>
+        <source>Expand %1</source>
+        <translation>Expandir %1</translation>
     </message>
 </context>
 <context>

@@ -56,14 +56,6 @@
         <translation>Запуск…</translation>
     </message>
     <message>
-        <source>Not enough RAM to solve (after clearing previous results)</source>
-        <translation>Не хватает RAM для расчёта (даже без прежних результатов)</translation>
-    </message>
-    <message>
-        <source>Already running</source>
-        <translation>Расчёт уже идёт</translation>
-    </message>
-    <message>
         <source>No previous solve config (solve once first)</source>
         <translation>Нет прежней конфигурации (сначала выполните расчёт)</translation>
     </message>
@@ -106,6 +98,141 @@
     <message>
         <source>Failed to open file: %1</source>
         <translation>Не удалось открыть файл: %1</translation>
+    </message>
+    <message>
+        <source>Estimating the memory...</source>
+        <translation>Оценка памяти…</translation>
+    </message>
+    <message>
+        <source>Not started: the solve needs the memory of the result on view</source>
+        <translation>Не запущен: расчёту нужна память, занятая показанным результатом</translation>
+    </message>
+    <message>
+        <source>Not enough RAM to solve: %1 needed, %2 available</source>
+        <translation>Недостаточно RAM для расчёта: нужно %1, доступно %2</translation>
+    </message>
+    <message>
+        <source>Waiting for the cancelled solve to stop...</source>
+        <translation>Ожидание остановки отменённого расчёта…</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Отменён</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 МБ</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the answers of this node</source>
+        <translation>Недостаточно памяти для ответов этого узла</translation>
+    </message>
+</context>
+<context>
+    <name>AppShell</name>
+    <message>
+        <source>Start a new project (or load one) from Home to enable Project</source>
+        <translation>Создайте или загрузите проект на вкладке «Главная», чтобы открыть «Проект»</translation>
+    </message>
+    <message>
+        <source>The memory that this solve takes could not be estimated.</source>
+        <translation>Не удалось оценить, сколько памяти нужно для этого расчёта.</translation>
+    </message>
+    <message>
+        <source>Not enough memory: this solve takes %1, and %2 is available.</source>
+        <translation>Недостаточно памяти: этому расчёту нужно %1, а доступно %2.</translation>
+    </message>
+    <message>
+        <source>Dunmarrow</source>
+        <translation>Dunmarrow</translation>
+    </message>
+    <message>
+        <source>%1%2 — Dunmarrow</source>
+        <translation>%1%2 — Dunmarrow</translation>
+    </message>
+    <message>
+        <source>New spot</source>
+        <translation>Новый спот</translation>
+    </message>
+    <message>
+        <source>Node locks</source>
+        <translation>Нодлоки</translation>
+    </message>
+    <message>
+        <source>Node locks (%1) are set on the tree of this spot. Apply them in this solve?</source>
+        <translation>В дереве этого спота заданы нодлоки (%1). Применить их в этом расчёте?</translation>
+    </message>
+    <message>
+        <source>Solve without locks</source>
+        <translation>Считать без нодлоков</translation>
+    </message>
+    <message>
+        <source>Apply the locks</source>
+        <translation>Применить нодлоки</translation>
+    </message>
+    <message>
+        <source>A solve is running, and it will be cancelled.</source>
+        <translation>Идёт расчёт, он будет отменён.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Изменения не сохранены</translation>
+    </message>
+    <message>
+        <source>The spot or its results are not saved.</source>
+        <translation>Спот или его результаты не сохранены.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Не сохранять</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Cancel the solve</source>
+        <translation>Отменить расчёт</translation>
+    </message>
+    <message>
+        <source>Take back your spot?</source>
+        <translation>Восстановить ваш спот?</translation>
+    </message>
+    <message>
+        <source>Dunmarrow did not close properly. The spot that you were editing was kept on %1.</source>
+        <translation>Dunmarrow завершил работу некорректно. Спот, который вы редактировали, сохранён (%1).</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Восстановить</translation>
+    </message>
+    <message>
+        <source>Not enough memory for both</source>
+        <translation>Памяти не хватает на оба</translation>
+    </message>
+    <message>
+        <source>This solve needs %1, and %2 are available. It can start if the solver of the result on view is dropped: of that result only what was looked at so far stays.</source>
+        <translation>Этому расчёту нужно %1, а доступно %2. Его можно начать, если выгрузить солвер показанного результата: от этого результата останется только то, что уже просмотрено.</translation>
+    </message>
+    <message>
+        <source>Save first</source>
+        <translation>Сначала сохранить</translation>
+    </message>
+    <message>
+        <source>Solve without saving</source>
+        <translation>Считать без сохранения</translation>
+    </message>
+    <message>
+        <source>%1 pot %2</source>
+        <translation>%1 банк %2</translation>
+    </message>
+    <message>
+        <source>Saved %1 at %2</source>
+        <translation>%1: сохранено в %2</translation>
     </message>
 </context>
 <context>
@@ -284,6 +411,14 @@
     <message>
         <source>Close</source>
         <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be dealt here.</source>
+        <translation>%1 здесь раздать нельзя.</translation>
+    </message>
+    <message>
+        <source>Arrow keys and Return choose a card, or type it: 7c.</source>
+        <translation>Выберите карту стрелками и клавишей Enter или введите её: 7c.</translation>
     </message>
 </context>
 <context>
@@ -599,6 +734,88 @@
     <message>
         <source>Drill spot</source>
         <translation>Отработать спот</translation>
+    </message>
+</context>
+<context>
+    <name>FileChooser</name>
+    <message>
+        <source>Documents</source>
+        <translation>Документы</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Рабочий стол</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Загрузки</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Домашняя</translation>
+    </message>
+    <message>
+        <source>There is no folder “%1”.</source>
+        <translation>Папки «%1» не существует.</translation>
+    </message>
+    <message>
+        <source>There is no file “%1” here.</source>
+        <translation>Файла «%1» здесь нет.</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Вверх</translation>
+    </message>
+    <message>
+        <source>Nothing to choose here.</source>
+        <translation>Здесь нечего выбрать.</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Имя файла</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Тип файла</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Replace file?</source>
+        <translation>Заменить файл?</translation>
+    </message>
+    <message>
+        <source>“%1” is there already. Saving replaces what it holds.</source>
+        <translation>Файл «%1» уже существует. При сохранении его содержимое будет заменено.</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Оставить</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Заменить</translation>
+    </message>
+</context>
+<context>
+    <name>FileList</name>
+    <message>
+        <source>Files</source>
+        <translation>Файлы</translation>
+    </message>
+    <message>
+        <source>Folder %1</source>
+        <translation>Папка %1</translation>
     </message>
 </context>
 <context>
@@ -1053,13 +1270,6 @@
     </message>
 </context>
 <context>
-    <name>Main</name>
-    <message>
-        <source>Dunmarrow</source>
-        <translation>Dunmarrow</translation>
-    </message>
-</context>
-<context>
     <name>MessageBox</name>
     <message>
         <source>OK</source>
@@ -1122,6 +1332,17 @@
         <source>Tip: select an action above, then click a hand cell in the matrix to lock it.</source>
         <translation>Совет: выберите действие выше и щёлкните руку в матрице, чтобы зафиксировать её.</translation>
     </message>
+    <message>
+        <source>Undo reset</source>
+        <translation>Отменить сброс</translation>
+    </message>
+</context>
+<context>
+    <name>NodeLocks</name>
+    <message>
+        <source>The weight must be a number from 0 to 1</source>
+        <translation>Вес должен быть числом от 0 до 1</translation>
+    </message>
 </context>
 <context>
     <name>NodeView</name>
@@ -1132,6 +1353,24 @@
     <message>
         <source>Random turn card</source>
         <translation>Случайная карта тёрна</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeStrip</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>Enter a number from %1 to %2 with at most %3 decimals.</source>
+        <translation>Введите число от %1 до %2 (знаков после запятой: не более %3).</translation>
+    </message>
+    <message>
+        <source>Enter a whole number from %1 to %2.</source>
+        <translation>Введите целое число от %1 до %2.</translation>
     </message>
 </context>
 <context>
@@ -1166,6 +1405,10 @@
     <message>
         <source>Hand details</source>
         <translation>Детали раздачи</translation>
+    </message>
+    <message>
+        <source>Choose a hand in the log.</source>
+        <translation>Выберите раздачу в истории.</translation>
     </message>
 </context>
 <context>
@@ -1370,6 +1613,33 @@
         <source>Continue to Solve →</source>
         <translation>К расчёту →</translation>
     </message>
+    <message>
+        <source>Solve RAM: being estimated…</source>
+        <translation>RAM для расчёта: оценка…</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Take back the last change (Ctrl+Z)</source>
+        <translation>Отменить последнее изменение (Ctrl+Z)</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Вернуть</translation>
+    </message>
+    <message>
+        <source>Bring back what was undone (Ctrl+Shift+Z)</source>
+        <translation>Вернуть отменённое (Ctrl+Shift+Z)</translation>
+    </message>
+</context>
+<context>
+    <name>QuestionDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
 </context>
 <context>
     <name>QuickActionsCard</name>
@@ -1514,6 +1784,65 @@
     </message>
 </context>
 <context>
+    <name>ResultNotices</name>
+    <message>
+        <source>The last solve was cancelled. These are the results of the solve before.</source>
+        <translation>Последний расчёт отменён. Это результаты предыдущего расчёта.</translation>
+    </message>
+    <message>
+        <source>The last solve was not started: %1. These are the results of the solve before.</source>
+        <translation>Последний расчёт не был запущен: %1. Это результаты предыдущего расчёта.</translation>
+    </message>
+    <message>
+        <source>The last solve failed: %1. These are the results of the solve before.</source>
+        <translation>Последний расчёт завершился ошибкой: %1. Это результаты предыдущего расчёта.</translation>
+    </message>
+    <message>
+        <source>Solving. These are the results of the solve before, until the new ones are there. %1</source>
+        <translation>Идёт расчёт. Пока новых результатов нет, показаны результаты предыдущего расчёта. %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Figures of this node are missing: %1</source>
+        <translation>Не хватает данных этого узла: %1</translation>
+    </message>
+    <message>
+        <source>The node locks (%1) are not solved yet. At their nodes the grid, the buckets and the hands show a preview; all other figures are those from before.</source>
+        <translation>Нодлоки (%1) ещё не рассчитаны. В их узлах матрица, категории и руки показывают предварительный результат; все остальные значения прежние.</translation>
+    </message>
+    <message>
+        <source>The node locks of this result were removed. It still shows the solve with them.</source>
+        <translation>Нодлоки этого результата сняты. Он всё ещё показывает расчёт с ними.</translation>
+    </message>
+    <message>
+        <source>Re-solve</source>
+        <translation>Пересчёт</translation>
+    </message>
+    <message>
+        <source>The node locks keep the exploitability from falling any further. The solve ended above its target.</source>
+        <translation>Нодлоки не дают эксплуатируемости снизиться дальше. Расчёт закончился выше цели.</translation>
+    </message>
+    <message>
+        <source>Setup has changed since this solve</source>
+        <translation>«Проект» изменился после этого расчёта</translation>
+    </message>
+    <message>
+        <source>Solve again</source>
+        <translation>Рассчитать снова</translation>
+    </message>
+    <message>
+        <source>Take back the setup of this result</source>
+        <translation>Вернуть проект этого результата</translation>
+    </message>
+</context>
+<context>
     <name>ResultsHeader</name>
     <message>
         <source>Strategy View</source>
@@ -1562,8 +1891,16 @@
 <context>
     <name>RunHistory</name>
     <message>
-        <source>Iterations %1 • Target %2% (≈ %3) • Threads %4</source>
-        <translation>Итерации: %1 • Цель: %2% (≈ %3) • Потоки: %4</translation>
+        <source>Target %1% (≈ %2) • Threads %3</source>
+        <translation>Цель: %1% (≈ %2) • Потоки: %3</translation>
+    </message>
+    <message>
+        <source>At most %1 iterations</source>
+        <translation>Итерации: не более %1</translation>
+    </message>
+    <message>
+        <source>%1 iterations</source>
+        <translation>Итерации: %1</translation>
     </message>
 </context>
 <context>
@@ -1579,6 +1916,14 @@
     <message>
         <source>Cancelled</source>
         <translation>Отменён</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Отклонён</translation>
     </message>
 </context>
 <context>
@@ -1768,6 +2113,49 @@
     </message>
 </context>
 <context>
+    <name>SolveFollower</name>
+    <message>
+        <source>Iteration %1 | exploitability=%2</source>
+        <translation>Итерация %1 | эксплуатируемость: %2</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Ошибка: %1</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>Done: node locks keep the exploitability from falling</source>
+        <translation>Готово: нодлоки не дают эксплуатируемости снижаться</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Отменён</translation>
+    </message>
+    <message>
+        <source>Building the cards and the tree...</source>
+        <translation>Построение карт и дерева…</translation>
+    </message>
+    <message>
+        <source>Preparing the solver...</source>
+        <translation>Подготовка солвера…</translation>
+    </message>
+    <message>
+        <source>Starting the solver...</source>
+        <translation>Запуск солвера…</translation>
+    </message>
+    <message>
+        <source>Computing the results...</source>
+        <translation>Вычисление результатов…</translation>
+    </message>
+    <message>
+        <source>Collecting the tree...</source>
+        <translation>Сборка дерева…</translation>
+    </message>
+</context>
+<context>
     <name>SolvePage</name>
     <message>
         <source>Solve</source>
@@ -1818,6 +2206,10 @@
     <message>
         <source>Strategy by Hand</source>
         <translation>Стратегия по рукам</translation>
+    </message>
+    <message>
+        <source>Strategy by Hand (preview, not solved yet)</source>
+        <translation>Стратегия по рукам (предварительно, ещё не рассчитана)</translation>
     </message>
 </context>
 <context>
@@ -1900,6 +2292,10 @@
         <source>Settings</source>
         <translation>Настройки</translation>
     </message>
+    <message>
+        <source>%1. Still missing: %2.</source>
+        <translation>%1. Ещё не задано: %2.</translation>
+    </message>
 </context>
 <context>
     <name>TrainerStatsCard</name>
@@ -1976,6 +2372,14 @@
     <message>
         <source>EV: %1%2</source>
         <translation>EV: %1%2</translation>
+    </message>
+    <message>
+        <source>Collapse %1</source>
+        <translation>Свернуть %1</translation>
+    </message>
+    <message>
+        <source>Expand %1</source>
+        <translation>Развернуть %1</translation>
     </message>
 </context>
 <context>
