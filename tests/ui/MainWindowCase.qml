@@ -12,7 +12,8 @@ TestCase {
     readonly property var controller: shell?.controller
 
     function init() {
-        failOnWarning(/.?/)
+        // On a real screen Qt's own render loop now and then stops its animation driver twice, and says so.
+        failOnWarning(/^(?!QUnifiedTimer::stopAnimationDriver: driver is not running)/)
         const component = Qt.createComponent("qrc:/Velmora/Main.qml")
         compare(component.status, Component.Ready, component.errorString())
         window = component.createObject(null)
