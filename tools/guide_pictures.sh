@@ -28,8 +28,8 @@ clicks() {
     sleep 0.8
   done
 }
-# The centre of a cell of the strategy grid, by row and column from 0.
-cell() { printf '%d,%d' $((369 + 302 * $2 / 10)) $((304 + 302 * $1 / 10)); }
+# The centre of a cell of the strategy grid beside the lock panel, by row and column from 0.
+cell() { printf '%d,%d' $((373 + 37 * $2)) $((308 + 37 * $1)); }
 
 start_program "$program" 1540x1060 dark
 picture home 3
@@ -41,7 +41,10 @@ picture setup 2
 # The standard library of OOP: six players, a rake, against a raise, of the button, the call in the big blind.
 clicks 645,505 599,629 611,707 611,707 611,785 611,785
 picture library
-clicks 235,30 180,415 299,267 391,514  # Home, and the quick spot again
+clicks 235,30 180,415  # Home, and the quick spot again,
+xdotool key shift+Tab space  # without saving the one at hand
+sleep 0.8
+clicks 299,267 391,514
 
 # The key does nothing before the memory is known.
 until grep -q 'UI solve progress' "$home/tmp/dunmarrow.log"; do
@@ -57,11 +60,11 @@ picture results 2
 clicks 200,212  # OOP bets
 xdotool mousemove 770 180
 picture node
-clicks 675,760 430,840  # Node-lock mode, Call
+clicks 823,903 438,932  # Node-lock mode, Call
 clicks "$(cell 6 7)" "$(cell 7 7)" "$(cell 7 8)" "$(cell 9 9)" "$(cell 10 10)" "$(cell 11 11)"
 xdotool mousemove 770 180
 picture locks
-clicks 675,728 1045,119 648,608  # Standard mode, the trainer, as OOP
+clicks 548,969 769,821 985,119 648,608  # Reset weights, Standard mode, the trainer, as OOP
 # The first action until a hand or two have ended.
 for _ in {1..8}; do
   sleep 2.5

@@ -111,6 +111,7 @@ FocusScope {
         controller: root.controller
         follower: root.follower
         setupDiffers: root.setupDiffers
+        lockMode: locks_.nodeLockMode
         nodeError: view_.nodeError
         onSolveAgainRequested: root.solveAgainRequested()
         onSetupWanted: root.setupWanted()

@@ -13,6 +13,8 @@ ColumnLayout {
     required property SolveFollower follower
     /// Whether Setup shows another spot than that of the result.
     required property bool setupDiffers
+    /// While hands are being locked the panel and the grid speak of the locks, and nothing may move.
+    required property bool lockMode
     /// Why the figures of the node on view are missing; empty if they are not.
     required property string nodeError
 
@@ -22,7 +24,7 @@ ColumnLayout {
     readonly property bool _endedBadly: !follower.running && _readRevision !== _runRevision
         && ["Cancelled", "Failed", "Refused"].includes(controller.lastRunOutcome)
 
-    readonly property bool _locksWait: controller.locksPending && !follower.running
+    readonly property bool _locksWait: controller.locksPending && !follower.running && !lockMode
     readonly property bool _setupWaits: setupDiffers && !follower.running
 
     signal solveAgainRequested
