@@ -4,12 +4,15 @@
 #include <exception>
 #include <limits>
 #include <memory>
+#include <optional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
 #include <QCoreApplication>
 #include <QFile>
 
+#include "cards.h"
 #include "fault_scope.h"
 #include "json_stream.h"
 #include "solve_config_map.h"
@@ -50,6 +53,7 @@ class DocumentReader {
 
   void read() {
     in_.members([this](const std::string& name) {
+      where_ = name;
       if (name == "format") format_ = in_.scalar().toString();
       if (name == "version") version_ = in_.scalar().toInt();
       if (name == "hasResults") project_.hasResults = in_.scalar().toBool();
@@ -62,6 +66,13 @@ class DocumentReader {
     in_.finish();
   }
 
+  /// Where the file is at fault, once a step has thrown, such as "nodeCaches.handCombosByNode[12]";
+  /// empty before the first member.
+  QString where() const {
+    const QString member = QString::fromStdString(where_ + (part_.empty() ? "" : "." + part_));
+    return entry_ > 0 ? member + '[' + QString::number(entry_ - 1) + ']' : member;
+  }
+  qint64 position() const { return in_.position(); }
   const QString& format() const { return format_; }
   int version() const { return version_; }
   Project takeProject() {
@@ -80,10 +91,13 @@ class DocumentReader {
   /// Reads the elements of an array and tells how far the file has been read.
   template <typename Read>
   void entries(const Read& read) {
+    entry_ = 0;
     in_.elements([&] {
+      ++entry_;
       read();
       if (progress_) progress_(std::min(1.0, static_cast<double>(in_.bytesRead()) / size_));
     });
+    entry_ = 0;
   }
 
   NodeLockTable readLocks() {
@@ -174,12 +188,14 @@ class DocumentReader {
     ResultCaches& caches = project_.caches;
     caches.clear();
     in_.members([&](const std::string& name) {
+      part_ = name;
       if (name == "handStrategyByNode") readCache(caches.handStrategyCache, mapIn);
       if (name == "actionStatsByNode") readCache(caches.actionStatsCache, statsIn);
       if (name == "handCombosByNode") readCache(caches.handCombosCache, listIn);
       if (name == "handBucketsByNode") readCache(caches.handBucketsCache, listIn);
       if (name == "seatHandCombosByNode") readSeatCaches();
     });
+    part_.clear();
   }
 
   void readResults() {
@@ -189,6 +205,7 @@ class DocumentReader {
     const auto tree = std::make_shared<TreeSnapshot>();
     int effectiveStack = 0;
     in_.members([&](const std::string& name) {
+      part_ = name;
       if (name == "resultsSummary") outcome.summary = in_.scalar().toString();
       if (name == "resultStartingPot") outcome.startingPot = in_.scalar().toInt();
       if (name == "resultIterations") outcome.iterations = in_.scalar().toInt();
@@ -202,6 +219,7 @@ class DocumentReader {
       if (name == "treeNodeMeta") readTreeMeta(*tree, effectiveStack);
       if (name == "treeNodeActions") readTreeActions(*tree);
     });
+    part_.clear();
     tree->shrink_to_fit();
     project_.tree.set(tree, effectiveStack);
   }
@@ -254,10 +272,35 @@ class DocumentReader {
   JsonReader in_;
   const double size_;
   const std::function<void(double)>& progress_;
+  std::string where_;  ///< Member of the document, and
+  std::string part_;   ///< of that, that is being read.
+  qint64 entry_ = 0;   ///< Elements of its list that were begun.
   QString format_;
   int version_ = 0;
   Project project_;
 };
+
+/// Why no deck gives one of the boards of a project, in the board parser's words; empty if one
+/// does. Slots of the board under edit may still be open.
+QString boardFault(const Project& project) {
+  const QStringList boards{project.state.value("boardText").toString(),
+                           project.resultCfg.value("board").toString()};
+  for (const QString& text : boards) {
+    velmora::CardMask seen = 0;
+    const std::string cards = QString(text).remove(' ').remove('_').toStdString();
+    for (std::size_t at = 0; at < cards.size(); at += 2) {
+      try {
+        const std::string name = cards.substr(at, 2);
+        const velmora::CardMask card = velmora::mask_of(velmora::parse_card(name));
+        if (seen & card) return QString::fromStdString(name + " is there twice");
+        seen |= card;
+      } catch (const std::logic_error& fault) {
+        return text + QStringLiteral(": ") + QString::fromUtf8(fault.what());
+      }
+    }
+  }
+  return {};
+}
 
 ProjectReading refused(const QString& error) {
   return {error, {}};
@@ -270,19 +313,30 @@ ProjectReading readProject(const QString& path, const std::function<void(double)
   if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
     return refused(QCoreApplication::translate("AppController", "Failed to open file"));
   }
+  std::optional<DocumentReader> reader;
   try {
     const velmora_app::FaultScope scope;
-    DocumentReader reader(file, progress);
-    reader.read();
-    if (reader.format() != "velmora_project") {
+    reader.emplace(file, progress);
+    reader->read();
+    if (reader->format() != "velmora_project") {
       return refused(QCoreApplication::translate("AppController", "Unrecognized project format"));
     }
-    if (reader.version() != 1) {
+    if (reader->version() != 1) {
       return refused(QCoreApplication::translate("AppController", "Unsupported project version"));
     }
-    return {{}, reader.takeProject()};
+    Project project = reader->takeProject();
+    if (const QString fault = boardFault(project); !fault.isEmpty()) {
+      return refused(
+          QCoreApplication::translate("AppController", "The board of the project is impossible: %1")
+              .arg(fault));
+    }
+    return {{}, std::move(project)};
   } catch (const JsonFault&) {
-    return refused(QCoreApplication::translate("AppController", "Invalid JSON"));
+    if (!reader || reader->where().isEmpty()) {
+      return refused(QCoreApplication::translate("AppController", "Invalid JSON"));
+    }
+    return refused(QCoreApplication::translate("AppController", "Invalid JSON at byte %1, in %2")
+                       .arg(QString::number(reader->position()), reader->where()));
   } catch (const std::exception& fault) {
     return refused(QString::fromUtf8(fault.what()));
   }

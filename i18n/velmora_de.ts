@@ -127,6 +127,14 @@
         <source>There is not enough memory for the answers of this node</source>
         <translation>Der Speicher reicht für die Antworten dieses Knotens nicht aus</translation>
     </message>
+    <message>
+        <source>The board of the project is impossible: %1</source>
+        <translation>Das Board des Projekts ist unmöglich: %1</translation>
+    </message>
+    <message>
+        <source>Invalid JSON at byte %1, in %2</source>
+        <translation>Ungültiges JSON bei Byte %1, in %2</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

@@ -127,6 +127,14 @@
         <source>There is not enough memory for the answers of this node</source>
         <translation>No hay memoria suficiente para las respuestas de este nodo</translation>
     </message>
+    <message>
+        <source>The board of the project is impossible: %1</source>
+        <translation>El board del proyecto es imposible: %1</translation>
+    </message>
+    <message>
+        <source>Invalid JSON at byte %1, in %2</source>
+        <translation>JSON no válido en el byte %1, en %2</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

@@ -127,6 +127,14 @@
         <source>There is not enough memory for the answers of this node</source>
         <translation>Mémoire insuffisante pour les réponses de ce nœud</translation>
     </message>
+    <message>
+        <source>The board of the project is impossible: %1</source>
+        <translation>Le board du projet est impossible : %1</translation>
+    </message>
+    <message>
+        <source>Invalid JSON at byte %1, in %2</source>
+        <translation>JSON non valide à l’octet %1, dans %2</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

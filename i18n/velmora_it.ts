@@ -127,6 +127,14 @@
         <source>There is not enough memory for the answers of this node</source>
         <translation>Memoria insufficiente per le risposte di questo nodo</translation>
     </message>
+    <message>
+        <source>The board of the project is impossible: %1</source>
+        <translation>Il board del progetto è impossibile: %1</translation>
+    </message>
+    <message>
+        <source>Invalid JSON at byte %1, in %2</source>
+        <translation>JSON non valido al byte %1, in %2</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

@@ -127,6 +127,14 @@
         <source>There is not enough memory for the answers of this node</source>
         <translation>Za mało pamięci na odpowiedzi tego węzła</translation>
     </message>
+    <message>
+        <source>The board of the project is impossible: %1</source>
+        <translation>Board projektu jest niemożliwy: %1</translation>
+    </message>
+    <message>
+        <source>Invalid JSON at byte %1, in %2</source>
+        <translation>Nieprawidłowy JSON w bajcie %1, w %2</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

@@ -127,6 +127,14 @@
         <source>There is not enough memory for the answers of this node</source>
         <translation>Não há memória suficiente para as respostas deste nó</translation>
     </message>
+    <message>
+        <source>The board of the project is impossible: %1</source>
+        <translation>O board do projeto é impossível: %1</translation>
+    </message>
+    <message>
+        <source>Invalid JSON at byte %1, in %2</source>
+        <translation>JSON inválido no byte %1, em %2</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

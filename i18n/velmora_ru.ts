@@ -127,6 +127,14 @@
         <source>There is not enough memory for the answers of this node</source>
         <translation>Недостаточно памяти для ответов этого узла</translation>
     </message>
+    <message>
+        <source>The board of the project is impossible: %1</source>
+        <translation>Борд проекта невозможен: %1</translation>
+    </message>
+    <message>
+        <source>Invalid JSON at byte %1, in %2</source>
+        <translation>Неверный JSON в байте %1, в %2</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

@@ -220,6 +220,9 @@ TEST_F(ProjectFile, ARefusedFileLeavesEverythingAsItWas) {
   const QByteArrayList answers = answersOf(controller);
   const QByteArrayList views = viewsOf(controller, 0);
   const QSignalSpy results(&controller, &AppController::resultsChanged);
+  const auto refusalOf = [&](const QByteArray& text) {
+    return controller.loadProject(written(text))["error"].toString();
+  };
   const auto expectRefusal = [&](const QUrl& file, const QString& error) {
     EXPECT_EQ(
         controller.loadProject(file),
@@ -238,13 +241,16 @@ TEST_F(ProjectFile, ARefusedFileLeavesEverythingAsItWas) {
   const std::pair<QByteArray, QString> files[] = {
       {"", json},
       {"velmora", json},
-      {"{\"format\": \"velmora_project\", \"version\": 1, \"project\": {\"a\": 1e999}}", json},
+      {"{\"format\": \"velmora_project\", \"version\": 1, \"project\": {\"boardText\": "
+       "\"AhAhAh\"}}",
+       "The board of the project is impossible: Ah is there twice"},
+      {"{\"format\": \"velmora_project\", \"version\": 1, \"project\": {\"boardText\": "
+       "\"Ah__7x\"}}",
+       "The board of the project is impossible: Ah__7x: Invalid suit character"},
       {megabytes, json},
-      {"{\"x\": \"" + megabytes, json},
       {QByteArray(megabytes).fill(' '), json},
       {QByteArray(megabytes).fill('\0'), json},
       {"{\"x\": " + QByteArray(megabytes).fill('7') + '}', format},
-      {"{\"project\": {\"x\": \"" + megabytes + megabytes + megabytes + "\"}}", json},
       {"[1]", format},
       {"{}", format},
       {"{\"version\": 1}", format},
@@ -254,14 +260,32 @@ TEST_F(ProjectFile, ARefusedFileLeavesEverythingAsItWas) {
       {"{\"format\": \"velmora_project\", \"version\": \"1\"}", version},
   };
   for (const auto& [text, error] : files) expectRefusal(written(text), error);
+  // A fault inside is named: by its byte, which is the one marked here, and by its entry.
+  const std::pair<QByteArray, QString> damaged[] = {
+      {"{\"project\": {\"a\": ~1}}", "project"},
+      {"{\"nodeCaches\": {\"handCombosByNode\": [{}, {}, {\"nodeIndex\": 7, ~}]}}",
+       "nodeCaches.handCombosByNode[2]"},
+      {"{\"results\": {\"treeNodeActions\": [[], [~]]}}", "results.treeNodeActions[1]"},
+  };
+  for (const auto& [text, where] : damaged) {
+    EXPECT_EQ(refusalOf(text).toStdString(), QStringLiteral("Invalid JSON at byte %1, in %2")
+                                                 .arg(text.indexOf('~'))
+                                                 .arg(where)
+                                                 .toStdString());
+  }
+  for (const QByteArray& text :
+       {QByteArray("{\"project\": {\"a\": 1e999}}"), "{\"x\": \"" + megabytes,
+        "{\"project\": {\"x\": \"" + megabytes + megabytes + megabytes + "\"}}"}) {
+    EXPECT_TRUE(refusalOf(text).startsWith(json + " at byte ")) << text.size();
+  }
 
   // Cut off anywhere.
   ASSERT_TRUE(controller.saveProject(url("a"), kState));
   const QByteArray whole = bytesOf(path("a")).trimmed();
   for (qsizetype size = 0; size < whole.size(); size += 1 + whole.size() / 499) {
-    expectRefusal(written(whole.left(size)), json);
+    EXPECT_TRUE(refusalOf(whole.left(size)).startsWith(json)) << size;
   }
-  expectRefusal(written(whole.chopped(1)), json);
+  EXPECT_TRUE(refusalOf(whole.chopped(1)).startsWith(json));
   EXPECT_EQ(answersOf(controller), answers);
   EXPECT_EQ(viewsOf(controller, 0), views);
   EXPECT_EQ(controller.statusText(), "Done");
