@@ -48,8 +48,8 @@ LocalPath pathToSave(const QUrl& fileUrl) {
   return file;
 }
 
-/// A project with the answers about the root among its others: they are in every file. A solver that
-/// is dropped meanwhile lives on only until the query under way has ended.
+/// A project with the answers about the root among its others: they are in every file. A solver
+/// that is dropped meanwhile lives on only until the query under way has ended.
 Project withRootAnswers(Project project, const std::weak_ptr<const velmora::DiscountedCfr>& solver,
                         const std::weak_ptr<const velmora::Game>& game,
                         const std::shared_ptr<velmora_app::ActionValues>& values) {
