@@ -16,13 +16,19 @@ ColumnLayout {
 
     spacing: theme.spaceXs
 
-    RowLayout {
+    // Placed by hand: a layout that is hidden while the badge changes keeps the width of the old one.
+    Item {
+        readonly property real badgeSpace: pill.visible ? pill.width + root.theme.spaceMd : 0
+
         Layout.fillWidth: true
-        spacing: root.theme.spaceMd
+        implicitWidth: Math.ceil(heading.implicitWidth) + badgeSpace
+        implicitHeight: Math.max(heading.implicitHeight, pill.height)
 
         Label {
-            Layout.fillWidth: true
-            Layout.maximumWidth: Math.ceil(implicitWidth)
+            id: heading
+
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(Math.ceil(implicitWidth), parent.width - parent.badgeSpace)
             text: root.title
             color: root.theme.text
             elide: Text.ElideRight
@@ -33,8 +39,13 @@ ColumnLayout {
         }
 
         Rectangle {
-            implicitWidth: badgeLabel.implicitWidth + 2 * root.theme.spaceSm + 4
-            implicitHeight: 22
+            id: pill
+
+            anchors.left: heading.right
+            anchors.leftMargin: root.theme.spaceMd
+            anchors.verticalCenter: parent.verticalCenter
+            width: badgeLabel.implicitWidth + 2 * root.theme.spaceSm + 4
+            height: 22
             visible: root.badge !== ""
             radius: height / 2
             color: root.theme.withOpacity(root.badgeColor, 0.15)
@@ -50,10 +61,6 @@ ColumnLayout {
                 font.pixelSize: root.type.labelSm
                 font.weight: root.type.weightSemibold
             }
-        }
-
-        Item {
-            Layout.fillWidth: true
         }
     }
 

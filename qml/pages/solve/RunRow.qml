@@ -28,13 +28,15 @@ Item {
         spacing: root.theme.spaceMd
 
         Rectangle {
-            Layout.preferredWidth: 90
+            Layout.preferredWidth: Math.max(90, statusLabel.implicitWidth + 2 * root.theme.spaceSm)
             Layout.preferredHeight: 18
             radius: height / 2
             color: root.theme.withOpacity(root._color, 0.18)
             border.color: root._color
 
             Label {
+                id: statusLabel
+
                 anchors.centerIn: parent
                 text: root._statusText
                 color: root._color
