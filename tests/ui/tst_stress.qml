@@ -122,7 +122,8 @@ MainWindowCase {
     }
 
     function load() {
-        if (!saved[fileNumber])
+        // While a file is being saved another is refused.
+        if (!saved[fileNumber] || files()._savedState !== null)
             return
         files().open(testFolder + "/stress" + fileNumber + ".velmoraproj")
         if (pick(2) === 0)
