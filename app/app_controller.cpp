@@ -304,8 +304,9 @@ void AppController::readInbox(const std::shared_ptr<ReportInbox>& inbox) {
   if (!report) return;
   if (inbox != inbox_) {
     if (!report->result) return;
-    // An abandoned run has ended: nobody wants what it made, and its successor can start.
-    session_.clear();
+    // An abandoned run has ended: nobody wants what it made, and its successor can start. If that
+    // one runs already, the session holds nothing but what is its own.
+    if (!inbox_) session_.clear();
     if (awaitsOldRun_) startSession();
     return;
   }
