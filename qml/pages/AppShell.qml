@@ -53,6 +53,8 @@ Item {
     /// Whether to apply the locks, as the user said of those that are set now; empty if not asked yet.
     property string _locksAnswer: ""
     property bool _closes: false
+    /// A draft of an earlier run was offered and neither taken nor discarded.
+    property bool _draftWaits: false
     /// Until the window's first frame is there, Setup is drawn with it, out of sight. The renderer
     /// prepares a shader when it first draws with it, and most of them are first met on that page:
     /// without help of a graphics card that is more than a tenth of a second, which nobody should
@@ -107,12 +109,13 @@ Item {
 
     /// The window asks before it closes. What would be lost is asked about first.
     function mayClose(): bool {
-        if (!_closes)
-            _guard(() => {
-                _closes = true
-                Window.window.close()
-            })
-        return _closes
+        if (_closes || (!unsaved && !controller.running))
+            return true
+        _guard(() => {
+            _closes = true
+            Window.window.close()
+        })
+        return false
     }
 
     /// Shows a page, unless the rules of navigation refuse it.
@@ -172,7 +175,9 @@ Item {
 
     /// Shows the setup that the result was solved from.
     function takeBackSetup() {
-        applyProjectState(controller.resultProjectState())
+        project_.endStep()
+        project_.applyProjectState(controller.resultProjectState())
+        project_.endStep()
         navIndex = Pages.setup
     }
 
@@ -212,19 +217,27 @@ Item {
         const draft = controller.draftLeftBehind()
         if (draft.project === undefined)
             return
+        _draftWaits = true
         const when = new Date(draft.savedAt)
         question.ask(qsTr("Take back your spot?"),
                      qsTr("Dunmarrow did not close properly. The spot that you were editing was kept on %1.")
                      .arg(when.toLocaleString(Qt.locale(), Locale.ShortFormat)), [
-            { text: qsTr("Discard"), kind: "danger", action: () => controller.dropDraft() },
+            { text: qsTr("Discard"), kind: "danger", action: () => { _draftWaits = false; controller.dropDraft() } },
             { text: qsTr("Take it back"), kind: "primary", action: () => _takeDraft(draft.project) }
         ])
     }
 
+    /// What an earlier run left stays until its user has decided about it.
+    function _dropDraft() {
+        if (!_draftWaits)
+            controller.dropDraft()
+    }
+
     function _takeDraft(state: var) {
+        _draftWaits = false
         resetToNewProject()
         applyProjectState(state)
-        controller.dropDraft()
+        controller.keepDraft(project_.exportProjectState())
         navIndex = Pages.setup
     }
 
@@ -274,11 +287,11 @@ Item {
         _offerDraft()
     }
 
-    Component.onDestruction: controller.dropDraft()
+    Component.onDestruction: _dropDraft()
 
     onUnsavedChanged: {
         if (!unsaved)
-            controller.dropDraft()
+            _dropDraft()
     }
 
     Connections {

@@ -74,6 +74,9 @@ MainWindowCase {
                  project.targetExploitability, project.maxIterations].join(),
                 ["QsJh2h3s", 100, 200, 30, "AA,KK,AKs,KTs,QJs,T9s,98s", 0.01, 50].join())
         verify(controller.isResultSpot(project.solveConfig()))
+        // What was edited is one step back.
+        keyClick(Qt.Key_Z, Qt.ControlModifier)
+        compare([project.boardText, project.startingPot].join(), "2c3c4c,777")
     }
 
     function test_a_solve_keeps_the_result_until_the_new_one_stands() {
