@@ -253,12 +253,15 @@ TEST_F(AppControllerTest, AnAbandonedRunNeverOverwritesWhatCameAfterIt) {
     QVariantMap next = with(endlessSpot(), "board", "KsQd7h2c5s");
     controller.requestSolveMemoryEstimate(next);  // So that it starts at once.
     ASSERT_TRUE(waitUntil([&] { return !controller.estimatePending(); }));
-    for (const bool finishes : {false, true}) {
+    for (const bool finishes : {false, true, true}) {
+      const bool settles = next["max_iterations"] == 1;  // The last time.
       if (finishes) next["max_iterations"] = 1;
       controller.startSolveWithConfig(next);
       QThread::msleep(50);  // A run that ends by itself has its result waiting then.
       c.overtake(controller);
       EXPECT_FALSE(controller.running());
+      if (settles) QTest::qWait(30);
+      EXPECT_EQ(controller.resultBoard().toStdString(), c.board.toStdString());
       // The next run waits for the old one to stop, and is the one that counts.
       controller.startSolveWithConfig(with(endlessSpot(), "board", "KsQd7h2c6s"));
       EXPECT_TRUE(controller.running());
