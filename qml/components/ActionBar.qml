@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "../logic/action_frequencies.js" as Frequencies
+import "action_frequencies.js" as Frequencies
 
 /// How often each action is taken: a strip of coloured segments and a line of figures for each.
 Item {

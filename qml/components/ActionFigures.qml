@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
 import Velmora
-import "../logic/action_frequencies.js" as Frequencies
+import "action_frequencies.js" as Frequencies
 
 /// What is told of one action under a bar of actions: one line, or two where it is narrow.
 Item {

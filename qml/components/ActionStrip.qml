@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "../logic/action_frequencies.js" as Frequencies
+import "action_frequencies.js" as Frequencies
 
 /// A rounded strip, split by share. It is made of rectangles that live on when the shares change: a
 /// list has dozens of strips, and a canvas each would be painted anew with every step of a walk.

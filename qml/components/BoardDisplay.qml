@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "../logic/board_text.js" as BoardText
+import "board_text.js" as BoardText
 
 /// A board of five slots: the flop in one group, turn and river beside it.
 Item {

@@ -1,6 +1,6 @@
 import QtQuick
 import Velmora
-import "../logic/card_names.js" as CardNames
+import "card_names.js" as CardNames
 
 /// The index of a card: its rank with the suit glyph under it.
 Column {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "../logic/card_names.js" as CardNames
+import "card_names.js" as CardNames
 
 /// The printed side of a card. A mini card has room for its top left corner only.
 Rectangle {

@@ -2,9 +2,9 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "../logic/board_text.js" as BoardText
-import "../logic/card_names.js" as CardNames
-import "../logic/hand_grid.js" as HandGrid
+import "board_text.js" as BoardText
+import "card_names.js" as CardNames
+import "hand_grid.js" as HandGrid
 
 /// All 52 cards, a row for each suit, to choose one that is not used yet.
 FocusScope {

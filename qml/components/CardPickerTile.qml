@@ -1,6 +1,6 @@
 import QtQuick
 import Velmora
-import "../logic/card_names.js" as CardNames
+import "card_names.js" as CardNames
 
 /// One card of a picker, named by its rank in the ink of its suit.
 Rectangle {

@@ -6,7 +6,7 @@ import QtQuick.Dialogs
 import QtQuick.Layouts
 import Qt.labs.folderlistmodel
 import Velmora
-import "../logic/file_choice.js" as FileChoice
+import "file_choice.js" as FileChoice
 
 /// Chooses a file to open or to save to, with the face of Qt's FileDialog. Windows and macOS have a
 /// dialog of their own; elsewhere a desktop may have none, and Qt's stand-in neither follows the theme

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "../logic/hand_grid.js" as HandGrid
+import "hand_grid.js" as HandGrid
 
 /// One hand of a matrix. Its fill covers the weight of the hand, from the left or from the bottom, in
 /// one colour or split by action.

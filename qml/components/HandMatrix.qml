@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "../logic/hand_grid.js" as HandGrid
+import "hand_grid.js" as HandGrid
 
 /// The 169 starting hands as a grid: a range to paint on, or a strategy split by action.
 Item {

@@ -1,6 +1,6 @@
 import QtQuick
 import Velmora
-import "../logic/number_text.js" as NumberText
+import "number_text.js" as NumberText
 
 /// A value field for a number in a range, which hands over each keystroke that makes one. With no
 /// decimals it takes whole numbers only. A text that is no such number changes nothing; it stands with

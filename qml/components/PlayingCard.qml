@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "../logic/card_names.js" as CardNames
+import "card_names.js" as CardNames
 
 /// A playing card: face up, face down, or an empty slot while it has no rank and suit.
 ///

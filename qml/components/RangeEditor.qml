@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "../logic/hand_grid.js" as HandGrid
+import "hand_grid.js" as HandGrid
 
 /// A range as a text and as a matrix to paint on. It asks for a new text with `rangeChanged`; the
 /// owner sets `rangeText`.

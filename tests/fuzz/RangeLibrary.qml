@@ -1,9 +1,9 @@
 import QtQml
-import "../../qml/logic/range_library_files.js" as Files
-import "../../qml/logic/range_library_overrides.js" as Overrides
-import "../../qml/logic/range_library_standard.js" as Standard
-import "../../qml/logic/range_library_tree.js" as Tree
-import "../../qml/logic/settings_profiles.js" as SettingsProfiles
+import "../../qml/setup/library/range_library_files.js" as Files
+import "../../qml/setup/library/range_library_overrides.js" as Overrides
+import "../../qml/setup/library/range_library_standard.js" as Standard
+import "../../qml/setup/library/range_library_tree.js" as Tree
+import "../../qml/setup/settings_profiles.js" as SettingsProfiles
 
 // What the window makes of the two library files and of what the settings store keeps as JSON.
 QtObject {

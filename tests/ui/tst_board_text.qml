@@ -1,5 +1,5 @@
 import QtTest
-import "../../qml/logic/board_text.js" as BoardText
+import "../../qml/components/board_text.js" as BoardText
 
 TestCase {
     name: "BoardText"

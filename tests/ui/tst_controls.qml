@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import QtTest
 import Velmora
-import "../../qml/logic/action_frequencies.js" as Frequencies
+import "../../qml/components/action_frequencies.js" as Frequencies
 
 TestCase {
     id: test

@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
 import "find.js" as Find
-import "../../qml/logic/file_choice.js" as FileChoice
+import "../../qml/components/file_choice.js" as FileChoice
 
 /// Files are chosen by a dialog that the window draws itself.
 MainWindowCase {

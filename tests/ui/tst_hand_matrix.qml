@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
 import Velmora
-import "../../qml/logic/hand_grid.js" as HandGrid
+import "../../qml/components/hand_grid.js" as HandGrid
 
 TestCase {
     id: test

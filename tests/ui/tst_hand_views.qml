@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
-import "../../qml/logic/hand_views.js" as HandViews
-import "../../qml/logic/tree_walk.js" as Walk
+import "../../qml/results/hand_views.js" as HandViews
+import "../../qml/results/tree_walk.js" as Walk
 
 TestCase {
     name: "HandViews"

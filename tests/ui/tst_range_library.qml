@@ -1,14 +1,14 @@
 import QtQuick
 import QtTest
 import Velmora
-import "../../qml/logic/file_url.js" as FileUrl
-import "../../qml/logic/hand_grid.js" as HandGrid
-import "../../qml/logic/range_estimates.js" as Estimates
-import "../../qml/logic/range_library_names.js" as Names
-import "../../qml/logic/range_library_overrides.js" as Overrides
-import "../../qml/logic/range_library_population.js" as Population
-import "../../qml/logic/range_library_standard.js" as Standard
-import "../../qml/logic/range_library_tree.js" as Tree
+import "../../qml/components/file_url.js" as FileUrl
+import "../../qml/components/hand_grid.js" as HandGrid
+import "../../qml/setup/library/range_estimates.js" as Estimates
+import "../../qml/setup/library/range_library_names.js" as Names
+import "../../qml/setup/library/range_library_overrides.js" as Overrides
+import "../../qml/setup/library/range_library_population.js" as Population
+import "../../qml/setup/library/range_library_standard.js" as Standard
+import "../../qml/setup/library/range_library_tree.js" as Tree
 
 /// The trees of ranges beside a matrix: how they are read, built, listed, edited and written.
 TestCase {

@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
 import "find.js" as Find
-import "../../qml/logic/languages.js" as Languages
+import "../../qml/settings/languages.js" as Languages
 
 MainWindowCase {
     id: root

@@ -1,12 +1,12 @@
 import QtQuick
 import QtTest
-import "../../qml/logic/file_url.js" as FileUrl
-import "../../qml/logic/number_text.js" as NumberText
-import "../../qml/logic/project_keys.js" as ProjectKeys
-import "../../qml/logic/presets.js" as Presets
-import "../../qml/logic/settings_profiles.js" as SettingsProfiles
-import "../../qml/logic/solve_gate.js" as SolveGate
-import "../../qml/logic/solve_status.js" as SolveStatus
+import "../../qml/components/file_url.js" as FileUrl
+import "../../qml/components/number_text.js" as NumberText
+import "../../qml/shell/project_keys.js" as ProjectKeys
+import "../../qml/shell/presets.js" as Presets
+import "../../qml/setup/settings_profiles.js" as SettingsProfiles
+import "../../qml/shell/solve_gate.js" as SolveGate
+import "../../qml/solve/solve_status.js" as SolveStatus
 
 TestCase {
     name: "SolveRules"

@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
 import Velmora
-import "../../qml/theme/font_families.js" as FontFamilies
+import "../../qml/style/font_families.js" as FontFamilies
 
 TestCase {
     id: test

@@ -2,7 +2,7 @@ import QtQuick
 import QtTest
 import "find.js" as Find
 import "random.js" as Random
-import "../../qml/logic/tree_walk.js" as Walk
+import "../../qml/results/tree_walk.js" as Walk
 
 /// Hands played against a solved turn spot, without waiting and with chance that repeats.
 MainWindowCase {

@@ -1,11 +1,11 @@
 import QtQuick
 import QtTest
-import "../../qml/logic/solve_activity.js" as Activity
-import "../../qml/logic/trainer_deal.js" as Deal
-import "../../qml/logic/trainer_hand.js" as Hand
-import "../../qml/logic/trainer_score.js" as Score
-import "../../qml/logic/trainer_stats.js" as Stats
-import "../../qml/logic/tree_walk.js" as Walk
+import "../../qml/home/solve_activity.js" as Activity
+import "../../qml/trainer/trainer_deal.js" as Deal
+import "../../qml/trainer/trainer_hand.js" as Hand
+import "../../qml/trainer/trainer_score.js" as Score
+import "../../qml/home/trainer_stats.js" as Stats
+import "../../qml/results/tree_walk.js" as Walk
 import "random.js" as Random
 
 TestCase {

@@ -1,0 +1,91 @@
+import QtQuick
+import QtQuick.Layouts
+import Velmora
+import "trainer_stats.js" as Stats
+
+/// How the hands against the solution went, today and in total.
+Card {
+    id: root
+
+    property Typography type: Fallback.type
+    /// The controller's figures.
+    property var stats: ({})
+
+    signal clearRequested
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: root.theme.spaceMd
+
+        RowLayout {
+            Layout.fillWidth: true
+            spacing: root.theme.spaceSm
+
+            Icon {
+                name: "gamepad"
+                color: root.theme.textMuted
+            }
+
+            CardTitle {
+                Layout.fillWidth: true
+                theme: root.theme
+                type: root.type
+                text: qsTr("Play vs. Solution")
+            }
+
+            SmallButton {
+                theme: root.theme
+                type: root.type
+                text: qsTr("Clear")
+                danger: true
+                Accessible.description: qsTr("Clear Play vs. Solution Stats")
+                onClicked: confirmation.open()
+            }
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            spacing: root.theme.spaceMd
+
+            StatCard {
+                Layout.fillWidth: true
+                Layout.preferredWidth: 152
+                theme: root.theme
+                type: root.type
+                label: qsTr("Hands (Today / Total)")
+                value: Stats.handsText(root.stats)
+                accentColor: root.theme.info
+            }
+
+            StatCard {
+                Layout.fillWidth: true
+                Layout.preferredWidth: 163
+                theme: root.theme
+                type: root.type
+                label: qsTr("Accuracy (Today / Total)")
+                value: Stats.accuracyText(root.stats)
+                unit: "%"
+                accentColor: root.theme.success
+            }
+
+            StatCard {
+                Layout.fillWidth: true
+                Layout.preferredWidth: 180
+                theme: root.theme
+                type: root.type
+                label: qsTr("Avg EV Loss (Today / Total)")
+                value: Stats.evLossText(root.stats)
+                unit: qsTr("EV")
+                accentColor: root.theme.gold
+            }
+        }
+    }
+
+    ClearStatsDialog {
+        id: confirmation
+
+        theme: root.theme
+        type: root.type
+        onConfirmed: root.clearRequested()
+    }
+}

@@ -1,0 +1,58 @@
+import QtQuick
+import Velmora
+import "../../components/file_url.js" as FileUrl
+
+/// Brings a range from a text file to the user's own ranges: asks for the file, then for a name.
+Item {
+    id: root
+
+    property Theme theme: Fallback.theme
+    property Typography type: Fallback.type
+    required property var controller
+    required property RangeLibraries libraries
+
+    property string _seat: "oop"
+    property string _rangeText: ""
+
+    /// Asks for a file, for the ranges of both seats. `focusPlayer` is the seat that wants it, "oop"
+    /// or "ip".
+    function start(focusPlayer: string) {
+        _seat = focusPlayer === "ip" ? "ip" : "oop"
+        fileDialog.open()
+    }
+
+    /// Reads a file and asks how to call what is in it.
+    function read(file: url) {
+        const answer = controller.readTextFile(file)
+        const range = answer.ok ? RangeText.imported(answer.text) : ""
+        const fault = answer.ok ? RangeText.fault(range) : answer.error || qsTr("unknown error")
+        _rangeText = fault === "" ? range : ""
+        nameDialog.fault = fault !== "" ? qsTr("Import failed: %1").arg(fault)
+                    : _rangeText === "" ? qsTr("Import failed: file contained no recognizable hands.") : ""
+        nameDialog.ask(FileUrl.baseName(file, ".txt"))
+    }
+
+    FileChooser {
+        id: fileDialog
+
+        theme: root.theme
+        type: root.type
+        controller: root.controller
+        title: qsTr("Import Range")
+        nameFilters: [qsTr("Range text (*.txt)"), qsTr("All Files (*)")]
+        onAccepted: root.read(FileUrl.ofLocalFile(selectedFile))
+    }
+
+    NameDialog {
+        id: nameDialog
+
+        theme: root.theme
+        type: root.type
+        title: qsTr("Import Range")
+        prompt: qsTr("Name this range:")
+        placeholder: qsTr("e.g., BTN open (custom)")
+        acceptText: qsTr("Import")
+        canAccept: name.trim() !== "" && root._rangeText !== ""
+        onNameChosen: name => finish(root.libraries.commitImportRange(root._seat, name, root._rangeText))
+    }
+}

@@ -1,0 +1,84 @@
+import QtQuick
+import "../solve/solve_status.js" as SolveStatus
+
+/// Follows a solve by the controller's properties: its iteration, its exploitability and where its
+/// progress wheel stands. The top bar and the Solve page show the same one.
+QtObject {
+    id: root
+
+    required property var controller
+    required property int maxIterations
+    required property real targetExploitability  ///< Percent of the starting pot.
+
+    readonly property bool running: controller.running
+    readonly property string statusText: controller.statusText
+    /// The status in the user's language.
+    readonly property string shownStatus: _shown(statusText)
+    readonly property bool isFinalizing: running && SolveStatus.isFinalizingText(statusText)
+    readonly property bool runComplete: !running && controller.resultIterations > 0
+    property int lastIterationSeen: 0
+
+    readonly property int currentIteration: {
+        if (!running)
+            return controller.resultIterations
+        if (isFinalizing && lastIterationSeen > 0)
+            return lastIterationSeen
+        const iteration = SolveStatus.parseIterationFromStatusText(statusText)
+        if (iteration > 0)
+            return iteration
+        return Math.max(0, Math.floor(controller.progress * Math.max(1, maxIterations)))
+    }
+    readonly property int progressWheelTotalIterations:
+        SolveStatus.progressWheelTotalIterations(targetExploitability, maxIterations)
+    readonly property real progressWheelValue: running
+        ? Math.min(1, Math.max(0, currentIteration / Math.max(1, progressWheelTotalIterations)))
+        : (runComplete ? 1 : 0)
+    readonly property int percentage: Math.round(progressWheelValue * 100)
+
+    /// Chips, or undefined while there is none: what a run tells before its first measure is no value.
+    readonly property var currentExploitabilityValue: {
+        if (running)
+            return currentIteration > SolveStatus.firstMeasure
+                ? SolveStatus.parseExploitabilityFromStatusText(statusText) : undefined
+        return controller.resultExploitability > 0 ? controller.resultExploitability : undefined
+    }
+
+    function _shown(text: string): string {
+        const iteration = SolveStatus.parseIterationLine(text)
+        if (iteration)
+            return qsTr("Iteration %1 | exploitability=%2").arg(iteration.iteration)
+                   .arg(Number(iteration.iteration) > SolveStatus.firstMeasure ? iteration.value : "—")
+        if (text.startsWith("Error: "))
+            return qsTr("Error: %1").arg(text.slice(7))
+        switch (text) {
+        case "Done":
+            return qsTr("Done")
+        case "Done: node locks keep the exploitability from falling":
+            return qsTr("Done: node locks keep the exploitability from falling")
+        case "Cancelled":
+            return qsTr("Cancelled")
+        case "Init: building game object...":
+            return qsTr("Building the cards and the tree...")
+        case "Init: building game tree structures...":
+            return qsTr("Preparing the solver...")
+        case "Init: starting solver...":
+            return qsTr("Starting the solver...")
+        case "Finalizing: computing results...":
+            return qsTr("Computing the results...")
+        case "Finalizing: building result snapshot...":
+            return qsTr("Collecting the tree...")
+        default:
+            return text
+        }
+    }
+
+    onStatusTextChanged: {
+        const iteration = SolveStatus.parseIterationFromStatusText(statusText)
+        if (running && iteration > 0)
+            lastIterationSeen = iteration
+    }
+    onRunningChanged: {
+        if (!running)
+            lastIterationSeen = 0
+    }
+}
