@@ -8,8 +8,8 @@ import "action_frequencies.js" as Frequencies
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// Maps of `name`, `actionType`, `frequency` and, where known, `color`, `combos`, `equity` (0..1)
     /// and `ev`. The frequencies need not sum to 1.
     property var actions: []
@@ -74,14 +74,11 @@ Item {
 
         width: parent.width
         height: root.showLabels ? 20 : parent.height
-        theme: root.theme
-        type: root.type
         shares: root._shares
         colors: Array.from(root._shares, (share, i) => root._color(i))
         marked: root.selectedAction
 
         FocusRing {
-            theme: root.theme
             radius: root.theme.radiusSm + 3
             active: root.activeFocus
         }
@@ -112,8 +109,6 @@ Item {
                 required property int index
 
                 visible: index < root._shares.length
-                theme: root.theme
-                type: root.type
                 action: root.actions[index] ?? ({})
                 name: visible ? root._name(index) : ""
                 ink: visible ? root._color(index) : "transparent"

@@ -5,12 +5,12 @@ import QtQuick.Controls
 import Velmora
 import "action_frequencies.js" as Frequencies
 
-/// What is told of one action under a bar of actions: one line, or two where it is narrow.
+/// The figures of one action under a bar of actions: one line, or two where it is narrow.
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// `combos`, `equity` (0..1) and `ev`, where known.
     property var action: ({})
     property string name

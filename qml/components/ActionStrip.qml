@@ -9,8 +9,8 @@ import "action_frequencies.js" as Frequencies
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// Shares 0..1 of the width, and a colour for each.
     property list<real> shares
     property list<color> colors

@@ -9,8 +9,8 @@ import Velmora
 T.Dialog {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property alias footerButtons: buttons.data
 
     parent: T.Overlay.overlay

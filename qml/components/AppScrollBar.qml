@@ -6,7 +6,7 @@ import Velmora
 T.ScrollBar {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
 
     implicitWidth: 10
     implicitHeight: 10

@@ -7,8 +7,8 @@ import Velmora
 T.ToolTip {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property color accentColor: theme.stroke
 
     x: parent ? Math.round((parent.width - width) / 2) : 0

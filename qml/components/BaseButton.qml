@@ -7,8 +7,8 @@ import Velmora
 T.Button {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property string iconText: ""
     property string iconName: ""
     property bool loading: false
@@ -38,13 +38,11 @@ T.Button {
     Keys.onEnterPressed: press()
 
     FocusRing {
-        theme: root.theme
         radius: root.theme.radiusSm + 3
         active: root.visualFocus
     }
 
     contentItem: ButtonFace {
-        theme: root.theme
         text: root.text
         iconText: root.iconText
         iconName: root.iconName

@@ -8,8 +8,8 @@ import "board_text.js" as BoardText
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// Two characters a slot, "__" for an empty one.
     property string boardText
     property bool editable: false
@@ -60,7 +60,6 @@ Item {
             && (!root.clickableIndices || root.clickableIndices.includes(index)) && !disabled
         readonly property string card: root.cards[index]
 
-        theme: root.theme
         rank: card.charAt(0)
         suit: card.charAt(1)
         mini: root.compact

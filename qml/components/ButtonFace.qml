@@ -8,7 +8,7 @@ import Velmora
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     property string text: ""
     property string iconText: ""
     property string iconName: ""
@@ -27,13 +27,11 @@ Item {
         width: Math.min(implicitWidth, parent.width)
 
         Spinner {
-            theme: root.theme
             visible: root.loading
             color: root.color
         }
 
         Icon {
-            theme: root.theme
             visible: !root.loading && root.iconName !== ""
             name: root.iconName
             color: root.color

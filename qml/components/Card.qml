@@ -6,7 +6,7 @@ import Velmora
 T.Frame {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     property bool hoverable: false
     property bool elevated: false
     property color accentColor: "transparent"

@@ -5,7 +5,7 @@ import Velmora
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
 
     readonly property color lineColor: Qt.rgba(1, 1, 1, 0.1)
     readonly property int lineSpacing: 8

@@ -6,7 +6,7 @@ import "card_names.js" as CardNames
 Column {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     required property string rank
     required property string suit
     required property color ink

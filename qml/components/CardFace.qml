@@ -4,11 +4,11 @@ import QtQuick
 import Velmora
 import "card_names.js" as CardNames
 
-/// The printed side of a card. A mini card has room for its top left corner only.
+/// The printed side of a card. A mini card shows its top left corner only.
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     property string rank
     property string suit
     property bool selected: false
@@ -34,7 +34,6 @@ Rectangle {
     CardCorner {
         x: 4 * root.sizeScale
         y: 3 * root.sizeScale
-        theme: root.theme
         rank: root.rank
         suit: root.suit
         ink: root.ink
@@ -62,7 +61,6 @@ Rectangle {
                 anchors.rightMargin: 4 * root.sizeScale
                 anchors.bottomMargin: 3 * root.sizeScale
                 rotation: 180
-                theme: root.theme
                 rank: root.rank
                 suit: root.suit
                 ink: root.ink

@@ -10,8 +10,8 @@ import "hand_grid.js" as HandGrid
 FocusScope {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// A list of cards such as "Ah" that cannot be chosen.
     property var usedCards: []
     property bool showSuitHeaders: true
@@ -118,8 +118,6 @@ FocusScope {
                 CardPickerTile {
                     required property int index
 
-                    theme: root.theme
-                    type: root.type
                     width: root.tileSize
                     height: root.tileSize
                     card: root.cardAt(index)

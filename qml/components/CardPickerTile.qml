@@ -6,8 +6,8 @@ import "card_names.js" as CardNames
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property string card
     required property color ink
     property bool used: false
@@ -48,7 +48,6 @@ Rectangle {
     }
 
     FocusRing {
-        theme: root.theme
         radius: root.theme.radiusXs + 3
         active: root.activeFocus
     }

@@ -5,7 +5,7 @@ import Velmora
 /// whose corners keep their size: a list has dozens of cards, and an effect for each is slow to make
 /// and to draw.
 BorderImage {
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
 
     /// How far the picture reaches beyond the card, and where its corners end.
     readonly property int reach: 13

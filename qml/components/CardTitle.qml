@@ -4,8 +4,8 @@ import Velmora
 
 /// The heading of a card.
 Label {
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
 
     color: theme.text
     font.pixelSize: type.bodyLg

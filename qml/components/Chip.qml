@@ -8,8 +8,8 @@ import Velmora
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property string text: ""
     property color tint: theme.surface2
     property color stroke: theme.stroke
@@ -55,7 +55,6 @@ Item {
         }
 
         FocusRing {
-            theme: root.theme
             radius: height / 2
             active: body.visualFocus
         }
@@ -119,7 +118,6 @@ Item {
             }
 
             FocusRing {
-                theme: root.theme
                 radius: height / 2
                 active: remove.visualFocus
             }

@@ -9,8 +9,8 @@ import Velmora
 T.ComboBox {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// The name that assistive tools read.
     property string label: ""
     /// The entry that is chosen. It stays so when the list changes, to another language for example;
@@ -45,7 +45,6 @@ T.ComboBox {
     }
 
     FocusRing {
-        theme: root.theme
         radius: root.theme.radiusSm + 3
         active: root.visualFocus
     }
@@ -125,7 +124,6 @@ T.ComboBox {
             currentIndex: root.highlightedIndex
             highlightMoveDuration: 0
             T.ScrollBar.vertical: AppScrollBar {
-                theme: root.theme
             }
         }
 

@@ -7,8 +7,8 @@ import Velmora
 T.ItemDelegate {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property bool selected: false
 
     signal chosen

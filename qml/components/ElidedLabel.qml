@@ -6,16 +6,14 @@ import Velmora
 Label {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property bool hovered: false
 
     elide: Text.ElideRight
     verticalAlignment: Text.AlignVCenter
 
     AppToolTip {
-        theme: root.theme
-        type: root.type
         visible: root.hovered && root.truncated
         text: root.text
     }

@@ -9,8 +9,8 @@ import Velmora
 GridLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// Maps with `label` and `value`.
     property var facts: []
 

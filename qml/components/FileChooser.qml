@@ -16,8 +16,8 @@ Item {
 
     enum FileMode { OpenFile, SaveFile }
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property var controller
     property string title: ""
     property int fileMode: FileChooser.OpenFile
@@ -155,8 +155,6 @@ Item {
 
         property bool settled: false
 
-        theme: root.theme
-        type: root.type
         title: root.title
         width: Math.min(760, (parent?.width ?? 0) - 2 * margins)
         height: Math.min(560, (parent?.height ?? 0) - 2 * margins)
@@ -187,8 +185,6 @@ Item {
                     SmallButton {
                         required property int index
 
-                        theme: root.theme
-                        type: root.type
                         text: root._placeName(root._places[index].key)
                         iconName: root._places[index].key === "home" ? "home" : "folder-open"
                         onClicked: root._show(root._places[index].url)
@@ -200,8 +196,6 @@ Item {
                 }
 
                 SmallButton {
-                    theme: root.theme
-                    type: root.type
                     text: "↑ " + qsTr("Up")
                     enabled: String(FileChoice.parent(root.currentFolder)) !== String(root.currentFolder)
                     onClicked: root._show(FileChoice.parent(root.currentFolder))
@@ -230,8 +224,6 @@ Item {
 
                     anchors.fill: parent
                     anchors.margins: root.theme.spaceXs
-                    theme: root.theme
-                    type: root.type
                     model: folder
                     onRowChosen: index => {
                         if (!folder.get(index, "fileIsDir"))
@@ -258,8 +250,6 @@ Item {
                     id: nameField
 
                     Layout.fillWidth: true
-                    theme: root.theme
-                    type: root.type
                     label: qsTr("File name")
                     placeholderText: label
                     onTextEdited: note.fault = ""
@@ -271,8 +261,6 @@ Item {
                     id: filterBox
 
                     Layout.preferredWidth: 280
-                    theme: root.theme
-                    type: root.type
                     label: qsTr("File type")
                     model: root.nameFilters
                 }
@@ -296,14 +284,10 @@ Item {
 
         footerButtons: [
             SecondaryButton {
-                theme: root.theme
-                type: root.type
                 text: qsTr("Cancel")
                 onClicked: dialog.close()
             },
             PrimaryButton {
-                theme: root.theme
-                type: root.type
                 text: root.acceptLabel !== "" ? root.acceptLabel : root._saving ? qsTr("Save") : qsTr("Open")
                 enabled: nameField.text.trim() !== "" || list.currentIndex >= 0
                 onClicked: root._take()
@@ -321,8 +305,6 @@ Item {
             open()
         }
 
-        theme: root.theme
-        type: root.type
         title: qsTr("Replace file?")
         width: Math.min(440, (parent?.width ?? 0) - 2 * margins)
 
@@ -336,15 +318,11 @@ Item {
 
         footerButtons: [
             SecondaryButton {
-                theme: root.theme
-                type: root.type
                 text: qsTr("Keep it")
                 focus: true
                 onClicked: overwrite.close()
             },
             SecondaryButton {
-                theme: root.theme
-                type: root.type
                 text: qsTr("Replace")
                 danger: true
                 onClicked: {

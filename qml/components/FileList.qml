@@ -11,8 +11,8 @@ import Velmora
 ListView {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
 
     property string _typed: ""
 
@@ -60,7 +60,6 @@ ListView {
     }
 
     ScrollBar.vertical: AppScrollBar {
-        theme: root.theme
     }
 
     Timer {
@@ -101,7 +100,6 @@ ListView {
             spacing: root.theme.spaceSm
 
             Icon {
-                theme: root.theme
                 name: row.fileIsDir ? "folder-open" : "file-text"
                 size: 16
                 color: row.fileIsDir ? root.theme.gold : root.theme.textMuted

@@ -5,7 +5,7 @@ import Velmora
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     property bool active: false
 
     anchors.fill: parent

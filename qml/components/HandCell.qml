@@ -12,7 +12,7 @@ import "hand_grid.js" as HandGrid
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     required property string label
     property color baseColor: theme.surface
     property color solidColor: theme.accent

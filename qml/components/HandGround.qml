@@ -7,7 +7,7 @@ import Velmora
 Canvas {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     property real cellSize: 32
     property real cellSpacing: 2
     /// The colours of the 169 bases, row by row; without them borders are painted.

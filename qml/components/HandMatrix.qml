@@ -8,7 +8,7 @@ import "hand_grid.js" as HandGrid
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     /// The name that assistive tools read.
     property string label: qsTr("Hands")
     /// A map from label to weight 0..1; a missing hand is 0.
@@ -109,7 +109,6 @@ Item {
         id: bases
 
         anchors.fill: parent
-        theme: root.theme
         cellSize: root.cellSize
         cellSpacing: root.cellSpacing
         fills: root._baseColors
@@ -122,7 +121,6 @@ Item {
             required property int index
             required property string modelData
 
-            theme: root.theme
             label: modelData
             x: root._step * (index % 13)
             y: root._step * Math.floor(index / 13)
@@ -146,7 +144,6 @@ Item {
         id: borders
 
         anchors.fill: parent
-        theme: root.theme
         cellSize: root.cellSize
         cellSpacing: root.cellSpacing
     }
@@ -159,7 +156,6 @@ Item {
         height: root.cellSize
 
         FocusRing {
-            theme: root.theme
             radius: root.theme.radiusXs + 3
             active: root.activeFocus
         }

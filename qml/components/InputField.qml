@@ -7,8 +7,8 @@ import Velmora
 T.TextField {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// The name that assistive tools read.
     property string label: ""
     property bool mono: false
@@ -59,8 +59,6 @@ T.TextField {
     }
 
     AppToolTip {
-        theme: root.theme
-        type: root.type
         y: root.faultBelow ? root.height + 6 : -height - 6
         delay: 0
         closePolicy: T.Popup.NoAutoClose

@@ -23,7 +23,6 @@ AppDialog {
     }
 
     footerButtons: PrimaryButton {
-        theme: root.theme
         text: qsTr("OK")
         focus: true
         onClicked: root.close()

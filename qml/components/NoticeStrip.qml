@@ -7,8 +7,8 @@ import Velmora
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property string text: ""
     property color accentColor: theme.info
     property real progress: -1  ///< 0..1, drawn along the lower edge; none below 0.

@@ -10,7 +10,7 @@ import "card_names.js" as CardNames
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     property string rank
     property string suit
     property bool faceDown: false
@@ -58,13 +58,11 @@ Item {
 
     CardShadow {
         visible: root.faceUp
-        theme: root.theme
     }
 
     CardFace {
         anchors.fill: parent
         visible: root.faceUp
-        theme: root.theme
         rank: root.rank
         suit: root.suit
         selected: root.selected
@@ -78,7 +76,6 @@ Item {
 
         CardBack {
             anchors.fill: root
-            theme: root.theme
         }
     }
 
@@ -112,7 +109,6 @@ Item {
     }
 
     FocusRing {
-        theme: root.theme
         radius: root.theme.radiusSm + 3
         active: root.activeFocus
     }

@@ -6,8 +6,8 @@ import Velmora
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property real value: 0
     property real strokeWidth: 8
     property color trackColor: theme.surface3

@@ -38,7 +38,6 @@ AppDialog {
 
     footerButtons: [
         SecondaryButton {
-            theme: root.theme
             text: qsTr("Cancel")
             onClicked: root.close()
         },
@@ -54,7 +53,6 @@ AppDialog {
 
                 PrimaryButton {
                     visible: entry.answer?.kind === "primary"
-                    theme: root.theme
                     text: entry.answer?.text ?? ""
                     focus: visible
                     onClicked: root._answer(entry.index)
@@ -62,7 +60,6 @@ AppDialog {
 
                 SecondaryButton {
                     visible: entry.answer?.kind !== "primary"
-                    theme: root.theme
                     text: entry.answer?.text ?? ""
                     danger: entry.answer?.kind === "danger"
                     onClicked: root._answer(entry.index)

@@ -9,8 +9,8 @@ import "hand_grid.js" as HandGrid
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property string rangeText
     property string label: qsTr("Range")
 
@@ -78,8 +78,6 @@ Item {
                         required property string modelData
 
                         objectName: modelData
-                        theme: root.theme
-                        type: root.type
                         text: modelData
                         onClicked: root.rangeChanged(modelData)
                     }
@@ -87,8 +85,6 @@ Item {
 
                 SmallButton {
                     objectName: "clear"
-                    theme: root.theme
-                    type: root.type
                     text: qsTr("Clear")
                     onClicked: root.rangeChanged("")
                 }
@@ -99,7 +95,6 @@ Item {
             id: matrix
 
             objectName: "matrix"
-            theme: root.theme
             label: root.label
             cellSize: 30
             editable: true
@@ -111,8 +106,6 @@ Item {
 
         InputField {
             objectName: "field"
-            theme: root.theme
-            type: root.type
             width: matrix.width
             mono: true
             label: root.label

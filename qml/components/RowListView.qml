@@ -8,7 +8,7 @@ import Velmora
 ListView {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     property int rowCount: 0
 
     function _fitRows() {
@@ -33,7 +33,6 @@ ListView {
     }
 
     ScrollBar.vertical: AppScrollBar {
-        theme: root.theme
     }
 
     onRowCountChanged: _fitRows()

@@ -8,8 +8,8 @@ import Velmora
 FocusScope {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property real minimumContentWidth: 0
     property real margins: theme.spaceXl
     /// Whether the rows share the height of the page where they need less.
@@ -30,9 +30,9 @@ FocusScope {
     /// Brings an item into view, for one that got the focus by keyboard.
     function reveal(item: Item) {
         const place = item.mapToItem(flickable, 0, 0)
-        const room = root.theme.spaceLg
-        const overlap = (start, size, view) => start < room ? start - room
-            : Math.max(0, Math.min(start - room, start + size + room - view))
+        const margin = root.theme.spaceLg
+        const overlap = (start, size, view) => start < margin ? start - margin
+            : Math.max(0, Math.min(start - margin, start + size + margin - view))
         scrollBy(overlap(place.x, item.width, flickable.width), overlap(place.y, item.height, flickable.height))
     }
 
@@ -83,11 +83,9 @@ FocusScope {
         }
 
         ScrollBar.vertical: AppScrollBar {
-            theme: root.theme
             policy: flickable.contentHeight > flickable.height + 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
         }
         ScrollBar.horizontal: AppScrollBar {
-            theme: root.theme
             policy: flickable.contentWidth > flickable.width + 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
         }
     }

@@ -7,8 +7,8 @@ import Velmora
 ColumnLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property string title: ""
     property string subtitle: ""
     property string badge: ""

@@ -5,7 +5,7 @@ import Velmora
 Canvas {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     property color color: theme.accent
     property real strokeWidth: 2
 

@@ -8,8 +8,8 @@ import Velmora
 RowLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property list<string> labels
     property int currentIndex: 0
 
@@ -38,8 +38,6 @@ RowLayout {
 
             Layout.fillWidth: true
             Layout.preferredWidth: 1
-            theme: root.theme
-            type: root.type
             implicitHeight: 28
             text: root.labels[index]
             checkable: true

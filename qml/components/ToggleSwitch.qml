@@ -6,7 +6,7 @@ import Velmora
 T.Switch {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
 
     function press() {
         toggle()
@@ -40,7 +40,6 @@ T.Switch {
             opacity: root.enabled ? 1 : 0.45
 
             FocusRing {
-                theme: root.theme
                 radius: height / 2
                 active: root.visualFocus
             }

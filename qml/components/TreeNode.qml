@@ -8,8 +8,8 @@ import Velmora
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// "decision", "chance" or "terminal".
     property string nodeType: "decision"
     property string player: "OOP"
@@ -126,7 +126,6 @@ Item {
     }
 
     FocusRing {
-        theme: root.theme
         radius: root.theme.radiusSm + 3
         active: root.activeFocus
     }

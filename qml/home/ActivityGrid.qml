@@ -10,15 +10,15 @@ import "solve_activity.js" as Activity
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property var cells: []
 
     readonly property int weeks: Activity.weekCount(cells)
     readonly property int side: Activity.cellSide(width - _labelWidth, weeks)
     readonly property int _labelWidth: 34
     readonly property int _labelHeight: 16
-    /// The day that is told of, or -1.
+    /// The day that the tooltip is about, or -1.
     readonly property int _shownCell: hover.hovered ? _cellUnder : activeFocus ? _keyCell : -1
     readonly property int _cellUnder: Activity.indexAt(cells, side, hover.point.position.x, hover.point.position.y)
     property int _keyCell: -1
@@ -126,8 +126,6 @@ Item {
             border.width: 2
 
             AppToolTip {
-                theme: root.theme
-                type: root.type
                 delay: 150
                 visible: mark.visible
                 text: root._shownCell >= 0 ? Activity.describe(root.cells[root._shownCell]) : ""

@@ -21,15 +21,11 @@ AppDialog {
 
     footerButtons: [
         SecondaryButton {
-            theme: root.theme
-            type: root.type
             text: qsTr("Cancel")
             focus: true
             onClicked: root.close()
         },
         SecondaryButton {
-            theme: root.theme
-            type: root.type
             text: qsTr("OK")
             danger: true
             onClicked: {

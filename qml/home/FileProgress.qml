@@ -5,7 +5,7 @@ import Velmora
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     property bool running: false
     property real value: 0  ///< 0..1
 

@@ -7,8 +7,8 @@ import Velmora
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
 
     property bool busy: false
     property real progress: 0  ///< 0..1, of the file that is worked on while busy.
@@ -64,14 +64,12 @@ Rectangle {
                 spacing: root.theme.spaceMd
 
                 PrimaryButton {
-                    theme: root.theme
                     text: qsTr("New Solve")
                     iconText: "+"
                     onClicked: root.newProject()
                 }
 
                 SecondaryButton {
-                    theme: root.theme
                     text: qsTr("Save")
                     iconName: "save"
                     enabled: !root.busy
@@ -79,7 +77,6 @@ Rectangle {
                 }
 
                 SecondaryButton {
-                    theme: root.theme
                     text: qsTr("Open File")
                     iconName: "folder-open"
                     enabled: !root.busy
@@ -87,7 +84,6 @@ Rectangle {
                 }
 
                 FileProgress {
-                    theme: root.theme
                     running: root.busy
                     value: root.progress
                 }

@@ -53,8 +53,6 @@ ScrollPage {
     HeroBand {
         Layout.fillWidth: true
         Layout.preferredHeight: 180
-        theme: root.theme
-        type: root.type
         busy: root.filesBusy
         progress: root.controller.fileProgress
         onNewProject: root.newProject()
@@ -72,8 +70,6 @@ ScrollPage {
             Layout.preferredWidth: 320
             Layout.fillHeight: true
             Layout.rowSpan: 2
-            theme: root.theme
-            type: root.type
             onNewProject: root.newProject()
             onQuickSolve: root.quickSolve()
             onImportRange: root.importRange()
@@ -82,24 +78,18 @@ ScrollPage {
         TrainerStatsCard {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            theme: root.theme
-            type: root.type
             stats: root.playVsSolutionStats
             onClearRequested: root.controller.clearPlayVsSolutionStats()
         }
 
         SystemCard {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             controller: root.controller
         }
     }
 
     SolveActivityCard {
         Layout.fillWidth: true
-        theme: root.theme
-        type: root.type
         cells: root.solveActivityGrid
     }
 }

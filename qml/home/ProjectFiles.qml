@@ -7,8 +7,6 @@ import "../components/file_url.js" as FileUrl
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
     required property var controller
     required property ProjectState project
     /// The file name that a project without one is offered, without its ending.
@@ -102,8 +100,6 @@ Item {
             open()
         }
 
-        theme: root.theme
-        type: root.type
         controller: root.controller
         title: qsTr("Save Project")
         fileMode: FileChooser.SaveFile
@@ -117,8 +113,6 @@ Item {
     FileChooser {
         id: openDialog
 
-        theme: root.theme
-        type: root.type
         controller: root.controller
         title: qsTr("Open Project")
         nameFilters: root._filters
@@ -127,8 +121,5 @@ Item {
 
     MessageBox {
         id: fault
-
-        theme: root.theme
-        type: root.type
     }
 }

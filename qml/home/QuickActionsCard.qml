@@ -6,8 +6,6 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
-
     signal newProject
     signal quickSolve
     signal importRange
@@ -17,15 +15,11 @@ Card {
         spacing: root.theme.spaceSm
 
         CardTitle {
-            theme: root.theme
-            type: root.type
             text: qsTr("Quick Actions")
         }
 
         QuickActionRow {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             text: qsTr("New Solve")
             description: qsTr("Configure board, ranges, tree")
             iconName: "target"
@@ -34,8 +28,6 @@ Card {
 
         QuickActionRow {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             text: qsTr("Quick Solve")
             description: qsTr("Use default settings")
             iconName: "bolt"
@@ -44,8 +36,6 @@ Card {
 
         QuickActionRow {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             text: qsTr("Import Range")
             description: qsTr("Load from file")
             iconName: "chart"

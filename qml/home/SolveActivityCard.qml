@@ -7,7 +7,7 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     /// The controller's cells, day by day.
     property var cells: []
 
@@ -26,8 +26,6 @@ Card {
 
             CardTitle {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 text: qsTr("Solve Activity")
             }
 
@@ -40,8 +38,6 @@ Card {
 
         ActivityGrid {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             cells: root.cells
         }
     }

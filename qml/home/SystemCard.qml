@@ -6,7 +6,6 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
     required property var controller
 
     ColumnLayout {
@@ -22,16 +21,12 @@ Card {
             }
 
             CardTitle {
-                theme: root.theme
-                type: root.type
                 text: qsTr("System")
             }
         }
 
         FactGrid {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             facts: [
                 { label: qsTr("Engine"), value: qsTr("Dunmarrow Core") },
                 {

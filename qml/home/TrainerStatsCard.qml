@@ -7,7 +7,6 @@ import "trainer_stats.js" as Stats
 Card {
     id: root
 
-    property Typography type: Fallback.type
     /// The controller's figures.
     property var stats: ({})
 
@@ -28,14 +27,10 @@ Card {
 
             CardTitle {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 text: qsTr("Play vs. Solution")
             }
 
             SmallButton {
-                theme: root.theme
-                type: root.type
                 text: qsTr("Clear")
                 danger: true
                 Accessible.description: qsTr("Clear Play vs. Solution Stats")
@@ -50,8 +45,6 @@ Card {
             StatCard {
                 Layout.fillWidth: true
                 Layout.preferredWidth: 152
-                theme: root.theme
-                type: root.type
                 label: qsTr("Hands (Today / Total)")
                 value: Stats.handsText(root.stats)
                 accentColor: root.theme.info
@@ -60,8 +53,6 @@ Card {
             StatCard {
                 Layout.fillWidth: true
                 Layout.preferredWidth: 163
-                theme: root.theme
-                type: root.type
                 label: qsTr("Accuracy (Today / Total)")
                 value: Stats.accuracyText(root.stats)
                 unit: "%"
@@ -71,8 +62,6 @@ Card {
             StatCard {
                 Layout.fillWidth: true
                 Layout.preferredWidth: 180
-                theme: root.theme
-                type: root.type
                 label: qsTr("Avg EV Loss (Today / Total)")
                 value: Stats.evLossText(root.stats)
                 unit: qsTr("EV")
@@ -84,8 +73,6 @@ Card {
     ClearStatsDialog {
         id: confirmation
 
-        theme: root.theme
-        type: root.type
         onConfirmed: root.clearRequested()
     }
 }

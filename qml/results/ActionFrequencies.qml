@@ -7,8 +7,8 @@ import Velmora
 ColumnLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property var actions
     property bool compact: false
 
@@ -25,8 +25,6 @@ ColumnLayout {
     ActionBar {
         Layout.fillWidth: true
         Layout.preferredHeight: root.compact ? contentHeight : Math.max(60, contentHeight)
-        theme: root.theme
-        type: root.type
         actions: root.actions
     }
 }

@@ -7,8 +7,8 @@ import "hand_views.js" as HandViews
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property var bucket
     required property var actions
     property bool selected: false
@@ -55,8 +55,6 @@ Rectangle {
         anchors.margins: root.theme.spaceSm
         anchors.bottomMargin: 6
         height: 16
-        theme: root.theme
-        type: root.type
         showLabels: false
         actions: HandViews.actionsForProbs(root.actions, root.bucket?.actionProbs)
     }

@@ -9,7 +9,7 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     required property NodeView view
 
     /// What the rows show: both change at once.
@@ -34,8 +34,6 @@ Card {
 
             CardTitle {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 text: qsTr("Buckets")
             }
 
@@ -51,7 +49,6 @@ Card {
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            theme: root.theme
             currentIndex: -1
             rowCount: root._rows.buckets.length
             Accessible.name: qsTr("Buckets")
@@ -62,8 +59,6 @@ Card {
                 required property int index
 
                 width: list.width
-                theme: root.theme
-                type: root.type
                 bucket: root._rows.buckets[index]
                 actions: root._rows.actions
                 selected: root.view.selectedBucket !== "" && root.view.selectedBucket === bucket?.name

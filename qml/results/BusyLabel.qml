@@ -6,8 +6,8 @@ import Velmora
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
 
     implicitWidth: row.implicitWidth + 2 * theme.spaceMd
     implicitHeight: 32
@@ -23,7 +23,6 @@ Rectangle {
 
         Spinner {
             anchors.verticalCenter: parent.verticalCenter
-            theme: root.theme
             visible: root.visible
             color: root.theme.accent
         }

@@ -129,7 +129,7 @@ AppDialog {
         Keys.onPressed: event => event.accepted = root.typeCharacter(event.text)
 
         Flickable {
-            // The ring around a card at an edge has room too.
+            // Leaves space for the ring around a card at an edge.
             x: -root.theme.spaceXs
             y: -root.theme.spaceXs
             width: parent.width + 2 * root.theme.spaceXs
@@ -140,10 +140,8 @@ AppDialog {
             boundsBehavior: Flickable.StopAtBounds
 
             ScrollBar.vertical: AppScrollBar {
-                theme: root.theme
             }
             ScrollBar.horizontal: AppScrollBar {
-                theme: root.theme
             }
 
             Row {
@@ -171,8 +169,6 @@ AppDialog {
                                 id: tile
 
                                 anchors.verticalCenter: parent.verticalCenter
-                                theme: root.theme
-                                type: root.type
                                 suit: head.modelData
                             }
                         }
@@ -194,7 +190,6 @@ AppDialog {
                             readonly property int actionIndex: Walk.chanceCardIndexForSelection(
                                 rank + suit, root.chancePickerIndexByCard, root.chancePickerBoardText)
 
-                            theme: root.theme
                             rank: HandGrid.RANKS[index % HandGrid.RANKS.length]
                             suit: CardNames.SUITS[Math.floor(index / HandGrid.RANKS.length)]
                             mini: true
@@ -226,14 +221,10 @@ AppDialog {
 
     footerButtons: [
         SecondaryButton {
-            theme: root.theme
-            type: root.type
             text: qsTr("Random")
             onClicked: root.chooseChanceCardRandom()
         },
         SecondaryButton {
-            theme: root.theme
-            type: root.type
             text: "✕"
             Accessible.name: qsTr("Close")
             onClicked: root.close()

@@ -10,8 +10,8 @@ import "hand_views.js" as HandViews
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property var combo
     required property var actions
 
@@ -39,7 +39,6 @@ Rectangle {
             spacing: 2
 
             PlayingCard {
-                theme: root.theme
                 rank: root._card1.charAt(0)
                 suit: root._card1.charAt(1)
                 mini: true
@@ -47,7 +46,6 @@ Rectangle {
             }
 
             PlayingCard {
-                theme: root.theme
                 rank: root._card2.charAt(0)
                 suit: root._card2.charAt(1)
                 mini: true
@@ -82,8 +80,6 @@ Rectangle {
         ActionBar {
             Layout.fillWidth: true
             Layout.preferredHeight: 16
-            theme: root.theme
-            type: root.type
             showLabels: false
             actions: HandViews.actionsForProbs(root.actions, root.combo?.actionProbs)
         }

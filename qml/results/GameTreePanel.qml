@@ -9,7 +9,6 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
     required property TreeWalk walk
     /// Whether choices that are open tell how often each is taken.
     property bool frequenciesShown: true
@@ -21,8 +20,6 @@ Card {
         spacing: root.theme.spaceMd
 
         CardTitle {
-            theme: root.theme
-            type: root.type
             text: qsTr("Game Tree")
         }
 
@@ -42,13 +39,10 @@ Card {
             onContentHeightChanged: positionViewAtEnd()
 
             ScrollBar.vertical: AppScrollBar {
-                theme: root.theme
             }
 
             delegate: TreeLevel {
                 width: list.width
-                theme: root.theme
-                type: root.type
                 walk: root.walk
                 last: index === list.count - 1
                 frequenciesShown: root.frequenciesShown
@@ -60,8 +54,6 @@ Card {
     ChancePicker {
         id: picker
 
-        theme: root.theme
-        type: root.type
         walk: root.walk
     }
 }

@@ -9,7 +9,7 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     required property NodeView view
 
     readonly property bool _pending: view._handCombosLoading || view.loading
@@ -52,8 +52,6 @@ Card {
         spacing: root.theme.spaceSm
 
         CardTitle {
-            theme: root.theme
-            type: root.type
             text: qsTr("Hand Details")
         }
 
@@ -61,8 +59,6 @@ Card {
             id: search
 
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             label: qsTr("Search")
             placeholderText: qsTr("Search (JJ, 56s, JcJd, ...)")
             onTextEdited: root.view.handSearchText = text
@@ -87,8 +83,6 @@ Card {
             }
 
             SmallButton {
-                theme: root.theme
-                type: root.type
                 text: qsTr("Clear")
                 onClicked: root._clearFilters()
             }
@@ -113,7 +107,6 @@ Card {
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            theme: root.theme
             // Not hidden, which would take its place in the layout.
             opacity: root._note === "" ? 1 : 0
             enabled: root._note === ""
@@ -124,8 +117,6 @@ Card {
                 required property int index
 
                 width: list.width
-                theme: root.theme
-                type: root.type
                 combo: root._rows.combos[index]
                 actions: root._rows.actions
             }

@@ -6,24 +6,19 @@ import Velmora
 ColumnLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
     required property NodeLocks locks
 
     spacing: theme.spaceXs
 
     SmallButton {
         Layout.fillWidth: true
-        theme: root.theme
-        type: root.type
         text: (root.locks.nodeLockMode ? "" : "✓ ") + qsTr("Standard mode")
         onClicked: root.locks.leaveLockMode()
     }
 
     SmallButton {
         Layout.fillWidth: true
-        theme: root.theme
-        type: root.type
         text: (root.locks.nodeLockMode ? "✓ " : "") + qsTr("Node-lock mode")
         onClicked: root.locks.enterLockMode()
     }

@@ -6,8 +6,7 @@ import "hand_views.js" as HandViews
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
     required property var meta
     property bool compact: false
 
@@ -21,8 +20,6 @@ Rectangle {
 
         anchors.fill: parent
         anchors.margins: root.compact ? root.theme.spaceXs : root.theme.spaceSm
-        theme: root.theme
-        type: root.type
         rowSpacing: root.compact ? 2 : root.theme.spaceSm
         facts: [
             { label: qsTr("Pot"), value: String(root.meta.pot ?? 0) },

@@ -9,8 +9,8 @@ import Velmora
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property var controller
     required property NodeLocks locks
     required property int node
@@ -30,8 +30,6 @@ Rectangle {
         spacing: root.theme.spaceSm
 
         CardTitle {
-            theme: root.theme
-            type: root.type
             text: qsTr("Node-Locking")
         }
 
@@ -56,8 +54,6 @@ Rectangle {
                 SmallButton {
                     required property int index
 
-                    theme: root.theme
-                    type: root.type
                     text: (root.locks.nodeLockSelectedActionIndex === index ? "✓ " : "") + (root.actions[index]?.name ?? "")
                     onClicked: root.locks.nodeLockSelectedActionIndex = index
                 }
@@ -80,8 +76,6 @@ Rectangle {
                 id: weight
 
                 width: 70
-                theme: root.theme
-                type: root.type
                 label: qsTr("Weight")
                 placeholderText: qsTr("0..1")
                 onTextEdited: root.locks.nodeLockWeightText = text
@@ -94,8 +88,6 @@ Rectangle {
             }
 
             SmallButton {
-                theme: root.theme
-                type: root.type
                 height: weight.height
                 text: qsTr("Reset weights")
                 onClicked: root.locks.resetNodeLockEdits(root.node)
@@ -103,8 +95,6 @@ Rectangle {
 
             SmallButton {
                 visible: root.locks.lastReset !== null
-                theme: root.theme
-                type: root.type
                 height: weight.height
                 text: qsTr("Undo reset")
                 onClicked: root.locks.undoReset()
@@ -112,8 +102,6 @@ Rectangle {
 
             PrimaryButton {
                 height: weight.height
-                theme: root.theme
-                type: root.type
                 text: qsTr("Re-solve")
                 loading: root.controller.running
                 enabled: !root.controller.running && (root.controller.lockCount > 0 || root.controller.locksPending)

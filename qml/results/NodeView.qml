@@ -11,7 +11,7 @@ QtObject {
     id: root
 
     required property var controller
-    required property Theme theme
+    property Theme theme: Style.theme
     required property TreeWalk walk
     required property NodeLocks locks
 

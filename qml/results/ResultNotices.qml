@@ -7,8 +7,7 @@ import Velmora
 ColumnLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
     required property var controller
     required property SolveFollower follower
     /// Whether Setup shows another spot than that of the result.
@@ -57,16 +56,12 @@ ColumnLayout {
     NoticeStrip {
         Layout.fillWidth: true
         visible: root.follower.running
-        theme: root.theme
-        type: root.type
         accentColor: root.theme.success
         progress: root.follower.progressWheelValue
         text: qsTr("Solving. These are the results of the solve before, until the new ones are there. %1")
               .arg(root.follower.shownStatus)
 
         SmallButton {
-            theme: root.theme
-            type: root.type
             text: qsTr("Cancel")
             onClicked: root.controller.cancelSolve()
         }
@@ -75,14 +70,10 @@ ColumnLayout {
     NoticeStrip {
         Layout.fillWidth: true
         visible: root._endedBadly
-        theme: root.theme
-        type: root.type
         accentColor: root.theme.warn
         text: root._endedBadly ? root._lastRunLine() : ""
 
         SmallButton {
-            theme: root.theme
-            type: root.type
             text: qsTr("OK")
             onClicked: root._readRevision = root._runRevision
         }
@@ -91,8 +82,6 @@ ColumnLayout {
     NoticeStrip {
         Layout.fillWidth: true
         visible: root.nodeError !== ""
-        theme: root.theme
-        type: root.type
         accentColor: root.theme.danger
         text: qsTr("Figures of this node are missing: %1").arg(root.nodeError)
     }
@@ -100,8 +89,6 @@ ColumnLayout {
     NoticeStrip {
         Layout.fillWidth: true
         visible: root._locksWait
-        theme: root.theme
-        type: root.type
         accentColor: root.theme.warn
         text: root.controller.lockCount > 0
               ? qsTr("The node locks (%1) are not solved yet. At their nodes the grid, the buckets and the hands show a preview; all other figures are those from before.")
@@ -109,8 +96,6 @@ ColumnLayout {
               : qsTr("The node locks of this result were removed. It still shows the solve with them.")
 
         SmallButton {
-            theme: root.theme
-            type: root.type
             text: qsTr("Re-solve")
             onClicked: root.controller.reSolveWithNodeLocks()
         }
@@ -119,8 +104,6 @@ ColumnLayout {
     NoticeStrip {
         Layout.fillWidth: true
         visible: root.controller.resultStalled
-        theme: root.theme
-        type: root.type
         accentColor: root.theme.warn
         text: qsTr("The node locks keep the exploitability from falling any further. The solve ended above its target.")
     }
@@ -128,20 +111,14 @@ ColumnLayout {
     NoticeStrip {
         Layout.fillWidth: true
         visible: root._setupWaits
-        theme: root.theme
-        type: root.type
         text: qsTr("Setup has changed since this solve")
 
         SmallButton {
-            theme: root.theme
-            type: root.type
             text: qsTr("Solve again")
             onClicked: root.solveAgainRequested()
         }
 
         SmallButton {
-            theme: root.theme
-            type: root.type
             text: qsTr("Take back the setup of this result")
             onClicked: root.setupWanted()
         }

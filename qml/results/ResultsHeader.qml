@@ -10,8 +10,8 @@ import Velmora
 RowLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property var controller
     required property TreeWalk walk
     required property PlaySession play
@@ -24,7 +24,7 @@ RowLayout {
         { label: qsTr("EV (IP)"), value: (controller.resultEvIp + controller.resultStartingPot / 2).toFixed(3), tone: theme.info },
         { label: qsTr("Exploitability"), value: controller.resultExploitability.toFixed(4), tone: theme.gold }
     ]
-    /// Whether all has room side by side: the title too, and the figures of the solve in full size.
+    /// Whether all fits side by side: the title too, and the figures of the solve in full size.
     readonly property bool _roomy: width >= title.implicitWidth + _fullBoardWidth + turn.implicitWidth
                                    + playButton.implicitWidth + 3 * _figureWidth + 9 * theme.spaceMd
     readonly property int _figureWidth: 140
@@ -49,8 +49,6 @@ RowLayout {
     }
 
     BoardDisplay {
-        theme: root.theme
-        type: root.type
         boardText: root.play.playMode && root.play.playBoardText ? root.play.playBoardText : root.walk.treeBoardText
         compact: true
     }
@@ -89,8 +87,6 @@ RowLayout {
         id: playButton
 
         Layout.preferredWidth: Math.max(140, implicitWidth)
-        theme: root.theme
-        type: root.type
         text: root.play.playMode ? qsTr("Range view") : qsTr("Play vs solution")
         leftPadding: root.theme.spaceSm
         rightPadding: root.theme.spaceSm
@@ -110,8 +106,6 @@ RowLayout {
                 required property int index
 
                 Layout.preferredWidth: root._roomy ? root._figureWidth : root._lineWidth
-                theme: root.theme
-                type: root.type
                 compact: true
                 inline: !root._roomy
                 label: root._figures[index].label

@@ -8,8 +8,7 @@ import Velmora
 FocusScope {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
     required property var controller
     required property SolveFollower follower
     /// Whether Setup shows another spot than that of the result.
@@ -69,7 +68,6 @@ FocusScope {
         id: view_
 
         controller: root.controller
-        theme: root.theme
         walk: walk_
         locks: locks_
         paused: play_.playMode
@@ -106,8 +104,6 @@ FocusScope {
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.margins: root.theme.spaceLg
-        theme: root.theme
-        type: root.type
         controller: root.controller
         follower: root.follower
         setupDiffers: root.setupDiffers
@@ -123,14 +119,11 @@ FocusScope {
         anchors.topMargin: root.theme.spaceLg + (notices.visible ? notices.height + root.theme.spaceSm : 0)
 
         handle: SplitHandle {
-            theme: root.theme
         }
 
         GameTreePanel {
             SplitView.preferredWidth: Math.max(SplitView.minimumWidth, Math.min(320, 0.24 * root.width))
             SplitView.minimumWidth: 240
-            theme: root.theme
-            type: root.type
             walk: walk_
             // A decision that is asked about keeps what the solution does there to itself.
             frequenciesShown: !play_.playMode || play_.playHandComplete
@@ -139,8 +132,6 @@ FocusScope {
         StrategyPanel {
             SplitView.fillWidth: true
             SplitView.minimumWidth: minimumWidth
-            theme: root.theme
-            type: root.type
             controller: root.controller
             walk: walk_
             view: view_

@@ -5,7 +5,7 @@ import Velmora
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
 
     implicitWidth: 8
 

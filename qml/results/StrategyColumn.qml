@@ -5,13 +5,13 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Velmora
 
-/// The strategy grid with its legend, and the node's figures. Where there is little room the figures by
+/// The strategy grid with its legend, and the node's figures. Where space is short the figures by
 /// action beside it are legend enough.
 ColumnLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property TreeWalk walk
     required property NodeView view
     required property NodeLocks locks
@@ -39,7 +39,6 @@ ColumnLayout {
     HandMatrix {
         id: grid
 
-        theme: root.theme
         label: qsTr("Strategy by Hand")
         weightDisplayMode: "verticalFill"
         selectable: true
@@ -58,8 +57,6 @@ ColumnLayout {
         BusyLabel {
             anchors.centerIn: parent
             visible: root.view.waiting
-            theme: root.theme
-            type: root.type
         }
     }
 
@@ -107,16 +104,12 @@ ColumnLayout {
         NodeBox {
             Layout.fillWidth: true
             Layout.minimumWidth: 180
-            theme: root.theme
-            type: root.type
             meta: root.walk.currentMeta
             compact: root.compact
         }
 
         LockModeButtons {
             Layout.fillWidth: false
-            theme: root.theme
-            type: root.type
             locks: root.locks
         }
     }

@@ -6,7 +6,6 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
     required property var controller
     required property TreeWalk walk
     required property NodeView view
@@ -24,8 +23,6 @@ Card {
         id: page
 
         anchors.fill: parent
-        theme: root.theme
-        type: root.type
         margins: root.theme.spaceSm
         fillsHeight: true
         spacing: root.theme.spaceMd
@@ -36,8 +33,6 @@ Card {
 
             Layout.fillWidth: true
             Layout.minimumWidth: 0
-            theme: root.theme
-            type: root.type
             controller: root.controller
             walk: root.walk
             play: root.play
@@ -49,8 +44,6 @@ Card {
             Layout.fillWidth: true
             Layout.fillHeight: true
             visible: root.play.playMode
-            theme: root.theme
-            type: root.type
             walk: root.walk
             play: root.play
             roomHeight: root._roomHeight
@@ -62,8 +55,6 @@ Card {
             Layout.fillWidth: true
             Layout.fillHeight: true
             visible: !root.play.playMode
-            theme: root.theme
-            type: root.type
             controller: root.controller
             walk: root.walk
             view: root.view

@@ -4,13 +4,12 @@ import Velmora
 
 /// The views of a node: the figures by action, the grid, the categories, the combos and the lock panel.
 ///
-/// Where there is room, the figures stand above three columns. Where there is little, they stand beside
-/// the grid, and categories and combos share the place under them. The grid grows with the room.
+/// Where there is space, the figures stand above three columns. Where there is little, they stand beside
+/// the grid, and categories and combos share the place under them. The grid grows with the space.
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
     required property var controller
     required property TreeWalk walk
     required property NodeView view
@@ -66,8 +65,6 @@ Item {
 
         x: root.compact ? lists.x : 0
         width: root.width - x
-        theme: root.theme
-        type: root.type
         compact: root.compact
         actions: root.view.actionFrequenciesActions
     }
@@ -77,8 +74,6 @@ Item {
 
         y: root._top
         width: implicitWidth
-        theme: root.theme
-        type: root.type
         compact: root.compact
         cellSize: root._cellSize
         walk: root.walk
@@ -94,8 +89,6 @@ Item {
                              : column.y + column.height + root.theme.spaceSm
         width: root._panelBeside ? lists.width : column.width
         visible: root.locks.nodeLockMode
-        theme: root.theme
-        type: root.type
         controller: root.controller
         locks: root.locks
         node: root.view.node
@@ -116,8 +109,6 @@ Item {
         TabStrip {
             Layout.fillWidth: true
             visible: root.tabbed
-            theme: root.theme
-            type: root.type
             labels: [qsTr("Buckets"), qsTr("Hand Details")]
             currentIndex: root.combosShown ? 1 : 0
             onChosen: index => root.combosShown = index === 1
@@ -135,8 +126,6 @@ Item {
                 Layout.maximumWidth: root.tabbed ? root.width : 400
                 Layout.minimumWidth: root.tabbed ? 0 : root._listWidth
                 visible: !root.tabbed || !root.combosShown
-                theme: root.theme
-                type: root.type
                 view: root.view
             }
 
@@ -146,8 +135,6 @@ Item {
                 Layout.preferredWidth: 300
                 Layout.minimumWidth: root.tabbed ? 0 : root._listWidth
                 visible: !root.tabbed || root.combosShown
-                theme: root.theme
-                type: root.type
                 view: root.view
             }
         }

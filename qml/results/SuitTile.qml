@@ -7,8 +7,8 @@ import "../components/card_names.js" as CardNames
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property string suit
 
     implicitWidth: 22

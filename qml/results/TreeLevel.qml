@@ -9,8 +9,8 @@ import Velmora
 Column {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property TreeWalk walk
     required property int index
     required property int nodeIndex
@@ -83,7 +83,6 @@ Column {
 
             width: root.width
             visible: !root.decided || index === root.selectedActionIndex
-            theme: root.theme
             nodeType: root.meta.nodeType
             player: root.meta.player
             action: info.name
@@ -113,7 +112,6 @@ Column {
 
             TreeNode {
                 width: root.width
-                theme: root.theme
                 nodeType: "chance"
                 player: qsTr("Deal %1").arg(root.meta.chanceDeal === "river" ? qsTr("River") : qsTr("Turn"))
                 action: root.decided ? root.walk.chosenNameAt(root.index) : ""

@@ -23,8 +23,6 @@ BaseButton {
     AppToolTip {
         id: tip
 
-        theme: root.theme
-        type: root.type
         visible: root.hovered
         text: qsTr("%1 (%2)").arg(root.label).arg(root.swatchColor)
     }

@@ -17,13 +17,10 @@ SettingsCard {
     iconName: "palette"
 
     ExplainedSetting {
-        theme: root.theme
-        type: root.type
         title: qsTr("Dark Mode")
         note: qsTr("Use dark color scheme throughout the interface")
 
         BoundSwitch {
-            theme: root.theme
             value: root.theme.dark
             text: qsTr("Dark Mode")
             onSwitched: on => root.theme.dark = on
@@ -31,15 +28,11 @@ SettingsCard {
     }
 
     ExplainedSetting {
-        theme: root.theme
-        type: root.type
         title: qsTr("Language")
         note: qsTr("Change the app language (takes effect immediately)")
 
         ChoiceBox {
             width: 200
-            theme: root.theme
-            type: root.type
             label: qsTr("Language")
             model: [qsTr("System default"), ...Languages.OWN_NAMES]
             choice: Languages.indexOf(root.language)
@@ -48,8 +41,6 @@ SettingsCard {
     }
 
     ExplainedSetting {
-        theme: root.theme
-        type: root.type
         title: qsTr("Accent Color")
         note: qsTr("Customize the app highlight color (buttons, accents, clubs/check).")
 
@@ -67,8 +58,6 @@ SettingsCard {
                 required property var modelData
 
                 anchors.verticalCenter: parent?.verticalCenter
-                theme: root.theme
-                type: root.type
                 label: modelData.label
                 swatchColor: modelData.color
                 onClicked: root.accentChosen(modelData.color)
@@ -78,7 +67,6 @@ SettingsCard {
         SecondaryButton {
             width: Math.max(90, implicitWidth)
             height: 32
-            theme: root.theme
             text: qsTr("Reset")
             enabled: root.theme.useAccentOverride
             onClicked: root.accentChosen("")

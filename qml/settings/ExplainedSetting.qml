@@ -7,8 +7,8 @@ import Velmora
 RowLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property string title
     property string note
     default property alias controls: controls_.data

@@ -49,8 +49,6 @@ SettingsCard {
             }
 
             Chip {
-                theme: root.theme
-                type: root.type
                 text: row.license
                 tint: root.theme.withOpacity(root.theme.info, 0.15)
                 stroke: root.theme.info
@@ -88,14 +86,12 @@ SettingsCard {
         spacing: root.theme.spaceMd
 
         SecondaryButton {
-            theme: root.theme
             text: qsTr("Open licenses folder")
             iconName: "folder-open"
             onClicked: root.controller.openLicensesFolder()
         }
 
         SecondaryButton {
-            theme: root.theme
             text: qsTr("Open notices")
             iconName: "file-text"
             onClicked: root.controller.openThirdPartyNotices()

@@ -6,7 +6,7 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     property string title
     property string iconName
     default property alias rows: rows_.data
@@ -28,8 +28,6 @@ Card {
             }
 
             CardTitle {
-                theme: root.theme
-                type: root.type
                 text: root.title
             }
         }

@@ -40,27 +40,20 @@ ScrollPage {
         spacing: root.theme.spaceXl
 
         SectionHeader {
-            theme: root.theme
             title: qsTr("Settings")
         }
 
         AppearanceCard {
-            theme: root.theme
-            type: root.type
             language: root.languageManager.currentLanguage
             onLanguageChosen: code => root.languageManager.setLanguage(code)
             onAccentChosen: text => root.applyAccentHex(text)
         }
 
         LicensesCard {
-            theme: root.theme
-            type: root.type
             controller: root.controller
         }
 
         UpdatesCard {
-            theme: root.theme
-            type: root.type
             updates: root.updates
         }
 
@@ -69,13 +62,11 @@ ScrollPage {
             spacing: root.theme.spaceMd
 
             SecondaryButton {
-                theme: root.theme
                 text: qsTr("Reset to Defaults")
                 onClicked: root.resetToDefaults()
             }
 
             PrimaryButton {
-                theme: root.theme
                 text: qsTr("Save Settings")
                 iconName: "save"
                 onClicked: root.saveSettings()

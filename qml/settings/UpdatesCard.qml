@@ -62,14 +62,12 @@ SettingsCard {
         spacing: root.theme.spaceMd
 
         SecondaryButton {
-            theme: root.theme
             text: root.updates.busy ? qsTr("Checking...") : qsTr("Check for updates")
             enabled: !root.updates.busy
             onClicked: root.updates.checkNow()
         }
 
         PrimaryButton {
-            theme: root.theme
             text: qsTr("Download update")
             enabled: root.updates.updateAvailable
             onClicked: root.updates.openDownloadUrl()

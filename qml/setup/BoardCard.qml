@@ -8,7 +8,7 @@ import "../components/board_text.js" as BoardText
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     required property string boardText
     property int editingCardIndex: -1
     property string fault: ""  ///< What is wrong with the board, or "".
@@ -28,16 +28,12 @@ Card {
         spacing: root.theme.spaceMd
 
         CardTitle {
-            theme: root.theme
-            type: root.type
             text: qsTr("Board")
         }
 
         BoardDisplay {
             id: board
 
-            theme: root.theme
-            type: root.type
             boardText: root.boardText
             editable: true
             cardScale: 1.25
@@ -66,8 +62,6 @@ Card {
     CardPickerDialog {
         id: picker
 
-        theme: root.theme
-        type: root.type
         slot: root.editingCardIndex
         usedCards: BoardText.usedCards(root.boardText)
         onCardChosen: card => root.setBoardCardAt(root.editingCardIndex, card)

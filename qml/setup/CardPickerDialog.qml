@@ -40,8 +40,6 @@ AppDialog {
         CardPicker {
             id: picker
 
-            theme: root.theme
-            type: root.type
             focus: true
             onCardSelected: card => {
                 root.cardChosen(card)
@@ -52,7 +50,6 @@ AppDialog {
 
     footerButtons: [
         SecondaryButton {
-            theme: root.theme
             text: qsTr("Clear card")
             onClicked: {
                 root.cardCleared()
@@ -60,7 +57,6 @@ AppDialog {
             }
         },
         SecondaryButton {
-            theme: root.theme
             text: qsTr("Cancel")
             onClicked: root.close()
         }

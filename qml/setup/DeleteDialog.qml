@@ -50,13 +50,11 @@ AppDialog {
 
     footerButtons: [
         SecondaryButton {
-            theme: root.theme
             text: qsTr("Cancel")
             focus: true
             onClicked: root.close()
         },
         SecondaryButton {
-            theme: root.theme
             text: root.acceptText
             danger: true
             onClicked: {

@@ -9,7 +9,7 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     required property ProjectState project
     readonly property real gameSettingsInputColumnWidth: 60
 
@@ -48,8 +48,6 @@ Card {
             id: field
 
             Layout.preferredWidth: root.gameSettingsInputColumnWidth
-            theme: root.theme
-            type: root.type
             label: setting.text
             spotKey: setting.spotKey
             number: root.project[setting.key]
@@ -68,8 +66,6 @@ Card {
 
         CardTitle {
             Layout.bottomMargin: root.theme.spaceXs
-            theme: root.theme
-            type: root.type
             text: qsTr("Game Settings")
         }
 
@@ -131,8 +127,6 @@ Card {
                     required property int index
                     readonly property real target: root._targets[index]
 
-                    theme: root.theme
-                    type: root.type
                     text: qsTr("%1%").arg(target)
                     Accessible.name: qsTr("Target Exploitability (%)") + " " + text
                     onClicked: root.choose(target)

@@ -81,7 +81,6 @@ AppDialog {
                 onModelChanged: currentIndex = -1
 
                 ScrollBar.vertical: AppScrollBar {
-                    theme: root.theme
                 }
 
                 delegate: ChoiceRow {
@@ -89,8 +88,6 @@ AppDialog {
                     required property var modelData
 
                     width: list.width
-                    theme: root.theme
-                    type: root.type
                     text: modelData.name
                     selected: modelData.id === root._selectedId
                     onChosen: list.currentIndex = index
@@ -112,8 +109,6 @@ AppDialog {
     DeleteDialog {
         id: deleteDialog
 
-        theme: root.theme
-        type: root.type
         title: qsTr("Delete settings profile")
         question: qsTr("Are you sure you want to delete this saved profile?")
         name: root.store.find(root._selectedId)?.name ?? ""
@@ -122,19 +117,16 @@ AppDialog {
 
     footerButtons: [
         SecondaryButton {
-            theme: root.theme
             text: qsTr("Delete")
             danger: enabled
             enabled: root._selectedId !== ""
             onClicked: deleteDialog.open()
         },
         SecondaryButton {
-            theme: root.theme
             text: qsTr("Cancel")
             onClicked: root.close()
         },
         PrimaryButton {
-            theme: root.theme
             text: qsTr("Load")
             enabled: root._selectedId !== ""
             onClicked: root._load()

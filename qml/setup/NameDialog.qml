@@ -28,7 +28,7 @@ AppDialog {
         open()
     }
 
-    /// Closes, or tells why the name is not taken.
+    /// Closes, or says why the name is not taken.
     function finish(error: string) {
         _nameFault = error
         if (error === "")
@@ -52,8 +52,6 @@ AppDialog {
             id: field
 
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             label: root.prompt
             placeholderText: root.placeholder
             focus: true
@@ -73,12 +71,10 @@ AppDialog {
 
     footerButtons: [
         SecondaryButton {
-            theme: root.theme
             text: qsTr("Cancel")
             onClicked: root.close()
         },
         PrimaryButton {
-            theme: root.theme
             text: root.acceptText
             enabled: root.canAccept
             onClicked: root.nameChosen(field.text.trim())

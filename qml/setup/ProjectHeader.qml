@@ -8,8 +8,8 @@ import Velmora
 RowLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property var controller
     required property ProjectState project
     required property bool canSolve
@@ -29,7 +29,6 @@ RowLayout {
     SectionHeader {
         Layout.fillWidth: true
         Layout.minimumWidth: implicitWidth
-        theme: root.theme
         title: qsTr("Project Setup")
         badge: root.project.faults.ready ? qsTr("Ready") : qsTr("Setup Required")
         badgeColor: root.project.faults.ready ? root.theme.success : root.theme.warn
@@ -60,7 +59,6 @@ RowLayout {
             }
 
             AppToolTip {
-                theme: root.theme
                 visible: hover.hovered && reason.truncated
                 text: reason.text
             }
@@ -93,14 +91,11 @@ RowLayout {
         SmallButton {
             id: undoButton
 
-            theme: root.theme
-            type: root.type
             text: qsTr("Undo")
             enabled: root.project.canUndo
             onClicked: root.project.undo()
 
             AppToolTip {
-                theme: root.theme
                 visible: undoButton.hovered
                 text: qsTr("Take back the last change (Ctrl+Z)")
             }
@@ -109,14 +104,11 @@ RowLayout {
         SmallButton {
             id: redoButton
 
-            theme: root.theme
-            type: root.type
             text: qsTr("Redo")
             enabled: root.project.canRedo
             onClicked: root.project.redo()
 
             AppToolTip {
-                theme: root.theme
                 visible: redoButton.hovered
                 text: qsTr("Bring back what was undone (Ctrl+Shift+Z)")
             }
@@ -124,7 +116,6 @@ RowLayout {
     }
 
     PrimaryButton {
-        theme: root.theme
         text: qsTr("Continue to Solve →")
         onClicked: {
             if (root.canSolve)

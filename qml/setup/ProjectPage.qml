@@ -54,8 +54,6 @@ ScrollPage {
         // The way on is in sight wherever the page is too wide for the window.
         Layout.fillWidth: true
         Layout.maximumWidth: root.viewWidth
-        theme: root.theme
-        type: root.type
         controller: root.controller
         project: root.project
         canSolve: root.canSolve
@@ -79,8 +77,6 @@ ScrollPage {
 
                 Layout.fillWidth: true
                 Layout.fillHeight: true
-                theme: root.theme
-                type: root.type
                 boardText: root.project.boardText
                 fault: root.project.faultAt("board")
                 onBoardEdited: text => root.project.edit("", "boardText", text)
@@ -88,8 +84,6 @@ ScrollPage {
 
             SettingsProfilesCard {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 project: root.project
                 onProfileLoaded: root.controller.abandonRun()
             }
@@ -99,8 +93,6 @@ ScrollPage {
             id: gameSettings
 
             Layout.fillHeight: true
-            theme: root.theme
-            type: root.type
             project: root.project
         }
 
@@ -109,8 +101,6 @@ ScrollPage {
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            theme: root.theme
-            type: root.type
             project: root.project
             seat: "oop"
         }
@@ -120,8 +110,6 @@ ScrollPage {
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            theme: root.theme
-            type: root.type
             project: root.project
             seat: "ip"
         }
@@ -142,8 +130,6 @@ ScrollPage {
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             Layout.minimumWidth: implicitWidth
-            theme: root.theme
-            type: root.type
             project: root.project
             libraries: libraries
             developerMode: root.controller.developerMode
@@ -158,8 +144,6 @@ ScrollPage {
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             Layout.minimumWidth: implicitWidth
-            theme: root.theme
-            type: root.type
             project: root.project
             libraries: libraries
             developerMode: root.controller.developerMode
@@ -178,8 +162,6 @@ ScrollPage {
     ImportRange {
         id: importer
 
-        theme: root.theme
-        type: root.type
         controller: root.controller
         libraries: libraries
     }

@@ -8,7 +8,7 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     required property ProjectState project
     required property RangeLibraries libraries
     required property string seat  ///< "oop" or "ip"
@@ -82,8 +82,6 @@ Card {
 
             CardTitle {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 text: root.seat === "oop" ? qsTr("OOP Range") : qsTr("IP Range")
             }
 
@@ -95,8 +93,6 @@ Card {
             }
 
             SmallButton {
-                theme: root.theme
-                type: root.type
                 text: qsTr("Clear")
                 enabled: root.rangeText !== ""
                 onClicked: root.setRangeText("")
@@ -110,8 +106,6 @@ Card {
             Layout.fillWidth: true
             Layout.fillHeight: true
             Layout.minimumWidth: 180
-            theme: root.theme
-            type: root.type
             libraries: root.libraries
             library: root._library
             rangeText: root.rangeText
@@ -122,7 +116,6 @@ Card {
         HandMatrix {
             id: matrix
 
-            theme: root.theme
             label: root.seat === "oop" ? qsTr("OOP Range") : qsTr("IP Range")
             cellSize: Math.max(root._smallestCell, Math.min(root._largestCell, root._cellByWidth, root._cellByHeight))
             editable: true
@@ -145,8 +138,6 @@ Card {
 
             NumberField {
                 Layout.preferredWidth: 70
-                theme: root.theme
-                type: root.type
                 label: qsTr("Weight")
                 placeholderText: "100"
                 decimals: 3
@@ -165,8 +156,6 @@ Card {
 
             RangeTextField {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 label: root.seat === "oop" ? qsTr("OOP Range") : qsTr("IP Range")
                 rangeText: root.rangeText
                 spotKey: root.seat + "_range"

@@ -8,7 +8,6 @@ import "settings_profiles.js" as SettingsProfiles
 Card {
     id: root
 
-    property Typography type: Fallback.type
     required property ProjectState project
 
     /// A profile replaced the settings.
@@ -40,7 +39,6 @@ Card {
 
         SecondaryButton {
             Layout.fillWidth: true
-            theme: root.theme
             text: qsTr("Load settings")
             iconName: "folder-open"
             onClicked: loadDialog.open()
@@ -48,7 +46,6 @@ Card {
 
         SecondaryButton {
             Layout.fillWidth: true
-            theme: root.theme
             text: qsTr("Save settings")
             iconName: "save"
             onClicked: saveDialog.ask()
@@ -62,8 +59,6 @@ Card {
     NameDialog {
         id: saveDialog
 
-        theme: root.theme
-        type: root.type
         title: qsTr("Save Settings Profile")
         prompt: qsTr("Profile name:")
         placeholder: qsTr("e.g., 100bb rake-free (fast)")
@@ -74,8 +69,6 @@ Card {
     LoadProfileDialog {
         id: loadDialog
 
-        theme: root.theme
-        type: root.type
         store: store
         onProfileChosen: data => {
             root.applySettingsSnapshot(data)

@@ -8,8 +8,6 @@ import "../shell/project_keys.js" as ProjectKeys
 Repeater {
     id: root
 
-    required property Theme theme
-    required property Typography type
     required property ProjectState project
     required property string seat  ///< "oop" or "ip"
     required property string seatName
@@ -31,8 +29,6 @@ Repeater {
             id: field
 
             anchors.fill: parent
-            theme: root.theme
-            type: root.type
             mono: true
             label: root.seatName + " " + root.streetTitles[cell.index] + " " + root.title
             placeholderText: root.placeholder

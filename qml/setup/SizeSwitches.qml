@@ -8,7 +8,6 @@ import "../shell/project_keys.js" as ProjectKeys
 Repeater {
     id: root
 
-    required property Theme theme
     required property ProjectState project
     required property string seat  ///< "oop" or "ip"
     required property string seatName
@@ -28,7 +27,6 @@ Repeater {
             id: toggle
 
             anchors.centerIn: parent
-            theme: root.theme
             value: root.project[cell.key]
             text: root.seatName + " " + root.streetTitles[cell.index] + " " + root.title
             onSwitched: on => root.project.edit("", cell.key, on)

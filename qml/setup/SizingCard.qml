@@ -10,7 +10,7 @@ import "../shell/project_keys.js" as ProjectKeys
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     required property ProjectState project
     required property string seat  ///< "oop" or "ip"
 
@@ -39,8 +39,6 @@ Card {
 
             CardTitle {
                 Layout.bottomMargin: root.theme.spaceXs
-                theme: root.theme
-                type: root.type
                 text: root.seat === "oop" ? qsTr("OOP Sizing") : qsTr("IP Sizing")
             }
 
@@ -73,8 +71,6 @@ Card {
             SizeFields {
                 model: ProjectKeys.streets.length
                 streetTitles: root.streetTitles
-                theme: root.theme
-                type: root.type
                 project: root.project
                 seat: root.seat
                 seatName: root.seatName
@@ -90,8 +86,6 @@ Card {
             SizeFields {
                 model: ProjectKeys.streets.length
                 streetTitles: root.streetTitles
-                theme: root.theme
-                type: root.type
                 project: root.project
                 seat: root.seat
                 seatName: root.seatName
@@ -107,7 +101,6 @@ Card {
             SizeSwitches {
                 model: ProjectKeys.streets.length
                 streetTitles: root.streetTitles
-                theme: root.theme
                 project: root.project
                 seat: root.seat
                 seatName: root.seatName
@@ -123,7 +116,6 @@ Card {
             SizeSwitches {
                 model: root.seat === "oop" ? ProjectKeys.streets.length : 0
                 streetTitles: root.streetTitles
-                theme: root.theme
                 project: root.project
                 seat: root.seat
                 seatName: root.seatName
@@ -138,7 +130,6 @@ Card {
             spacing: root.theme.spaceSm
 
             BoundSwitch {
-                theme: root.theme
                 value: root._jamEnabled
                 text: root.seatName + " " + jamLabel.text
                 onSwitched: on => root.project.edit("", root.seat + "AddAllInIfJamLtEnabled", on)
@@ -156,8 +147,6 @@ Card {
 
             NumberField {
                 Layout.preferredWidth: 72
-                theme: root.theme
-                type: root.type
                 enabled: root._jamEnabled
                 label: root.seatName + " " + jamLabel.text
                 placeholderText: qsTr("e.g. 30")

@@ -18,8 +18,8 @@ Item {
     readonly property var translator: languageManager
     readonly property var updateService: updates
     // qmllint enable unqualified
-    readonly property Theme theme: theme_
-    readonly property Typography type: type_
+    readonly property Theme theme: Style.theme
+    readonly property Typography type: Style.type
     readonly property ProjectState project: project_
     property int navIndex: 0
     property bool hasProject: false
@@ -242,8 +242,8 @@ Item {
     }
 
     function loadTheme() {
-        theme_.dark = themeSettings.darkMode
-        theme_.applyAccentHex(themeSettings.accentHex)
+        theme.dark = themeSettings.darkMode
+        theme.applyAccentHex(themeSettings.accentHex)
     }
 
     function _reset(preset: var, withProject: bool) {
@@ -318,8 +318,6 @@ Item {
         id: files
 
         visible: false
-        theme: theme_
-        type: type_
         controller: shell.controller
         project: project_
         suggestedName: project_.boardText.replace(/_/g, "") === "" ? ""
@@ -339,9 +337,6 @@ Item {
 
     QuestionDialog {
         id: question
-
-        theme: theme_
-        type: type_
     }
 
     onNavIndexChanged: _endDrawingAhead()
@@ -357,15 +352,16 @@ Item {
         }
     }
 
-    Theme {
-        id: theme_
-
-        uiFamily: FontFamilies.firstInstalled(fontFamily, Qt.fontFamilies(), systemText.font.family)
-        monoFamily: FontFamilies.firstInstalled(fontMono, Qt.fontFamilies(), "monospace")
+    Binding {
+        target: shell.theme
+        property: "uiFamily"
+        value: FontFamilies.firstInstalled(shell.theme.fontFamily, Qt.fontFamilies(), systemText.font.family)
     }
 
-    Typography {
-        id: type_
+    Binding {
+        target: shell.theme
+        property: "monoFamily"
+        value: FontFamilies.firstInstalled(shell.theme.fontMono, Qt.fontFamilies(), "monospace")
     }
 
     TextMetrics {
@@ -424,11 +420,11 @@ Item {
         gradient: Gradient {
             GradientStop {
                 position: 0
-                color: Qt.tint(theme_.bg0, theme_.withOpacity(theme_.accent, 0.02))
+                color: Qt.tint(shell.theme.bg0, shell.theme.withOpacity(shell.theme.accent, 0.02))
             }
             GradientStop {
                 position: 1
-                color: theme_.bg0
+                color: shell.theme.bg0
             }
         }
     }
@@ -439,8 +435,6 @@ Item {
 
         TopBar {
             Layout.fillWidth: true
-            theme: theme_
-            type: type_
             controller: shell.controller
             canSolve: shell.canSolve
             solveRefusal: shell.solveRefusal
@@ -459,8 +453,6 @@ Item {
             currentIndex: shell.navIndex
 
             HomePage {
-                theme: theme_
-                type: type_
                 controller: shell.controller
                 filesBusy: files.busy
                 onNewProject: shell.newSolve()
@@ -478,8 +470,6 @@ Item {
             ProjectPage {
                 id: projectPage
 
-                theme: theme_
-                type: type_
                 controller: shell.controller
                 project: project_
                 canSolve: shell.canSolve
@@ -492,8 +482,6 @@ Item {
             }
 
             SolvePage {
-                theme: theme_
-                type: type_
                 controller: shell.controller
                 project: project_
                 canSolve: shell.canSolve
@@ -503,8 +491,6 @@ Item {
             }
 
             ResultsPage {
-                theme: theme_
-                type: type_
                 controller: shell.controller
                 follower: solveFollower
                 setupDiffers: shell._setupDiffers
@@ -513,8 +499,6 @@ Item {
             }
 
             SettingsPage {
-                theme: theme_
-                type: type_
                 controller: shell.controller
                 languageManager: shell.translator
                 updates: shell.updateService
@@ -533,13 +517,11 @@ Item {
 
         anchors.bottom: parent.bottom
         anchors.horizontalCenter: parent.horizontalCenter
-        anchors.bottomMargin: theme_.spaceXl
-        width: Math.min(480, parent.width - 2 * theme_.spaceXl)
+        anchors.bottomMargin: shell.theme.spaceXl
+        width: Math.min(480, parent.width - 2 * shell.theme.spaceXl)
         z: 1
         visible: false
-        theme: theme_
-        type: type_
-        accentColor: theme_.success
+        accentColor: shell.theme.success
 
         Timer {
             id: fade
@@ -553,11 +535,9 @@ Item {
         id: refusalNote
 
         parent: pages
-        y: pages.height - height - theme_.spaceXl
+        y: pages.height - height - shell.theme.spaceXl
         delay: 0
-        accentColor: theme_.warn
-        theme: theme_
-        type: type_
+        accentColor: shell.theme.warn
     }
 
     Shortcut {

@@ -4,13 +4,13 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Velmora
 
-/// One tab of the top bar. A disabled one still tells by a tooltip what would enable it, so it is
+/// One tab of the top bar. A disabled one still says by a tooltip what would enable it, so it is
 /// an item around its button: a disabled control gets no hover.
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property alias text: button.text
     property string iconName: ""
     property bool current: false
@@ -49,7 +49,6 @@ Item {
             border.color: root.theme.stroke
 
             FocusRing {
-                theme: root.theme
                 radius: parent.radius
                 active: button.visualFocus
             }
@@ -59,7 +58,6 @@ Item {
             spacing: root.theme.spaceSm
 
             Icon {
-                theme: root.theme
                 name: root.iconName
                 size: 16
                 color: root.current ? root.theme.accent : root.theme.textMuted
@@ -79,7 +77,6 @@ Item {
     }
 
     AppToolTip {
-        theme: root.theme
         visible: hover.hovered && !button.enabled && root.disabledReason !== ""
         text: root.disabledReason
     }

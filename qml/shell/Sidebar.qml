@@ -7,8 +7,8 @@ import Velmora
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property int currentIndex: 0
 
     signal navigate(index: int)
@@ -73,8 +73,6 @@ Rectangle {
 
         SidebarRow {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             current: root.currentIndex === 0
             iconName: "home"
             text: qsTr("Home")
@@ -84,8 +82,6 @@ Rectangle {
 
         SidebarRow {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             current: root.currentIndex === 1
             iconName: "clipboard"
             text: qsTr("Setup")
@@ -95,8 +91,6 @@ Rectangle {
 
         SidebarRow {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             current: root.currentIndex === 2
             iconName: "bolt"
             text: qsTr("Solve")
@@ -106,8 +100,6 @@ Rectangle {
 
         SidebarRow {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             current: root.currentIndex === 3
             iconName: "chart"
             text: qsTr("Results")
@@ -117,8 +109,6 @@ Rectangle {
 
         SidebarRow {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             current: root.currentIndex === 4
             iconName: "gear"
             text: qsTr("Settings")

@@ -8,8 +8,8 @@ import Velmora
 T.AbstractButton {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property string iconName: ""
     property string subtitle: ""
     property bool current: false
@@ -41,7 +41,6 @@ T.AbstractButton {
 
         Icon {
             Layout.leftMargin: root.theme.spaceMd
-            theme: root.theme
             name: root.iconName
             size: 18
             color: root.current ? root.theme.accent : root.theme.textMuted
@@ -70,7 +69,6 @@ T.AbstractButton {
     }
 
     FocusRing {
-        theme: root.theme
         radius: root.theme.radiusSm + 3
         active: root.visualFocus
     }

@@ -35,7 +35,7 @@ QtObject {
         : (runComplete ? 1 : 0)
     readonly property int percentage: Math.round(progressWheelValue * 100)
 
-    /// Chips, or undefined while there is none: what a run tells before its first measure is no value.
+    /// Chips, or undefined while there is none: what a run reports before its first measure is no value.
     readonly property var currentExploitabilityValue: {
         if (running)
             return currentIteration > SolveStatus.firstMeasure

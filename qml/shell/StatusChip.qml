@@ -2,12 +2,12 @@ import QtQuick
 import QtQuick.Controls
 import Velmora
 
-/// The pill that tells at every page whether a solve runs, how far it is, or whether one may start.
+/// The pill that shows on every page whether a solve runs, how far it is, or whether one may start.
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property bool running: false
     property bool isFinalizing: false
     property bool canSolve: false

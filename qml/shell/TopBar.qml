@@ -8,8 +8,8 @@ import "pages.js" as Pages
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property var controller
     required property bool canSolve
     /// Why no solve can start, and which fields are still empty.
@@ -65,8 +65,6 @@ Rectangle {
         }
 
         NavTab {
-            theme: root.theme
-            type: root.type
             text: qsTr("Home")
             iconName: "home"
             current: root.currentPage === Pages.home
@@ -75,8 +73,6 @@ Rectangle {
         }
 
         NavTab {
-            theme: root.theme
-            type: root.type
             text: qsTr("Setup")
             iconName: "clipboard"
             current: root.currentPage === Pages.setup
@@ -87,8 +83,6 @@ Rectangle {
         }
 
         NavTab {
-            theme: root.theme
-            type: root.type
             text: qsTr("Solve")
             iconName: "bolt"
             current: root.currentPage === Pages.solve
@@ -98,8 +92,6 @@ Rectangle {
         }
 
         NavTab {
-            theme: root.theme
-            type: root.type
             text: qsTr("Results")
             iconName: "chart"
             current: root.currentPage === Pages.results
@@ -117,8 +109,6 @@ Rectangle {
         }
 
         NavTab {
-            theme: root.theme
-            type: root.type
             text: qsTr("Settings")
             iconName: "gear"
             current: root.currentPage === Pages.settings
@@ -131,8 +121,6 @@ Rectangle {
         }
 
         StatusChip {
-            theme: root.theme
-            type: root.type
             running: root.follower.running
             isFinalizing: root.follower.isFinalizing
             canSolve: root.canSolve

@@ -8,7 +8,7 @@ import "solve_status.js" as SolveStatus
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     required property ProjectState project
     required property int systemThreadCount
 
@@ -39,8 +39,6 @@ Card {
         spacing: root.theme.spaceMd
 
         CardTitle {
-            theme: root.theme
-            type: root.type
             text: qsTr("Compute")
         }
 
@@ -59,8 +57,6 @@ Card {
 
             ChoiceBox {
                 Layout.preferredWidth: 160
-                theme: root.theme
-                type: root.type
                 label: qsTr("Threads")
                 // "Max" is a key; what is shown for it is translated.
                 model: root._threadChoiceModel.map(choice => choice === "Max" ? qsTr("Max") : choice)
@@ -80,8 +76,6 @@ Card {
                 id: precisionBox
 
                 Layout.preferredWidth: 160
-                theme: root.theme
-                type: root.type
                 label: qsTr("Precision")
                 model: ["Float32", "Float64"]
                 Accessible.description: precisionTip.text
@@ -89,8 +83,6 @@ Card {
                 AppToolTip {
                     id: precisionTip
 
-                    theme: root.theme
-                    type: root.type
                     visible: precisionBox.hovered && !precisionBox.popup.visible
                     text: qsTr("The solver computes in Float32, whatever is chosen here.")
                 }

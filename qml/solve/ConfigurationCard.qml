@@ -8,7 +8,7 @@ import "../components/number_text.js" as NumberText
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     required property ProjectState project
     required property bool running
     required property bool canSolve
@@ -49,14 +49,10 @@ Card {
         spacing: root.theme.spaceMd
 
         CardTitle {
-            theme: root.theme
-            type: root.type
             text: qsTr("Configuration")
         }
 
         BoardDisplay {
-            theme: root.theme
-            type: root.type
             boardText: root.project.boardText
             compact: true
             cardScale: 1.35
@@ -70,8 +66,6 @@ Card {
                 Layout.fillWidth: true
                 Layout.preferredWidth: 3
                 Layout.alignment: Qt.AlignTop
-                theme: root.theme
-                type: root.type
                 facts: [
                     { label: qsTr("Street"), value: root.project.startingStreet.toUpperCase() },
                     {
@@ -144,8 +138,6 @@ Card {
         }
 
         CardTitle {
-            theme: root.theme
-            type: root.type
             text: qsTr("Controls")
         }
 
@@ -154,7 +146,6 @@ Card {
             spacing: root.theme.spaceSm
 
             PrimaryButton {
-                theme: root.theme
                 text: root.running ? qsTr("Solving...") : qsTr("Start Solve")
                 iconText: "▶"
                 loading: root.running
@@ -163,7 +154,6 @@ Card {
             }
 
             SecondaryButton {
-                theme: root.theme
                 text: qsTr("Cancel")
                 iconName: "stop"
                 enabled: root.running
@@ -172,7 +162,6 @@ Card {
             }
 
             SecondaryButton {
-                theme: root.theme
                 text: qsTr("View Results →")
                 iconName: "trend-up"
                 enabled: root.runComplete

@@ -8,7 +8,7 @@ import "solve_status.js" as SolveStatus
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     required property SolveFollower follower
     required property SolveClock clock
     readonly property int iterationWindowSize: 10
@@ -38,8 +38,6 @@ Card {
         spacing: root.theme.spaceLg
 
         CardTitle {
-            theme: root.theme
-            type: root.type
             text: qsTr("Progress")
         }
 
@@ -50,7 +48,6 @@ Card {
             ProgressRing {
                 Layout.preferredWidth: 140
                 Layout.preferredHeight: 140
-                theme: root.theme
                 strokeWidth: 10
                 value: root.follower.progressWheelValue
                 indeterminate: root.follower.running && root.follower.currentIteration <= 0
@@ -120,8 +117,6 @@ Card {
         }
 
         CardTitle {
-            theme: root.theme
-            type: root.type
             text: qsTr("Metrics")
         }
 
@@ -133,7 +128,6 @@ Card {
 
             StatCard {
                 Layout.fillWidth: true
-                theme: root.theme
                 compact: true
                 label: qsTr("Elapsed")
                 value: root.clock.elapsedTime
@@ -141,7 +135,6 @@ Card {
 
             StatCard {
                 Layout.fillWidth: true
-                theme: root.theme
                 compact: true
                 label: qsTr("Remaining")
                 value: root.clock.estimatedRemaining
@@ -149,7 +142,6 @@ Card {
 
             StatCard {
                 Layout.fillWidth: true
-                theme: root.theme
                 compact: true
                 label: qsTr("Speed")
                 value: root.clock.iterationsPerSec > 0 ? root.clock.iterationsPerSec.toFixed(0) : "—"
@@ -158,7 +150,6 @@ Card {
 
             StatCard {
                 Layout.fillWidth: true
-                theme: root.theme
                 compact: true
                 accentColor: root.theme.gold
                 label: qsTr("Exploitability")

@@ -9,7 +9,7 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     required property RunHistory history
 
     ColumnLayout {
@@ -21,14 +21,10 @@ Card {
 
             CardTitle {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 text: qsTr("Recent Runs")
             }
 
             SmallButton {
-                theme: root.theme
-                type: root.type
                 text: qsTr("Clear")
                 enabled: root.history.rows.count > 0
                 onClicked: root.history.clear()
@@ -66,13 +62,10 @@ Card {
                 Accessible.name: qsTr("Recent Runs")
 
                 ScrollBar.vertical: AppScrollBar {
-                    theme: root.theme
                 }
 
                 delegate: RunRow {
                     width: list.width
-                    theme: root.theme
-                    type: root.type
                 }
             }
         }

@@ -7,8 +7,8 @@ import Velmora
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property string status  ///< As in `RunHistory`.
     required property string startedAt
     required property string summary

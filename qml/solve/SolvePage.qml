@@ -30,7 +30,6 @@ ScrollPage {
 
     SectionHeader {
         Layout.fillWidth: true
-        theme: root.theme
         title: qsTr("Solve")
         subtitle: qsTr("Run the CFR solver and monitor progress in real-time.")
         badge: root.follower.isFinalizing ? qsTr("Finalizing")
@@ -51,8 +50,6 @@ ScrollPage {
 
             ConfigurationCard {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 project: root.project
                 running: root.follower.running
                 canSolve: root.canSolve
@@ -64,8 +61,6 @@ ScrollPage {
 
             ComputeCard {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 project: root.project
                 systemThreadCount: root.controller.systemThreadCount
                 enabled: !root.follower.running
@@ -80,16 +75,12 @@ ScrollPage {
 
             ProgressCard {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 follower: root.follower
                 clock: clock
             }
 
             RecentRunsCard {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 history: history
             }
         }

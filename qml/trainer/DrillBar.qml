@@ -2,12 +2,12 @@ import QtQuick
 import QtQuick.Controls
 import Velmora
 
-/// Starts and stops the drill, and tells how the last answer was.
+/// Starts and stops the drill, and shows how the last answer was.
 Column {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property PlaySession play
 
     readonly property color _tone: play.playDrillFeedbackWrong ? theme.danger : theme.success
@@ -47,8 +47,6 @@ Column {
     }
 
     SmallButton {
-        theme: root.theme
-        type: root.type
         visible: root.play.running
         enabled: root.play.canDrill
         iconName: root.play.playDrillMode ? "stop" : "target"

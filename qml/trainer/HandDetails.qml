@@ -10,11 +10,11 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     /// What `Hand.buildPlayHandDetails` makes.
     required property var details
 
-    /// The width at which the columns have room side by side.
+    /// The width at which the columns fit side by side.
     readonly property int fullWidth: 5 * _minimumColumnWidth
     readonly property bool stacked: width < fullWidth
     readonly property int _minimumColumnWidth: 165
@@ -78,7 +78,6 @@ Card {
             PlayingCard {
                 required property string modelData
 
-                theme: root.theme
                 rank: modelData.charAt(0)
                 suit: modelData.charAt(1)
                 mini: true
@@ -129,7 +128,6 @@ Card {
             model: street.actions.length > 0 ? Array.from(street.actions) : ["—"]
 
             ScrollBar.vertical: AppScrollBar {
-                theme: root.theme
             }
 
             delegate: Label {
@@ -153,14 +151,10 @@ Card {
 
             CardTitle {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 text: qsTr("Hand details")
             }
 
             SmallButton {
-                theme: root.theme
-                type: root.type
                 text: qsTr("Close")
                 onClicked: root.closeRequested()
             }
@@ -178,7 +172,6 @@ Card {
             boundsBehavior: Flickable.StopAtBounds
 
             ScrollBar.vertical: AppScrollBar {
-                theme: root.theme
             }
 
             Grid {
@@ -228,8 +221,6 @@ Card {
 
                     HandSummary {
                         Layout.fillWidth: true
-                        theme: root.theme
-                        type: root.type
                         details: root.details
                     }
 

@@ -9,7 +9,7 @@ import Velmora
 Card {
     id: root
 
-    property Typography type: Fallback.type
+    property Typography type: Style.type
     required property PlayLog log
 
     /// The user asked for the details of a hand.
@@ -31,8 +31,6 @@ Card {
 
             CardTitle {
                 Layout.fillWidth: true
-                theme: root.theme
-                type: root.type
                 text: qsTr("Hand Log")
             }
 
@@ -62,7 +60,6 @@ Card {
             Keys.onSpacePressed: root._choose(currentIndex)
 
             ScrollBar.vertical: AppScrollBar {
-                theme: root.theme
             }
 
             add: Transition {
@@ -87,8 +84,6 @@ Card {
                 required property var model
 
                 width: list.width - root.theme.spaceSm
-                theme: root.theme
-                type: root.type
                 entry: model
                 selected: index === root.log.playSelectedLogIndex
                 focused: list.activeFocus && list.currentIndex === index

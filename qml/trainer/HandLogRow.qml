@@ -11,8 +11,8 @@ import "trainer_score.js" as Score
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// A row of the log.
     required property var entry
     property bool selected: false
@@ -49,8 +49,6 @@ Rectangle {
 
             BoardDisplay {
                 anchors.verticalCenter: parent.verticalCenter
-                theme: root.theme
-                type: root.type
                 boardText: root.entry.board
                 compact: true
                 cardScale: 0.9
@@ -70,7 +68,6 @@ Rectangle {
                     required property string modelData
 
                     anchors.verticalCenter: cards.verticalCenter
-                    theme: root.theme
                     rank: modelData.charAt(0)
                     suit: modelData.charAt(1)
                     mini: true
@@ -101,7 +98,6 @@ Rectangle {
     }
 
     FocusRing {
-        theme: root.theme
         radius: root.radius
         anchors.margins: 0
         active: root.focused

@@ -8,8 +8,8 @@ import Velmora
 Column {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// What `Hand.buildPlayHandDetails` makes.
     required property var details
 

@@ -6,8 +6,8 @@ import Velmora
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     property string text: ""
 
     implicitWidth: label.implicitWidth + 2 * theme.spaceMd

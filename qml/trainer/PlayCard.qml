@@ -5,7 +5,7 @@ import Velmora
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
+    property Theme theme: Style.theme
     property string card: ""  ///< Such as "Ah"; "" for none.
     property bool faceDown: false
     property real sizeScale: 1
@@ -32,7 +32,6 @@ Item {
     PlayingCard {
         id: face
 
-        theme: root.theme
         rank: root.card.charAt(0)
         suit: root.card.charAt(1)
         faceDown: root.held && root.faceDown

@@ -4,12 +4,12 @@ import QtQuick.Layouts
 import Velmora
 
 /// Play mode: the table with the details of a hand under it, and the log of the hands. Where there is
-/// little room, log and details share the place beside the table.
+/// little space, log and details share the place beside the table.
 FocusScope {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property TreeWalk walk
     required property PlaySession play
 
@@ -87,8 +87,6 @@ FocusScope {
 
                 width: content.width - log.width - root.theme.spaceSm
                 height: content.height - (!root.compact && details.visible ? details.height + root.theme.spaceSm : 0)
-                theme: root.theme
-                type: root.type
                 walk: root.walk
                 play: root.play
                 onCardChangeWanted: (levelIndex, nodeIndex) => picker.openChancePicker(levelIndex, nodeIndex)
@@ -100,8 +98,6 @@ FocusScope {
                 x: content.width - width
                 width: log.width
                 visible: root.compact
-                theme: root.theme
-                type: root.type
                 labels: [qsTr("Hand Log"), qsTr("Hand details")]
                 currentIndex: root._detailsChosen ? 1 : 0
                 onChosen: index => root._detailsChosen = index === 1
@@ -111,16 +107,14 @@ FocusScope {
                 id: log
 
                 // It gives way to the details, which need some width.
-                readonly property real room: content.width - root.theme.spaceSm
+                readonly property real space: content.width - root.theme.spaceSm
                                              - (root.compact ? 1.6 * root._minimumTableWidth : details.fullWidth)
 
                 x: content.width - width
                 y: root._asideTop
-                width: Math.max(root._logMinimumWidth, Math.min(340, room))
+                width: Math.max(root._logMinimumWidth, Math.min(340, space))
                 height: content.height - y
                 visible: !root.compact || !root._detailsChosen
-                theme: root.theme
-                type: root.type
                 log: root.play.log
                 onHandChosen: root._detailsChosen = true
             }
@@ -133,8 +127,6 @@ FocusScope {
                 width: root.compact ? log.width : table.width
                 height: root.compact ? log.height : root._detailsHeight
                 visible: root.play.log.playHandDetails !== null && (!root.compact || root._detailsChosen)
-                theme: root.theme
-                type: root.type
                 details: root.play.log.playHandDetails
                 onCloseRequested: {
                     root._detailsChosen = false
@@ -158,8 +150,6 @@ FocusScope {
     ChancePicker {
         id: picker
 
-        theme: root.theme
-        type: root.type
         walk: root.walk
         onCardDealt: root.play.resumeFromCard()
         onClosed: root.play.resumeUnchanged()

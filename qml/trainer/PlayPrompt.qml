@@ -10,8 +10,8 @@ import "trainer_score.js" as Score
 Column {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property PlaySession play
     property bool narrow: false
 
@@ -22,8 +22,6 @@ Column {
 
     BusyLabel {
         visible: root.play.scoring
-        theme: root.theme
-        type: root.type
     }
 
     Flow {
@@ -38,8 +36,6 @@ Column {
                 required property int index
                 readonly property var info: root.play.playActions[index]
 
-                theme: root.theme
-                type: root.type
                 narrow: root.narrow
                 text: info?.name ?? ""
                 actionType: info?.actionType ?? ""
@@ -104,8 +100,6 @@ Column {
             readonly property bool offered: visible && enabled
 
             width: Math.min(implicitWidth, parent.width)
-            theme: root.theme
-            type: root.type
             text: qsTr("Another hand")
             implicitHeight: root.narrow ? 32 : 40
             leftPadding: root.narrow ? root.theme.spaceSm : root.theme.spaceLg

@@ -9,8 +9,8 @@ import "../components/card_names.js" as CardNames
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property string seat
     property list<string> cards
     property bool faceUp: false
@@ -51,7 +51,6 @@ Item {
             PlayCard {
                 required property int index
 
-                theme: root.theme
                 card: root.cards[index] ?? ""
                 faceDown: !root.faceUp
                 sizeScale: root.cardScale

@@ -57,7 +57,7 @@ QtObject {
     readonly property bool atDecision: playMeta.nodeType === "decision"
     readonly property bool running: playSessionStarted && !playHandComplete
     readonly property bool canDrill: running && (playDrillMode || atDecision && !scoring)
-    /// Nobody holds cards: a project file tells of the hands of those nodes only that were looked at.
+    /// Nobody holds cards: a project file holds the hands of those nodes only that were looked at.
     readonly property bool dealtNothing: playSessionStarted && oopCard1 === "" && ipCard1 === ""
     /// A choice was made whose figures are still on their way.
     readonly property bool scoring: _chosenActionIndex >= 0

@@ -4,12 +4,12 @@ import Velmora
 import "trainer_hand.js" as Hand
 
 /// The table: two seats, the board, the pot, and what the user can do. Everything has its place on the
-/// painted table, whatever room that takes.
+/// painted table, whatever space that takes.
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property TreeWalk walk
     required property PlaySession play
 
@@ -26,7 +26,7 @@ Item {
     /// For text on the table, which is dark in both modes.
     readonly property color _feltInk: theme.withOpacity(theme.cardFace, 0.85)
     readonly property color _ground: "#0B0F14"
-    /// From the middle of the table to where the dealer button leaves room, in pixels.
+    /// From the middle of the table to where the dealer button leaves space, in pixels.
     readonly property int _besideDealer: _dealerX + 13 + (_small ? theme.spaceSm : theme.spaceMd)
     readonly property int _dealerX: _small ? 56 : 86 * Math.max(1, _fit)
 
@@ -46,7 +46,7 @@ Item {
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Table")
 
-    // The picture's own ground, where the room is higher than the picture.
+    // The picture's own ground, where the space is higher than the picture.
     Rectangle {
         anchors.fill: parent
         radius: root.theme.radiusSm
@@ -75,8 +75,6 @@ Item {
         RoleChoice {
             anchors.centerIn: parent
             visible: !root.play.playSessionStarted
-            theme: root.theme
-            type: root.type
             narrow: root._small
             onRoleChosen: role => root.play.startPlaySession(role)
         }
@@ -90,8 +88,6 @@ Item {
 
                 anchors.centerIn: parent
                 anchors.verticalCenterOffset: -0.26 * table.height
-                theme: root.theme
-                type: root.type
                 seat: "OOP"
                 cards: root.play.playSessionStarted ? [root.play.oopCard1, root.play.oopCard2] : []
                 faceUp: root.play.isHeroSeat(seat)
@@ -107,8 +103,6 @@ Item {
 
                 anchors.centerIn: parent
                 anchors.verticalCenterOffset: 0.26 * table.height
-                theme: root.theme
-                type: root.type
                 seat: "IP"
                 cards: root.play.playSessionStarted ? [root.play.ipCard1, root.play.ipCard2] : []
                 faceUp: root.play.isHeroSeat(seat)
@@ -143,8 +137,6 @@ Item {
                 id: board
 
                 anchors.centerIn: parent
-                theme: root.theme
-                type: root.type
                 boardText: root.play.playBoardText
                 compact: root._small
                 cardScale: (root._small ? 1 : 1.05) * root._fit
@@ -193,8 +185,6 @@ Item {
 
                 x: Math.min(table.width - width, table.width / 2 + (root._small ? root._besideDealer : 140 * Math.max(1, root._fit)))
                 y: seat.y + (seat.height - height) / 2
-                theme: root.theme
-                type: root.type
                 text: root.play.playLastActionText
             }
 
@@ -218,8 +208,6 @@ Item {
                 x: table.width / 2 + (seat === ip ? root._besideDealer : besideSeat)
                 y: Math.max(0, Math.min(table.height - height, seat.y + (seat.height - height) / 2))
                 width: Math.min(380, 0.45 * table.width, table.width - x - root.theme.spaceSm)
-                theme: root.theme
-                type: root.type
                 play: root.play
                 narrow: root._small
             }
@@ -228,8 +216,6 @@ Item {
                 x: root.theme.spaceMd
                 y: table.height - height - root.theme.spaceMd
                 width: ip.x - x - root.theme.spaceMd
-                theme: root.theme
-                type: root.type
                 play: root.play
             }
         }

@@ -4,12 +4,11 @@ import QtQuick
 import QtQuick.Layouts
 import Velmora
 
-/// The three ways to take a seat, one under the other where there is little room.
+/// The three ways to take a seat, one under the other where there is little space.
 GridLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
     property bool narrow: false
 
     signal roleChosen(role: string)
@@ -19,8 +18,6 @@ GridLayout {
     rowSpacing: theme.spaceSm
 
     component RoleButton: PrimaryButton {
-        theme: root.theme
-        type: root.type
         implicitHeight: root.narrow ? 32 : 40
         Layout.fillWidth: true
     }

@@ -82,20 +82,20 @@ TestCase {
             weightDisplayMode: data.mode ?? "horizontalSpan",
             actionTypes: data.types ?? [], actionProbs: { AA: data.probs ?? [] }
         })
-        const base = Fallback.theme.surface3
+        const base = Style.theme.surface3
         // At first each cell draws its own base; then one picture has them all.
         for (const waiting of [0, 50]) {
             wait(waiting)
             const image = grabImage(matrix)
             for (const [x, y, key] of data.seen) {
                 const seen = image.pixel(32 * x, 32 * y)
-                const fill = key === "fill" ? Qt.color("#ff00ff") : key ? Fallback.theme.actionColor(key) : base
+                const fill = key === "fill" ? Qt.color("#ff00ff") : key ? Style.theme.actionColor(key) : base
                 const alpha = key && key !== "fill" ? 0.85 : 1
                 fuzzyCompare(seen.r, base.r * (1 - alpha) + fill.r * alpha, 0.02)
                 fuzzyCompare(seen.b, base.b * (1 - alpha) + fill.b * alpha, 0.02)
             }
-            compare(image.pixel(50, 16), Fallback.theme.surface2)
-            compare(image.pixel(16, 50), Fallback.theme.surface)
+            compare(image.pixel(50, 16), Style.theme.surface2)
+            compare(image.pixel(16, 50), Style.theme.surface)
         }
     }
 

@@ -7,8 +7,7 @@ import "range_library_tree.js" as Tree
 ColumnLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
     required property SeatLibrary library
     required property string rangeText
 
@@ -38,8 +37,6 @@ ColumnLayout {
 
     SmallButton {
         Layout.fillWidth: true
-        theme: root.theme
-        type: root.type
         text: qsTr("Save current range…")
         enabled: root.rangeText.trim() !== ""
         onClicked: root.openSaveRangeDialog()
@@ -47,24 +44,18 @@ ColumnLayout {
 
     SmallButton {
         Layout.fillWidth: true
-        theme: root.theme
-        type: root.type
         text: qsTr("Import range…")
         onClicked: root.importRequested()
     }
 
     SmallButton {
         Layout.fillWidth: true
-        theme: root.theme
-        type: root.type
         text: qsTr("Add folder…")
         onClicked: folderDialog.ask()
     }
 
     SmallButton {
         Layout.fillWidth: true
-        theme: root.theme
-        type: root.type
         text: qsTr("Delete selected…")
         enabled: root.library.selectedId !== ""
         danger: enabled
@@ -76,8 +67,6 @@ ColumnLayout {
 
         property string rangeText: ""
 
-        theme: root.theme
-        type: root.type
         title: root._oop ? qsTr("Save OOP range") : qsTr("Save IP range")
         prompt: qsTr("Name this range:")
         placeholder: qsTr("e.g., BTN vs BB (default)")
@@ -87,8 +76,6 @@ ColumnLayout {
     NameDialog {
         id: folderDialog
 
-        theme: root.theme
-        type: root.type
         title: root._oop ? qsTr("Add folder (OOP)") : qsTr("Add folder (IP)")
         prompt: qsTr("Folder name:")
         placeholder: qsTr("e.g., BTN vs BB")
@@ -99,8 +86,6 @@ ColumnLayout {
     DeleteDialog {
         id: deleteDialog
 
-        theme: root.theme
-        type: root.type
         title: qsTr("Delete range")
         onConfirmed: root.library.deleteSelectedItem()
     }

@@ -10,8 +10,8 @@ import "range_categories.js" as Categories
 ColumnLayout {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property RangeLibraries libraries
     required property SeatLibrary library
     required property string rangeText
@@ -22,8 +22,6 @@ ColumnLayout {
 
     SmallButton {
         Layout.fillWidth: true
-        theme: root.theme
-        type: root.type
         text: qsTr("Override")
         enabled: root.library.canOverride(root.rangeText)
         onClicked: root.library.overrideSelectedRange(root.rangeText)
@@ -31,16 +29,12 @@ ColumnLayout {
 
     SmallButton {
         Layout.fillWidth: true
-        theme: root.theme
-        type: root.type
         text: root._standard ? qsTr("Export standard…") : qsTr("Export population…")
         onClicked: fileDialog.open()
     }
 
     SmallButton {
         Layout.fillWidth: true
-        theme: root.theme
-        type: root.type
         text: qsTr("Clear overrides…")
         danger: true
         onClicked: clearDialog.open()
@@ -58,8 +52,6 @@ ColumnLayout {
     FileChooser {
         id: fileDialog
 
-        theme: root.theme
-        type: root.type
         controller: root.libraries.controller
         title: root._standard ? qsTr("Export Standard Ranges") : qsTr("Export Population Ranges")
         fileMode: FileChooser.SaveFile
@@ -71,8 +63,6 @@ ColumnLayout {
     DeleteDialog {
         id: clearDialog
 
-        theme: root.theme
-        type: root.type
         title: root._standard ? qsTr("Clear standard overrides") : qsTr("Clear population overrides")
         question: (root._standard ? qsTr("Clear all locally overridden standard ranges for %1?")
                                   : qsTr("Clear all locally overridden population ranges for %1?"))

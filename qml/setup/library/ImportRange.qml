@@ -6,8 +6,6 @@ import "../../components/file_url.js" as FileUrl
 Item {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
     required property var controller
     required property RangeLibraries libraries
 
@@ -35,8 +33,6 @@ Item {
     FileChooser {
         id: fileDialog
 
-        theme: root.theme
-        type: root.type
         controller: root.controller
         title: qsTr("Import Range")
         nameFilters: [qsTr("Range text (*.txt)"), qsTr("All Files (*)")]
@@ -46,8 +42,6 @@ Item {
     NameDialog {
         id: nameDialog
 
-        theme: root.theme
-        type: root.type
         title: qsTr("Import Range")
         prompt: qsTr("Name this range:")
         placeholder: qsTr("e.g., BTN open (custom)")

@@ -10,8 +10,8 @@ import "range_categories.js" as Categories
 Rectangle {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     required property RangeLibraries libraries
     required property SeatLibrary library
     required property string rangeText
@@ -41,8 +41,6 @@ Rectangle {
                     required property int index
 
                     Layout.fillWidth: true
-                    theme: root.theme
-                    type: root.type
                     text: root.libraries.categoryLabel(index)
                     checkable: true
                     autoExclusive: true
@@ -73,8 +71,6 @@ Rectangle {
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            theme: root.theme
-            type: root.type
             library: root.library
             label: root._heading
             onDeletionWanted: {
@@ -106,8 +102,6 @@ Rectangle {
 
             Layout.fillWidth: true
             visible: root.library.rangeCategory === Categories.custom
-            theme: root.theme
-            type: root.type
             library: root.library
             rangeText: root.rangeText
             onImportRequested: root.importRequested()
@@ -116,8 +110,6 @@ Rectangle {
         DeveloperActions {
             Layout.fillWidth: true
             visible: root.developerMode && root.library.rangeCategory !== Categories.custom
-            theme: root.theme
-            type: root.type
             libraries: root.libraries
             library: root.library
             rangeText: root.rangeText

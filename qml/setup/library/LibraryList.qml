@@ -9,8 +9,6 @@ import Velmora
 ListView {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
     required property SeatLibrary library
     property string label: ""
 
@@ -74,7 +72,6 @@ ListView {
     }
 
     ScrollBar.vertical: AppScrollBar {
-        theme: root.theme
     }
 
     delegate: LibraryRow {
@@ -82,8 +79,6 @@ ListView {
         required property var modelData
 
         width: ListView.view.width
-        theme: root.theme
-        type: root.type
         entry: modelData
         selected: modelData.id === root.library.selectedId
         focused: root.activeFocus && ListView.isCurrentItem

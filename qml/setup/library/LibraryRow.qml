@@ -7,8 +7,8 @@ import Velmora
 T.ItemDelegate {
     id: root
 
-    property Theme theme: Fallback.theme
-    property Typography type: Fallback.type
+    property Theme theme: Style.theme
+    property Typography type: Style.type
     /// A row of `flattenTree`.
     required property var entry
     property bool selected: false
@@ -29,7 +29,6 @@ T.ItemDelegate {
         spacing: 6
 
         Icon {
-            theme: root.theme
             name: root.entry.kind === "folder" ? "folder-open" : "file-text"
             size: 14
             color: root.entry.open ? root.theme.accent : root.theme.textMuted
@@ -37,8 +36,6 @@ T.ItemDelegate {
 
         ElidedLabel {
             Layout.fillWidth: true
-            theme: root.theme
-            type: root.type
             hovered: root.hovered
             text: root.text
             color: root.theme.text
@@ -54,7 +51,6 @@ T.ItemDelegate {
 
         FocusRing {
             anchors.margins: 0
-            theme: root.theme
             radius: parent.radius
             active: root.focused
         }

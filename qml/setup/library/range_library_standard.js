@@ -58,7 +58,7 @@ function _subfolder(nodes, name) {
 }
 
 /// The rake folders with the rows in them. `scenarios` are the folders that each of them has, and
-/// `route` tells where in a rake folder a scenario stands.
+/// `route` says where in a rake folder a scenario stands.
 function _rakeFolders(rows, scenarios, route) {
     const folders = RAKES.map(rake => Tree.folder(rake, scenarios.map(name => Tree.folder(name))))
     for (const row of rows) {
