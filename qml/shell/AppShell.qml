@@ -5,7 +5,6 @@ import "pages.js" as Pages
 import "presets.js" as Presets
 import "project_keys.js" as ProjectKeys
 import "solve_gate.js" as SolveGate
-import "../style/font_families.js" as FontFamilies
 
 /// What fills the window: the top bar and the pages under it. It owns the project state, decides
 /// which page may show and whether a solve may start, and answers what the pages ask for.
@@ -350,22 +349,6 @@ Item {
         function onFrameSwapped() {
             shell._endDrawingAhead()
         }
-    }
-
-    Binding {
-        target: shell.theme
-        property: "uiFamily"
-        value: FontFamilies.firstInstalled(shell.theme.fontFamily, Qt.fontFamilies(), systemText.font.family)
-    }
-
-    Binding {
-        target: shell.theme
-        property: "monoFamily"
-        value: FontFamilies.firstInstalled(shell.theme.fontMono, Qt.fontFamilies(), "monospace")
-    }
-
-    TextMetrics {
-        id: systemText
     }
 
     ProjectState {
