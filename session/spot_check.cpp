@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "card_context.h"
-#include "range_edit.h"
+#include "range.h"
 #include "spot_translation.h"
 #include "text.h"
 

@@ -1,4 +1,4 @@
-#include "payoff_lanes.h"
+#include "payoffs.h"
 
 #include <algorithm>
 #include <array>
@@ -7,8 +7,7 @@
 #include <utility>
 
 #include "kernels.h"
-#include "lane_blocks.h"
-#include "lane_vectors.h"
+#include "lanes.h"
 #include "multiversion.h"
 #include "rows.h"
 
