@@ -17,11 +17,11 @@
 #include "processor_count.h"
 #include "project_writer.h"
 #include "result_variants.h"
-#include "showdown.h"
+#include "results/equity.h"
 #include "solve_activity.h"
 #include "solve_config_map.h"
 #include "solve_request.h"
-#include "spot_compare.h"
+#include "spot.h"
 #include "text_files.h"
 #include "trainer_stats.h"
 

@@ -10,7 +10,7 @@
 #include "fault_scope.h"
 #include "memory_estimate.h"
 #include "solve_config_map.h"
-#include "spot_compare.h"
+#include "spot.h"
 #include "system_memory.h"
 
 namespace {

@@ -6,7 +6,7 @@
 
 #include <QHash>
 
-#include "strategy_grid.h"
+#include "results/strategy.h"
 
 namespace {
 

@@ -11,9 +11,9 @@
 #include <QVariantList>
 #include <QVariantMap>
 
-#include "action_values.h"
 #include "node_locks.h"
 #include "result_caches.h"
+#include "results/values.h"
 #include "solve_session.h"
 #include "tree_mirror.h"
 

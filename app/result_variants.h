@@ -4,11 +4,10 @@
 #include <QVariantList>
 #include <QVariantMap>
 
-#include "action_stats.h"
-#include "hand_buckets.h"
-#include "hand_combos.h"
-#include "showdown.h"
-#include "strategy_grid.h"
+#include "results/actions.h"
+#include "results/equity.h"
+#include "results/hands.h"
+#include "results/strategy.h"
 
 /// "weights", "dominantActionTypes" and "actionProbs" by label, "actionNames".
 QVariantMap variantOf(const velmora_app::NodeHandStrategy& grid);

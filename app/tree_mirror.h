@@ -6,7 +6,7 @@
 #include <QVariantList>
 #include <QVariantMap>
 
-#include "tree_snapshot.h"
+#include "results/tree.h"
 
 /// Keeps the compact records of the tree and makes maps of the nodes that are asked for: a tree
 /// has millions of nodes, of which a user looks at some dozens.

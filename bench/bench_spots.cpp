@@ -5,7 +5,7 @@
 
 #include "discounted_cfr.h"
 #include "game.h"
-#include "spot_translation.h"
+#include "spot.h"
 
 namespace {
 

@@ -1,11 +1,9 @@
-#include "node_reach.h"
+#include "results/node.h"
 
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
 #include <utility>
-
-#include "result_node.h"
 
 namespace velmora_app {
 

@@ -3,9 +3,11 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "action_values.h"
+#include "action_plan.h"
+#include "results/values.h"
 #include "solve_session.h"
 
 namespace velmora_app {
@@ -26,5 +28,13 @@ struct NodeActionStats {
 /// is no decision node of the spot.
 NodeActionStats query_action_stats(const SolvedSpot& spot, std::uint64_t node,
                                    ActionValues& values);
+
+/// "none", "fold", "check", "call", "bet", "raise", "allin", "chance".
+std::string_view action_kind_name(velmora::ActionKind kind);
+/// Text for display, such as "Check" or "Bet 33%". `pot` (chips) is the base of the percentage of
+/// the street total that a bet or raise reaches; below 1 there is no percentage.
+std::string action_label(const velmora::Action& action, std::int32_t pot);
+/// Key, such as "check" or "bet 33%"; `pot` as above.
+std::string action_key(const velmora::Action& action, std::int32_t pot);
 
 }  // namespace velmora_app

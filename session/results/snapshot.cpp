@@ -1,4 +1,4 @@
-#include "result_snapshot.h"
+#include "results/snapshot.h"
 
 #include <cmath>
 #include <memory>
@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "action_text.h"
+#include "results/actions.h"
 #include "worker_pool.h"
 
 namespace velmora_app {

@@ -1,4 +1,4 @@
-#include "tree_snapshot.h"
+#include "results/tree.h"
 
 #include <limits>
 #include <stdexcept>

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <random>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "game.h"
@@ -36,5 +38,15 @@ struct SampledHands {
 /// generator alone, on every platform. Not a number if nothing can be sampled.
 double sampled_equity(std::mt19937& generator, const velmora::Board& board,
                       const SampledHands& hero, const SampledHands& opponent, std::size_t samples);
+
+struct Showdown {
+  std::string_view winner = "UNKNOWN";  ///< "OOP", "IP", "TIE" or "UNKNOWN".
+  std::uint32_t oop_strength = 0;       ///< As the evaluator ranks them; 0 if unknown.
+  std::uint32_t ip_strength = 0;
+};
+
+/// Texts of two characters a card, of which the first 5 and 2 cards are read; white space is
+/// ignored. Unknown for texts that are too short or hold something else than cards.
+Showdown showdown_winner(std::string_view board, std::string_view oop, std::string_view ip);
 
 }  // namespace velmora_app

@@ -1,9 +1,9 @@
-#include "strategy_grid.h"
+#include "results/strategy.h"
 
 #include <algorithm>
 
-#include "action_text.h"
-#include "result_node.h"
+#include "results/actions.h"
+#include "results/node.h"
 #include "text.h"
 
 namespace velmora_app {

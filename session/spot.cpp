@@ -1,15 +1,17 @@
-#include "spot_check.h"
+#include "spot.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <optional>
 #include <stdexcept>
 #include <string_view>
+#include <tuple>
+#include <vector>
 
 #include "card_context.h"
 #include "range.h"
-#include "spot_translation.h"
 #include "text.h"
 
 namespace velmora_app {
@@ -146,6 +148,101 @@ std::vector<SpotFault> check_spot(const SolveConfig& config) {
   check_hands_left(cards, faults);
   if (faults.list.empty()) faults.add(kWholeSpot, sentence_of([&] { check_ranges_meet(cards); }));
   return faults.list;
+}
+
+SpotCards translate_cards(const SolveConfig& config) {
+  SpotCards cards;
+  cards.board = velmora::parse_board(config.board);
+  cards.weights[velmora::kOop] = velmora::parse_range_text(config.oop_range);
+  cards.weights[velmora::kIp] = velmora::parse_range_text(config.ip_range);
+  return cards;
+}
+
+void check_ranges_meet(const SpotCards& cards) {
+  struct Hand {
+    velmora::CardMask cards;
+    double weight;
+  };
+  velmora::validate_board(cards.board);
+  velmora::CardMask board = 0;
+  for (const velmora::CardCode card : cards.board.flop) board |= velmora::mask_of(card);
+  board |= velmora::mask_of(cards.board.turn) | velmora::mask_of(cards.board.river);
+  velmora::BySeat<std::vector<Hand>> hands;
+  for (const velmora::Seat seat : {velmora::kOop, velmora::kIp}) {
+    for (std::size_t index = 0; index < velmora::kNumPockets; ++index) {
+      const float weight = cards.weights[seat][index];
+      if (!(weight > 0)) continue;
+      const auto [low, high] = velmora::pocket_cards(index);
+      const velmora::CardMask mask = velmora::mask_of(low) | velmora::mask_of(high);
+      if (!(mask & board)) hands[seat].push_back({mask, static_cast<double>(weight)});
+    }
+    if (hands[seat].empty()) {
+      throw std::invalid_argument("Player range empty after filtering board cards");
+    }
+  }
+  double total = 0;
+  for (const Hand& oop : hands[velmora::kOop]) {
+    for (const Hand& ip : hands[velmora::kIp]) {
+      if (oop.cards & ip.cards) continue;
+      total += oop.weight * ip.weight;
+      if (total >= kLeastMatchupWeight) return;
+    }
+  }
+  throw std::invalid_argument(total > 0 ? "The weights of the two ranges are too small to solve"
+                                        : "Every hand of one range shares a card with every hand "
+                                          "of the other, so the two can never meet");
+}
+
+velmora::GameSettings translate_settings(const SolveConfig& config) {
+  if (!(config.rake_percent >= 0 && config.rake_percent <= 100)) {
+    throw std::invalid_argument("The rake must be from 0% to 100% of the pot");
+  }
+  if (!std::isfinite(config.rake_cap) || config.rake_cap < 0) {
+    throw std::invalid_argument("The rake cap must be 0 chips or more");
+  }
+  velmora::GameSettings settings;
+  settings.street = velmora::street_from_string(config.starting_street);
+  settings.starting_pot = config.starting_pot;
+  settings.effective_stack = config.effective_stack;
+  settings.rake_fraction = config.rake_percent / 100;
+  settings.rake_cap = config.rake_cap;
+  const auto threshold = [](const std::optional<double>& pct) {
+    return pct ? std::max(*pct / 100, 0.0) : 0.0;
+  };
+  settings.jam_threshold = {threshold(config.oop_add_all_in_jam_threshold_pct),
+                            threshold(config.ip_add_all_in_jam_threshold_pct)};
+  return settings;
+}
+
+void translate_sizing(const SolveConfig& config, velmora::GameSettings& settings) {
+  settings.sizing = {velmora::parse_street_sizing("flop", config.oop_flop, config.ip_flop),
+                     velmora::parse_street_sizing("turn", config.oop_turn, config.ip_turn),
+                     velmora::parse_street_sizing("river", config.oop_river, config.ip_river)};
+}
+
+void translate_sizing_bare(const SolveConfig& config, velmora::GameSettings& settings) {
+  settings.sizing = {velmora::parse_street_sizing_bare(config.oop_flop, config.ip_flop),
+                     velmora::parse_street_sizing_bare(config.oop_turn, config.ip_turn),
+                     velmora::parse_street_sizing_bare(config.oop_river, config.ip_river)};
+}
+
+namespace {
+
+auto tree_of(const SolveConfig& config) {
+  return std::tie(config.board, config.oop_range, config.ip_range, config.starting_pot,
+                  config.effective_stack, config.starting_street, config.oop_flop, config.oop_turn,
+                  config.oop_river, config.ip_flop, config.ip_turn, config.ip_river,
+                  config.oop_add_all_in_jam_threshold_pct, config.ip_add_all_in_jam_threshold_pct);
+}
+
+}  // namespace
+
+bool same_tree(const SolveConfig& a, const SolveConfig& b) {
+  return tree_of(a) == tree_of(b);
+}
+
+bool same_spot(const SolveConfig& a, const SolveConfig& b) {
+  return same_tree(a, b) && a.rake_percent == b.rake_percent && a.rake_cap == b.rake_cap;
 }
 
 }  // namespace velmora_app

@@ -1,10 +1,9 @@
-#include "action_values.h"
+#include "results/values.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "node_reach.h"
-#include "result_node.h"
+#include "results/node.h"
 
 namespace velmora_app {
 
