@@ -1,4 +1,4 @@
-#include "reach_grid.h"
+#include "results/reach_grid.h"
 
 #include <algorithm>
 #include <cmath>

@@ -10,10 +10,9 @@
 #include <QLatin1String>
 #include <QVariantMap>
 
-#include "commands.h"
 #include "json_stream.h"
 #include "range.h"
-#include "solve_config_map.h"
+#include "spot_config.h"
 
 using velmora_app::NodeLockEntry;
 using velmora_app::SolveConfig;

@@ -1,4 +1,4 @@
-#include "processor_count.h"
+#include "system/processor_count.h"
 
 #include <thread>
 

@@ -1,4 +1,4 @@
-#include "hand_bucket_names.h"
+#include "results/hand_bucket_names.h"
 
 #include <QCoreApplication>
 

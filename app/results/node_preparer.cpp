@@ -1,4 +1,4 @@
-#include "node_preparer.h"
+#include "results/node_preparer.h"
 
 #include <exception>
 #include <new>

@@ -1,11 +1,11 @@
-#include "trainer_stats.h"
+#include "services/trainer_stats.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include <QSettings>
 
-#include "stored_numbers.h"
+#include "services/stored_numbers.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "result_variants.h"
+#include "results/result_variants.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,11 +1,11 @@
-#include "solve_activity.h"
+#include "services/solve_activity.h"
 
 #include <algorithm>
 
 #include <QSettings>
 #include <QVariantMap>
 
-#include "stored_numbers.h"
+#include "services/stored_numbers.h"
 
 namespace {
 

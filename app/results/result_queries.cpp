@@ -1,11 +1,11 @@
-#include "result_queries.h"
+#include "results/result_queries.h"
 
 #include <cstdint>
 #include <optional>
 
-#include "hand_bucket_names.h"
-#include "reach_grid.h"
-#include "result_variants.h"
+#include "results/hand_bucket_names.h"
+#include "results/reach_grid.h"
+#include "results/result_variants.h"
 
 namespace {
 

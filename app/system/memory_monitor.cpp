@@ -1,4 +1,4 @@
-#include "memory_monitor.h"
+#include "system/memory_monitor.h"
 
 #include <algorithm>
 #include <limits>
@@ -9,8 +9,8 @@
 
 #include "fault_scope.h"
 #include "memory_estimate.h"
-#include "solve_config_map.h"
 #include "spot.h"
+#include "spot_config.h"
 #include "system_memory.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "solve_config_map.h"
+#include "spot_config.h"
 
 #include <algorithm>
 #include <array>

@@ -15,7 +15,7 @@
 #include "cards.h"
 #include "fault_scope.h"
 #include "json_stream.h"
-#include "solve_config_map.h"
+#include "spot_config.h"
 
 using velmora_app::ActionMeta;
 using velmora_app::NodeMeta;

@@ -8,7 +8,7 @@
 #include <QObject>
 #include <QThreadPool>
 
-#include "result_queries.h"
+#include "results/result_queries.h"
 
 /// Answers what the pages ask of a node on a thread of its own, one node at a time. Only the node
 /// that was asked for last counts: an older one is given up.

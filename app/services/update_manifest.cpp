@@ -1,4 +1,4 @@
-#include "update_manifest.h"
+#include "services/update_manifest.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -10,7 +10,7 @@
 #include <QString>
 #include <QUrl>
 
-#include "update_manifest.h"
+#include "services/update_manifest.h"
 
 class QNetworkReply;
 

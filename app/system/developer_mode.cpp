@@ -1,4 +1,4 @@
-#include "developer_mode.h"
+#include "system/developer_mode.h"
 
 #include <array>
 

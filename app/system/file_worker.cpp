@@ -1,4 +1,4 @@
-#include "file_worker.h"
+#include "system/file_worker.h"
 
 #include <exception>
 #include <stdexcept>

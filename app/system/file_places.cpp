@@ -1,4 +1,4 @@
-#include "file_places.h"
+#include "system/file_places.h"
 
 #include <QFileInfo>
 #include <QSet>
