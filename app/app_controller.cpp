@@ -11,19 +11,19 @@
 #include <QDesktopServices>
 #include <QTimer>
 
-#include "developer_mode.h"
 #include "fault_scope.h"
-#include "file_places.h"
-#include "processor_count.h"
 #include "project_writer.h"
-#include "result_variants.h"
-#include "showdown.h"
-#include "solve_activity.h"
-#include "solve_config_map.h"
+#include "results/equity.h"
+#include "results/result_variants.h"
+#include "services/solve_activity.h"
+#include "services/trainer_stats.h"
 #include "solve_request.h"
-#include "spot_compare.h"
+#include "spot.h"
+#include "spot_config.h"
+#include "system/developer_mode.h"
+#include "system/file_places.h"
+#include "system/processor_count.h"
 #include "text_files.h"
-#include "trainer_stats.h"
 
 using velmora_app::SolveConfig;
 using velmora_app::SolveProgress;

@@ -10,15 +10,15 @@
 #include <QVariantMap>
 
 #include "draft.h"
-#include "file_worker.h"
-#include "memory_monitor.h"
 #include "node_lock_table.h"
-#include "node_preparer.h"
 #include "project_reader.h"
 #include "report_inbox.h"
-#include "result_queries.h"
+#include "results/node_preparer.h"
+#include "results/result_queries.h"
 #include "solve_outcome.h"
 #include "solve_session.h"
+#include "system/file_worker.h"
+#include "system/memory_monitor.h"
 #include "tree_mirror.h"
 
 /// A facade: it leads a solve from the pages' settings map to the finished result and passes

@@ -16,11 +16,11 @@
 #include <QUrl>
 
 #include "app_controller.h"
-#include "command_line.h"
-#include "crash_lines.h"
-#include "language_manager.h"
-#include "logging.h"
-#include "update_manager.h"
+#include "services/language_manager.h"
+#include "services/update_manager.h"
+#include "system/command_line.h"
+#include "system/crash_lines.h"
+#include "system/logging.h"
 
 // Nothing else asks for the types of the pages' module, and a linker drops what nobody asks for.
 extern void qml_register_types_Velmora();

@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "range_edit.h"
+#include "range.h"
 
 QVariantMap RangeText::weights(const QString& text) {
   QVariantMap weights;

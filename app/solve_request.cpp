@@ -10,7 +10,7 @@
 #include <QLatin1String>
 #include <QStringList>
 
-#include "solve_config_map.h"
+#include "spot_config.h"
 
 using velmora_app::SpotFault;
 

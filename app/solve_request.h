@@ -6,7 +6,7 @@
 #include <QString>
 #include <QVariantMap>
 
-#include "spot_check.h"
+#include "spot.h"
 
 /// The line of the log about a start.
 QString describeSolveRequest(const QVariantMap& map);

@@ -5,7 +5,7 @@
 
 #include "bench_spots.h"
 #include "game.h"
-#include "spot_translation.h"
+#include "spot.h"
 
 inline std::unique_ptr<velmora::Game> make_bench_game(const velmora_app::SolveConfig& config) {
   const velmora_app::SpotCards cards = translate_cards(config);

@@ -8,7 +8,7 @@
 #include "bench_games.h"
 #include "huge_pages.h"
 #include "kernels.h"
-#include "payoff_lanes.h"
+#include "payoffs.h"
 #include "plain_kernels.h"
 #include "rows.h"
 #include "side_by_side.h"

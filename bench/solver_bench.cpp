@@ -7,7 +7,7 @@
 #include "bench_games.h"
 #include "discounted_cfr.h"
 #include "plain_solver.h"
-#include "result_snapshot.h"
+#include "results/snapshot.h"
 #include "side_by_side.h"
 
 namespace {

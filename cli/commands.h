@@ -3,18 +3,12 @@
 
 #include <cstdint>
 #include <optional>
-#include <stdexcept>
-#include <string>
 
 #include <QString>
 
-enum ExitStatus : int { kDone = 0, kFailed = 1, kWrongUse = 2, kTimeUp = 3, kInterrupted = 130 };
+#include "spot_file.h"
 
-/// Input that can't be used. The text is one line for the user.
-struct InputFault : std::runtime_error {
-  using std::runtime_error::runtime_error;
-  explicit InputFault(const QString& text) : std::runtime_error(text.toStdString()) {}
-};
+enum ExitStatus : int { kDone = 0, kFailed = 1, kWrongUse = 2, kTimeUp = 3, kInterrupted = 130 };
 
 struct SolveRequest {
   QString spot_path;

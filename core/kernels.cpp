@@ -4,7 +4,7 @@
 #include <cstring>
 #include <type_traits>
 
-#include "lane_vectors.h"
+#include "lanes.h"
 #include "multiversion.h"
 #include "rows.h"
 

@@ -10,7 +10,7 @@
 #define VELMORA_BODY [[gnu::always_inline]] static inline void
 
 // VELMORA_MULTIVERSION_WIDE does the same for a body that is a template over the number of doubles
-// in a vector of the instruction set, for code with vectors of its own (see `lane_vectors.h`).
+// in a vector of the instruction set, for code with vectors of its own (see `lanes.h`).
 
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
 #define VELMORA_VERSIONS(name, parameters, arguments, body_2, body_4, body_8) \

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "game.h"
-#include "payoff_lanes.h"
+#include "payoffs.h"
 
 namespace velmora {
 

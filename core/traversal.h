@@ -10,7 +10,7 @@
 #include "game.h"
 #include "kernels.h"
 #include "memory_ahead.h"
-#include "payoff_lanes.h"
+#include "payoffs.h"
 #include "scratch.h"
 #include "solver_state.h"
 #include "street_shape.h"

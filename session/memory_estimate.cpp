@@ -9,7 +9,7 @@
 #include "betting_rules.h"
 #include "discounted_cfr.h"
 #include "fault_scope.h"
-#include "spot_translation.h"
+#include "spot.h"
 
 namespace velmora_app {
 

@@ -11,9 +11,8 @@
 #include <thread>
 #include <vector>
 
-#include "bet_size.h"
-#include "node_locks.h"
-#include "tree_snapshot.h"
+#include "results/tree.h"
+#include "spot.h"
 
 namespace velmora {
 class DiscountedCfr;
@@ -22,32 +21,8 @@ class Game;
 
 namespace velmora_app {
 
-using velmora::NodeLockEntry;
-using velmora::StreetSizingText;
-
 /// Iterations from one measure of the exploitability to the next.
 inline constexpr std::uint32_t kCheckInterval = 50;
-
-/// Everything that defines a solve.
-struct SolveConfig {
-  std::string board;  ///< Two characters a card, no separators: 6, 8 or 10 characters.
-  std::int32_t starting_pot = 100;     ///< Chips.
-  std::int32_t effective_stack = 100;  ///< Chips behind for each seat.
-  double rake_percent = 0;             ///< Percent of the pot, 5 means 5%.
-  double rake_cap = 0;                 ///< Chips; 0 means no rake at all.
-  std::string starting_street = "flop";
-  std::uint32_t max_iterations = 2000;
-  float target_exploitability = 0.1F;  ///< Chips, not percent.
-  std::uint64_t thread_count = 1;      ///< 0 counts as 1.
-  bool compressed_storage = false;     ///< Tables as 16-bit integers between visits.
-  std::string oop_range;
-  std::string ip_range;
-  StreetSizingText oop_flop, oop_turn, oop_river;
-  StreetSizingText ip_flop, ip_turn, ip_river;
-  std::optional<double> oop_add_all_in_jam_threshold_pct;  ///< Percent of the pot.
-  std::optional<double> ip_add_all_in_jam_threshold_pct;   ///< Percent of the pot.
-  std::vector<NodeLockEntry> node_locks;
-};
 
 /// What a run delivers. A failed or cancelled run has `success` false and only what was filled
 /// up to then. A stopped one has `success` false too, but all fields, if it had begun to iterate.

@@ -11,8 +11,8 @@
 #include "game.h"
 #include "memory_estimate.h"
 #include "node_locks.h"
-#include "result_snapshot.h"
-#include "spot_translation.h"
+#include "results/snapshot.h"
+#include "spot.h"
 #include "system_memory.h"
 
 namespace velmora_app {

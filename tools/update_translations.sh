@@ -12,5 +12,5 @@ out=${1:-i18n}
 lupdate=$(command -v lupdate6 || echo /usr/lib/qt6/bin/lupdate)
 for language in de es fr it pl pt_BR ru; do
   "$lupdate" -silent -no-obsolete -locations none -source-language en_US \
-    -target-language "$language" Main.qml qml app -ts "$out/velmora_$language.ts"
+    -target-language "$language" Main.qml qml app project -ts "$out/velmora_$language.ts"
 done

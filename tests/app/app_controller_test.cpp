@@ -15,7 +15,7 @@
 
 #include "app_test_support.h"
 #include "memory_estimate.h"
-#include "solve_config_map.h"
+#include "spot_config.h"
 
 namespace {
 

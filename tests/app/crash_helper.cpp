@@ -14,9 +14,9 @@
 
 #include <QDebug>
 
-#include "crash_lines.h"
 #include "fault_scope.h"
-#include "logging.h"
+#include "system/crash_lines.h"
+#include "system/logging.h"
 
 namespace {
 

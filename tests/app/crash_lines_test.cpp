@@ -1,4 +1,4 @@
-#include "crash_lines.h"
+#include "system/crash_lines.h"
 
 #include <csignal>
 

@@ -1,4 +1,4 @@
-#include "language_manager.h"
+#include "services/language_manager.h"
 
 #include <QCoreApplication>
 #include <QLocale>

@@ -1,4 +1,4 @@
-#include "logging.h"
+#include "system/logging.h"
 
 #include <thread>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "memory_monitor.h"
+#include "system/memory_monitor.h"
 
 #include <atomic>
 #include <future>

@@ -1,4 +1,4 @@
-#include "result_queries.h"
+#include "results/result_queries.h"
 
 #include <atomic>
 #include <cmath>
@@ -18,9 +18,9 @@
 #include "app_controller.h"
 #include "app_test_support.h"
 #include "discounted_cfr.h"
-#include "node_preparer.h"
-#include "reach_grid.h"
-#include "solve_config_map.h"
+#include "results/node_preparer.h"
+#include "results/reach_grid.h"
+#include "spot_config.h"
 
 namespace {
 

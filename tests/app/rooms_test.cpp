@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include "app_test_support.h"
-#include "developer_mode.h"
 #include "node_lock_table.h"
-#include "processor_count.h"
 #include "report_inbox.h"
 #include "solve_outcome.h"
+#include "system/developer_mode.h"
+#include "system/processor_count.h"
 #include "tree_mirror.h"
 
 using velmora::NodeLockEntry;

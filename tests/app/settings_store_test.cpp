@@ -8,8 +8,8 @@
 
 #include "app_controller.h"
 #include "app_test_support.h"
-#include "language_manager.h"
-#include "update_manager.h"
+#include "services/language_manager.h"
+#include "services/update_manager.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 
 #include "app_controller.h"
 #include "app_test_support.h"
-#include "solve_activity.h"
-#include "trainer_stats.h"
+#include "services/solve_activity.h"
+#include "services/trainer_stats.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "update_manager.h"
+#include "services/update_manager.h"
 
 #include <functional>
 #include <memory>

@@ -1,10 +1,10 @@
-#include "range_edit.h"
-
 #include <algorithm>
 #include <map>
 #include <random>
 
 #include <gtest/gtest.h>
+
+#include "range.h"
 
 namespace velmora {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "hand_eval.h"
 #include "instruction_set.h"
-#include "payoff_lanes.h"
+#include "payoffs.h"
 #include "plain_kernels.h"
 #include "rows.h"
 #include "spots.h"

@@ -4,7 +4,7 @@
 
 #include "cards.h"
 #include "fuzz_support.h"
-#include "solve_config_map.h"
+#include "spot_config.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace velmora;

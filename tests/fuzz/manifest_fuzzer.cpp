@@ -2,7 +2,7 @@
 #include <QString>
 
 #include "fuzz_support.h"
-#include "update_manifest.h"
+#include "services/update_manifest.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text = fuzz::text_of(data, size);

@@ -12,7 +12,7 @@
 #include "fuzz_support.h"
 #include "project_reader.h"
 #include "project_writer.h"
-#include "result_queries.h"
+#include "results/result_queries.h"
 
 namespace {
 

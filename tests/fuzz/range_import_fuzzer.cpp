@@ -3,7 +3,7 @@
 #include <QUrl>
 
 #include "fuzz_support.h"
-#include "range_edit.h"
+#include "range.h"
 #include "text_files.h"
 
 namespace {

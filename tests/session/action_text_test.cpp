@@ -1,8 +1,8 @@
-#include "action_text.h"
-
 #include <vector>
 
 #include <gtest/gtest.h>
+
+#include "results/actions.h"
 
 namespace velmora_app {
 namespace {

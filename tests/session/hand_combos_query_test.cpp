@@ -5,9 +5,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "hand_combos.h"
-#include "node_reach.h"
 #include "query_spots.h"
+#include "results/hands.h"
+#include "results/node.h"
 
 namespace session_test {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "game.h"
 #include "runs.h"
-#include "spot_translation.h"
+#include "spot.h"
 
 namespace session_test {
 namespace {

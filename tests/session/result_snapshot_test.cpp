@@ -1,12 +1,11 @@
-#include "result_snapshot.h"
-
 #include <cmath>
 #include <limits>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "action_text.h"
+#include "results/actions.h"
+#include "results/snapshot.h"
 #include "runs.h"
 
 namespace session_test {

@@ -12,7 +12,7 @@
 #include "fault_scope.h"
 #include "game.h"
 #include "runs.h"
-#include "spot_translation.h"
+#include "spot.h"
 #include "worker_pool.h"
 
 namespace session_test {

@@ -1,8 +1,8 @@
-#include "spot_check.h"
-
 #include <functional>
 
 #include <gtest/gtest.h>
+
+#include "spot.h"
 
 using velmora_app::check_spot;
 using velmora_app::SolveConfig;

@@ -8,12 +8,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "action_stats.h"
-#include "equity.h"
-#include "hand_buckets.h"
 #include "query_spots.h"
-#include "showdown.h"
-#include "strategy_grid.h"
+#include "results/actions.h"
+#include "results/equity.h"
+#include "results/hands.h"
+#include "results/strategy.h"
 
 namespace session_test {
 namespace {

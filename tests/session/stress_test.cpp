@@ -9,14 +9,13 @@
 
 #include <gtest/gtest.h>
 
-#include "action_stats.h"
 #include "discounted_cfr.h"
 #include "game.h"
-#include "hand_buckets.h"
-#include "hand_combos.h"
 #include "memory_estimate.h"
+#include "results/actions.h"
+#include "results/hands.h"
+#include "results/strategy.h"
 #include "runs.h"
-#include "strategy_grid.h"
 
 namespace session_test {
 namespace {

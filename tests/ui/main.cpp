@@ -11,10 +11,10 @@
 #include <QtQuickTest>
 
 #include "app_controller.h"
-#include "language_manager.h"
 #include "read_back.h"
+#include "services/language_manager.h"
+#include "services/update_manager.h"
 #include "turn_clock.h"
-#include "update_manager.h"
 
 extern void qml_register_types_Velmora();
 
