@@ -129,7 +129,7 @@ class AppController : public QObject {
 
   /// A solve of nothing, which is refused for its board.
   Q_INVOKABLE void startSolve();
-  /// Starts the solve that a solve configuration map describes. A refusal is told by `statusText`.
+  /// Starts the solve that a solve configuration map describes. `statusText` holds a refusal.
   Q_INVOKABLE void startSolveWithConfig(const QVariantMap& cfg);
   /// Solves the latest spot again with the node locks in force.
   Q_INVOKABLE void reSolveWithNodeLocks();
@@ -245,7 +245,7 @@ class AppController : public QObject {
   /// A node's answers could not be computed; `error` says why.
   void nodeAnswersFailed(int nodeIndex, const QString& error);
   void fileProgressChanged();
-  /// `error` tells why it is not `ok`.
+  /// `error` says why it is not `ok`.
   void projectSaved(bool ok, const QString& error);
   /// `answer` is that of `loadProject`.
   void projectLoaded(const QVariantMap& answer);

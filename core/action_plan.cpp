@@ -35,7 +35,7 @@ class PlanBuilder {
       : settings_(settings), cards_(cards), nodes_(nodes), actions_(actions), children_(children) {}
 
   /// Writes the betting of the first street in order and, in parallel, what lies below the cards
-  /// that it leads to: `counter` tells how much room each of them takes.
+  /// that it leads to: `counter` gives the places that each of them takes.
   void build(PlanCounter& counter, std::size_t workers) {
     Cursor cursor;
     const std::size_t end = nodes_.size();

@@ -98,8 +98,8 @@ SeatSizing parse_seat_texts(const StreetSizingText& texts) {
   return parse_seat_sizing(normal.bets, normal.raises);
 }
 
-/// Tells whose sizes were at fault. A fault of the normal form itself comes up again here, and
-/// reaches the caller bare.
+/// Names the seat whose sizes were at fault. A fault of the normal form itself comes up again here,
+/// and reaches the caller bare.
 [[noreturn]] void throw_in_context(std::string_view seat, std::string_view street,
                                    const StreetSizingText& texts, const std::string& what) {
   const NormalTexts normal = normalize_texts(texts);

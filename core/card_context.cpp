@@ -139,10 +139,11 @@ void fill_matchup_weights(CachedArtifacts& tables) {
     double sum = 0;
     for (std::size_t i = 0; i < tables.pockets[seat].size(); ++i) {
       const Pocket pocket = tables.pockets[seat][i];
-      const HandIndex twin = tables.same_hand_index[seat][i];
+      const HandIndex same_cards = tables.same_hand_index[seat][i];
       // Inclusion and exclusion: the identical pocket has been taken out with both of its cards.
-      const double same =
-          twin == kNoHand ? 0.0 : static_cast<double>(tables.hand_weights[opponent][twin]);
+      const double same = same_cards == kNoHand
+                              ? 0.0
+                              : static_cast<double>(tables.hand_weights[opponent][same_cards]);
       const double meets = total[opponent] - card_total[opponent][low_card(pocket)] -
                            card_total[opponent][high_card(pocket)] + same;
       const double value =
@@ -264,14 +265,15 @@ class SweepWriter {
 
  private:
   void add_hand(HandIndex hand, CardCode a, CardCode b, Seat seat) {
-    // A hand without a twin finds zeros behind the padded row of the other seat's hands.
+    // A hand that the other range does not hold finds zeros behind the padded row of the other
+    // seat's hands.
     const std::size_t nobody = padded(tables_.pockets[opponent_of(seat)].size());
-    const HandIndex twin = tables_.same_hand_index[seat][hand];
+    const HandIndex same_cards = tables_.same_hand_index[seat][hand];
     tables_.sweep_tables.hands[place_.hands++] = {
         static_cast<std::uint16_t>(hand * sizeof(float)),
         static_cast<std::uint16_t>(a * sizeof(double)),
         static_cast<std::uint16_t>(b * sizeof(double)),
-        static_cast<std::uint16_t>((twin == kNoHand ? nobody : twin) * sizeof(float))};
+        static_cast<std::uint16_t>((same_cards == kNoHand ? nobody : same_cards) * sizeof(float))};
   }
   void add_blocked(std::size_t hand) {
     tables_.sweep_tables.blocked[place_.blocked++] =

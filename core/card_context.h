@@ -47,7 +47,8 @@ struct SweepHand {
   std::uint16_t hand;    ///< Hand index times 4, the bytes of a float.
   std::uint16_t card_a;  ///< Card code times 8, the bytes of a double.
   std::uint16_t card_b;
-  std::uint16_t twin;  ///< The other seat's hand of the same two cards, times 4; or `no_twin`.
+  std::uint16_t same_cards;  ///< The other seat's hand of the same two cards, times 4; or the
+                             ///< offset of a zero.
 
   bool operator==(const SweepHand&) const = default;
 };
@@ -74,7 +75,7 @@ struct RunoutOrder {
   std::span<const StrengthGroup> groups;
 };
 
-/// What the lists of `RunoutOrder` are views into: one stretch for each run-out.
+/// What the lists of `RunoutOrder` are views into: one run of entries for each run-out.
 struct SweepTables {
   PageArray<SweepHand> hands;
   PageArray<StrengthGroup> groups;

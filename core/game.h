@@ -42,7 +42,8 @@ class Game {
   }
   /// For each folded card of a chance node: position of the child that stands for it.
   const std::vector<std::uint8_t>& chance_refs(const PlanNode& node) const;
-  /// The hands that the i-th folded card of a chance node exchanges against its twin's.
+  /// The hands that the i-th folded card of a chance node exchanges against those of the card that
+  /// stands for it.
   const BySeat<SwapList>& chance_swaps(const PlanNode& node, std::size_t i) const;
 
   /// True if the solver of this game keeps its tables compressed.

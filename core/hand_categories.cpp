@@ -93,7 +93,7 @@ CategorySet tags_of(std::span<const CardCode> board, Pocket pocket) {
     return tags;
   }
 
-  // Step 3. What it did not become: told of hands that have added nothing to the board. Their turn
+  // Step 3. What it did not become: given to hands that have added nothing to the board. Their turn
   // held no straight or flush, since their river does not.
   if (made <= kOnePair && made_category(board) == made) {
     const std::vector<CardCode> turn = with_pocket(pocket, board.first(4));
@@ -163,7 +163,7 @@ std::uint32_t made_category(std::span<const CardCode> cards) {
     ++suit_counts[suit_of(card)];
     suits[suit_of(card)] |= RankMask{1} << rank_of(card);
   }
-  // A flush leaves no room for four of a kind or a full house among seven cards.
+  // A flush excludes four of a kind or a full house among seven cards.
   for (std::size_t suit = 0; suit < suits.size(); ++suit) {
     if (suit_counts[suit] >= 5) return holds_straight(suits[suit]) ? kStraightFlush : kFlush;
   }

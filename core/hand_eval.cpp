@@ -63,7 +63,7 @@ HandStrength evaluate_seven(std::span<const CardCode, 7> cards) {
     suit_counts += std::uint32_t{1} << (8 * suit);
   }
 
-  // Step 2. A flush leaves no room for four of a kind or a full house among seven cards.
+  // Step 2. A flush excludes four of a kind or a full house among seven cards.
   if (const std::uint32_t flush = suit_counts & 0x08080808; flush != 0) {
     const int suit = std::countr_zero(flush) / 8;
     const auto mask = static_cast<RankMask>((suit_masks >> (16 * suit)) & 0x1FFF);

@@ -339,7 +339,7 @@ VELMORA_BODY average_values_actions(float* __restrict result, const float* __res
   }
 }
 
-/// Floats of a vector that has room for `W` doubles.
+/// Floats of a vector that holds `W` doubles.
 template <int W>
 constexpr int kFloats = 2 * W;
 /// As many as rows are padded to, at most.

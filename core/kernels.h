@@ -1,7 +1,7 @@
 // The solver's loops over rows of floats. `n` is a number of cells; a table of A actions holds A
 // rows of H cells, one behind the other, while `values` are A rows of H cells anywhere. H and n are
 // multiples of 8: rows are padded, and what stands in the padding is computed along and read by
-// nobody. Each product and each sum is rounded by itself, in the order told, so results are equal
+// nobody. Each product and each sum is rounded by itself, in the order given, so results are equal
 // on every instruction set.
 #pragma once
 
@@ -25,7 +25,7 @@ void update_strategy_sum(float* sums, const float* strategy, float gamma, std::s
 /// subtracts result[h].
 void update_regrets(float* regrets, ValueRows values, const float* result, std::size_t A,
                     std::size_t H, float alpha, float beta);
-/// out[a][h] = strategy[a][h] * reach[h]. `live[a]` tells whether anything of row a is not 0.
+/// out[a][h] = strategy[a][h] * reach[h]. `live[a]` says whether anything of row a is not 0.
 void split_rows(float* out, bool* live, const float* strategy, const float* reach, std::size_t A,
                 std::size_t H);
 /// out[i] = x[i] * factor.

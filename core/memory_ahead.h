@@ -6,13 +6,13 @@
 
 namespace velmora {
 
-/// A list of stretches of memory that will be used soon. A loop that leaves the memory idle makes a
+/// A list of blocks of memory that will be used soon. A loop that leaves the memory idle makes a
 /// `Cursor` and steps it now and then; each step asks for one cache line.
 class MemoryAhead {
  public:
   void add(const void* begin, std::size_t bytes) {
     const char* const first = static_cast<const char*>(begin);
-    stretches_.push_back({first, first + bytes});
+    blocks_.push_back({first, first + bytes});
   }
 
   /// The place in the list, kept by the loop itself so that it stays in registers; the list gets it
@@ -31,11 +31,11 @@ class MemoryAhead {
         at_ += kCacheLine;
       }
     }
-    /// Goes on to the next stretch if this one is done; for every now and then.
+    /// Goes on to the next block if this one is done, to be called from time to time.
     void refill() {
-      if (at_ >= end_ && list_.next_ < list_.stretches_.size()) {
-        at_ = list_.stretches_[list_.next_].begin;
-        end_ = list_.stretches_[list_.next_].end;
+      if (at_ >= end_ && list_.next_ < list_.blocks_.size()) {
+        at_ = list_.blocks_[list_.next_].begin;
+        end_ = list_.blocks_[list_.next_].end;
         ++list_.next_;
       }
     }
@@ -49,14 +49,14 @@ class MemoryAhead {
  private:
   static constexpr std::size_t kCacheLine = 64;
 
-  struct Stretch {
+  struct Block {
     const char* begin = nullptr;
     const char* end = nullptr;
   };
 
-  std::vector<Stretch> stretches_;
+  std::vector<Block> blocks_;
   std::size_t next_ = 0;
-  Stretch current_;
+  Block current_;
 };
 
 }  // namespace velmora

@@ -100,7 +100,7 @@ VELMORA_BODY fold_lanes(SweepList own, SweepList opp, const Batch& batch, Memory
   cursor.refill();
   const SweepHand* const own_end = own.data() + own.size();
   for (const SweepHand* h = own.data(); h != own_end; ++h) {
-    const Amounts same = Amounts::widen(at<L>(reach, h->twin));
+    const Amounts same = Amounts::widen(at<L>(reach, h->same_cards));
     ((total + same - sums.of(h->card_a) - sums.of(h->card_b)) * amount)
         .narrow()
         .store(at<L>(results, h->hand));
@@ -220,7 +220,7 @@ VELMORA_BODY showdown_lanes_raked(const RunoutOrder& order, Seat seat, const Bat
       const Amounts below = Amounts::load(look);
       const Amounts up_to = sums.seen_by(*own, total);
       const Amounts stronger = all.seen_by(*own, all_total) - up_to;
-      const Amounts same = Amounts::widen(at<L>(reach, own->twin));
+      const Amounts same = Amounts::widen(at<L>(reach, own->same_cards));
       const Amounts ties = up_to - below + same;
       const Amounts gain = ties * tie + below * win + stronger * lose;
       put<kAdds>(gain.narrow(), at<L>(results, own->hand));

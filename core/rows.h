@@ -38,7 +38,7 @@ class FloatList {
     grow(padded(length));
     return {cells_.data(), length};
   }
-  /// Room for `count` padded rows one behind the other.
+  /// Space for `count` padded rows one behind the other.
   float* rows(std::size_t count, std::size_t length) {
     grow(count * padded(length));
     return cells_.data();

@@ -42,7 +42,7 @@ class ScratchStack {
   /// Bytes that a stack takes from the machine when so many are in use at most: whole huge pages.
   static double resident_bytes(double bytes) { return std::ceil(bytes / kHugePage) * kHugePage; }
 
-  /// Room for `count` items that hold anything, on a cache line. Throws `std::bad_alloc`.
+  /// Space for `count` items that hold anything, on a cache line. Throws `std::bad_alloc`.
   template <typename T>
   T* take(std::size_t count) {
     static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
@@ -64,9 +64,9 @@ class ScratchStack {
       blocks_.push_back(PageArray<char>(size > kBlockBytes ? size : kBlockBytes));
       used_ = 0;
     }
-    void* const room = blocks_[block_].data() + used_;
+    void* const space = blocks_[block_].data() + used_;
     used_ += size;
-    return room;
+    return space;
   }
 
   std::vector<PageArray<char>> blocks_;

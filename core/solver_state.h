@@ -55,7 +55,7 @@ class SolverState {
   /// False at a chance node with two edges to one child: its branches share tables.
   bool parallel_safe(std::size_t node) const { return parallel_safe_[node] != 0; }
 
-  /// A node's regrets in float form; `scratch` lends the room where they are compressed.
+  /// A node's regrets in float form; `scratch` lends the space where they are compressed.
   const float* regrets(const NodeState& state, ScratchStack& scratch) const;
   const float* strategy_sums(const NodeState& state, ScratchStack& scratch) const;
 

@@ -35,7 +35,7 @@ struct StreetShape {
   /// Nodes of a street before the river are as far apart as the cards below them ask, and that
   /// differs between boards; on the river they follow each other.
   bool river = false;
-  /// On the river: offsets of a seat's first and last decision, whose tables stand in one stretch.
+  /// On the river: offsets of a seat's first and last decision, whose tables are contiguous.
   struct Decisions {
     NodeIndex first = 0;
     NodeIndex last = 0;

@@ -5,7 +5,8 @@
 namespace velmora {
 namespace {
 
-using SuitMap = std::array<std::optional<int>, kNumSuits>;  ///< Twin of each suit, if it has one.
+using SuitMap =
+    std::array<std::optional<int>, kNumSuits>;  ///< By suit: the lower one that it equals.
 using RankMasks = std::array<std::uint16_t, kNumSuits>;
 
 /// Suits of one class are alike in both ranges.
@@ -45,34 +46,34 @@ SwapList swaps_of(const std::vector<Pocket>& pockets, int s, int t) {
   return swaps;
 }
 
-/// Walks the cards off `dead` and calls `skip(card, twin position)` for each whose suit has a twin;
-/// the others get the positions 0, 1, ...
+/// Walks the cards off `dead` and calls `skip(card, kept position)` for each whose suit equals a
+/// lower one; the others get the positions 0, 1, ...
 template <typename Skip>
-void fold_cards(CardMask dead, const SuitMap& twins, const Skip& skip) {
+void fold_cards(CardMask dead, const SuitMap& kept_suits, const Skip& skip) {
   std::array<std::uint8_t, kNumCards> position{};
   std::uint8_t next_position = 0;
   for (CardCode card = 0; card < kNumCards; ++card) {
     if (dead & mask_of(card)) continue;
-    if (const std::optional<int> twin = twins[suit_of(card)]) {
-      skip(card, position[make_card(rank_of(card), *twin)]);
+    if (const std::optional<int> kept = kept_suits[suit_of(card)]) {
+      skip(card, position[make_card(rank_of(card), *kept)]);
     } else {
       position[card] = next_position++;
     }
   }
 }
 
-/// The lowest suit that `alike(s, t)` allows for each suit. Suit 0 never has a twin.
+/// The lowest suit that `alike(s, t)` allows for each suit. Suit 0 never has one.
 template <typename Alike>
-SuitMap find_twins(const Alike& alike) {
-  SuitMap twins;
+SuitMap find_kept_suits(const Alike& alike) {
+  SuitMap kept_suits;
   for (int s = 1; s < kNumSuits; ++s) {
-    for (int t = 0; t < s && !twins[static_cast<std::size_t>(s)]; ++t) {
+    for (int t = 0; t < s && !kept_suits[static_cast<std::size_t>(s)]; ++t) {
       if (alike(static_cast<std::size_t>(s), static_cast<std::size_t>(t))) {
-        twins[static_cast<std::size_t>(s)] = t;
+        kept_suits[static_cast<std::size_t>(s)] = t;
       }
     }
   }
-  return twins;
+  return kept_suits;
 }
 
 }  // namespace
@@ -91,18 +92,18 @@ SuitIsomorphism find_suit_isomorphism(const Board& board, const BySeat<PocketWei
   }
 
   if (board.turn == kNoCard) {
-    const SuitMap twins = find_twins([&](std::size_t s, std::size_t t) {
+    const SuitMap kept_suits = find_kept_suits([&](std::size_t s, std::size_t t) {
       return flop_masks[s] == flop_masks[t] && classes[s] == classes[t];
     });
     for (std::size_t s = 0; s < kNumSuits; ++s) {
-      if (!twins[s]) continue;
+      if (!kept_suits[s]) continue;
       for (const Seat seat : {kOop, kIp}) {
-        result.turn_swaps[s][seat] = swaps_of(pockets[seat], static_cast<int>(s), *twins[s]);
+        result.turn_swaps[s][seat] = swaps_of(pockets[seat], static_cast<int>(s), *kept_suits[s]);
       }
     }
-    fold_cards(flop, twins, [&](CardCode card, std::uint8_t twin_position) {
+    fold_cards(flop, kept_suits, [&](CardCode card, std::uint8_t kept_position) {
       result.turn_cards.push_back(card);
-      result.turn_refs.push_back(twin_position);
+      result.turn_refs.push_back(kept_position);
     });
   }
 
@@ -111,20 +112,20 @@ SuitIsomorphism find_suit_isomorphism(const Board& board, const BySeat<PocketWei
     const std::size_t turn_suit = suit_of(turn);
     RankMasks masks = flop_masks;
     masks[turn_suit] |= static_cast<std::uint16_t>(1U << rank_of(turn));
-    const SuitMap twins = find_twins([&](std::size_t s, std::size_t t) {
+    const SuitMap kept_suits = find_kept_suits([&](std::size_t s, std::size_t t) {
       const bool flop_alike = board.turn != kNoCard || flop_masks[s] == flop_masks[t];
       return flop_alike && masks[s] == masks[t] && classes[s] == classes[t];
     });
     for (std::size_t s = 0; s < kNumSuits; ++s) {
-      if (!twins[s]) continue;
+      if (!kept_suits[s]) continue;
       for (const Seat seat : {kOop, kIp}) {
         SwapList& swaps = result.river_swaps[turn_suit][s][seat];
-        if (swaps.empty()) swaps = swaps_of(pockets[seat], static_cast<int>(s), *twins[s]);
+        if (swaps.empty()) swaps = swaps_of(pockets[seat], static_cast<int>(s), *kept_suits[s]);
       }
     }
     const bool first_of_suit = result.river_cards[turn_suit].empty();
-    fold_cards(flop | mask_of(turn), twins, [&](CardCode card, std::uint8_t twin_position) {
-      result.river_refs[turn].push_back(twin_position);
+    fold_cards(flop | mask_of(turn), kept_suits, [&](CardCode card, std::uint8_t kept_position) {
+      result.river_refs[turn].push_back(kept_position);
       if (first_of_suit) result.river_cards[turn_suit].push_back(card);
     });
   }

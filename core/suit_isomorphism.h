@@ -19,9 +19,10 @@ inline constexpr HandIndex kNoHand = 65535;
 /// a pair stays itself.
 using SwapList = std::vector<std::pair<HandIndex, HandIndex>>;
 
-/// Refers each skipped card to its twin: the card of the same rank in an equal suit.
+/// Refers each skipped card to the one that stands for it: the card of the same rank in an equal
+/// suit.
 struct SuitIsomorphism {
-  /// For each entry of `turn_cards`: position of the twin among the turn cards that are kept.
+  /// For each entry of `turn_cards`: position of that card among the turn cards that are kept.
   std::vector<std::uint8_t> turn_refs;
   std::vector<CardCode> turn_cards;                    ///< The skipped turn cards, ascending.
   std::array<BySeat<SwapList>, kNumSuits> turn_swaps;  ///< By suit of the skipped card.

@@ -100,8 +100,8 @@ double Traversal::street_bytes(const CardContext& cards, const StreetCounts& tre
   // Two responses share what a terminal node pays.
   const double inner = wide(trees.decisions[kOop] + trees.decisions[kIp] + trees.deals);
   double bytes = wide(trees.nodes) * sizeof(Slot) + wide(trees.terminals()) * sizeof(PayoffLane);
-  // The lists of folds and of showdowns have room for every node. Where that is much, the huge page
-  // at which each of them ends is half empty on the average.
+  // The lists of folds and of showdowns have a place for every node. Where that is much, the huge
+  // page at which each of them ends is half empty on the average.
   const double list = wide(trees.nodes) * sizeof(PayoffLane);
   bytes += 2 * std::min(list, ScratchStack::kHugePage / 2);
   bytes += (value_rows + static_cast<double>(responses - 1) * inner) * own_row;
@@ -415,7 +415,7 @@ void Traversal::list_tables(std::span<const Line> lines, std::span<const Line> n
 }
 
 /// The value of a chance node: the sum over its cards, row by row, then over the folded deals, each
-/// of which is its twin with two suits exchanged.
+/// of which is the same card with two suits exchanged.
 void Traversal::add_up(const Deal& deal, std::size_t response, ScratchStack& scratch) {
   const ScratchStack::Frame frame(scratch);
   const std::size_t hands = game_.num_hands(seat_);

@@ -31,7 +31,7 @@ QVariantList listIn(JsonReader& in) {
   return in.array().toVariantList();
 }
 
-/// An equity that can't be told is not a number for the pages, for which a file has no word.
+/// The pages expect NaN for an unknown equity; JSON has no NaN, so a file holds null.
 QVariantList statsIn(JsonReader& in) {
   QVariantList list = listIn(in);
   for (QVariant& entry : list) {
@@ -88,7 +88,7 @@ class DocumentReader {
   }
 
  private:
-  /// Reads the elements of an array and tells how far the file has been read.
+  /// Reads the elements of an array and reports how far the file has been read.
   template <typename Read>
   void entries(const Read& read) {
     entry_ = 0;

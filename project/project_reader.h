@@ -13,5 +13,5 @@ struct ProjectReading {
 };
 
 /// What is missing in the file or of a wrong type reads as empty, 0 or false. May run on any
-/// thread. `progress` is told fractions, 0..1, and may be empty.
+/// thread. `progress` receives fractions, 0..1, and may be empty.
 ProjectReading readProject(const QString& path, const std::function<void(double)>& progress = {});

@@ -197,7 +197,7 @@ QString writeProject(const Project& project, const QString& path,
                   QCoreApplication::translate("AppController", "Failed to save file: %1"), why);
   };
   QSaveFile file(path);
-  // Unbuffered, so that each write tells what the disk has taken.
+  // Unbuffered, so that each write reports what the disk has taken.
   if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
     return failed("saveProject: failed to open:",
                   QCoreApplication::translate("AppController", "Failed to open file: %1"),

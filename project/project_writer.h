@@ -8,7 +8,7 @@
 #include "project.h"
 
 /// Writes the file, or leaves what was there. Answers with the translated reason of a failure,
-/// which is in the log as well, or with nothing. May run on any thread. `progress` is told
+/// which is in the log as well, or with nothing. May run on any thread. `progress` receives
 /// fractions, 0..1, and may be empty.
 QString writeProject(const Project& project, const QString& path,
                      const std::function<void(double)>& progress = {});

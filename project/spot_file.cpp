@@ -117,7 +117,7 @@ void read_json(const QString& path, const Read& read) {
   }
 }
 
-/// True for a member of a file that tells of the spot. What else a project holds is its results.
+/// True for a member of a file that describes the spot. What else a project holds is its results.
 bool is_of_spot(const QString& member) {
   const std::vector<Rule>& rules = spot_rules();
   return member == "format" || member == "version" || member == "project" ||

@@ -38,7 +38,7 @@ struct SolveSession::Ending {
   SolveProgress report;
   SolveResult result;
 
-  /// Makes room for the texts of exhausted memory, which may leave none for them.
+  /// Frees memory for the texts of exhausted memory, which may leave none for them.
   Ending() {
     report.status.reserve(sizeof kFailed + sizeof kNoMemory);
     result.error.reserve(sizeof kNoMemory);
@@ -135,7 +135,8 @@ void SolveSession::work(const SolveConfig& config, const Callback& callback, End
     for (int attempt = 1; !deliver(report, last); ++attempt) {
       if (attempt == kMostDeliveries) break;
       if (last.result->nodes) {
-        // The receiver has no room for the result. Once that is gone it may have room for the news.
+        // The receiver has no memory for the result. Once that is gone it may have enough for the
+        // message.
         clear();
         result = {};
         result.board = std::move(last.result->board);

@@ -78,7 +78,7 @@ void check_ranges_meet(const SpotCards& cards);
 /// Settings without the sizes. Throws `std::invalid_argument` for a rake that is no share of a pot
 /// or a cap that is no amount of chips.
 velmora::GameSettings translate_settings(const SolveConfig& config);
-/// Sizes of the three streets. A fault tells the seat, the street and the texts.
+/// Sizes of the three streets. A fault names the seat, the street and the texts.
 void translate_sizing(const SolveConfig& config, velmora::GameSettings& settings);
 /// The same with the bare text of a fault.
 void translate_sizing_bare(const SolveConfig& config, velmora::GameSettings& settings);

@@ -21,6 +21,7 @@ void writeCrashLine(std::string_view line);
 
 /// Makes faults, aborts, `std::terminate` and exhausted memory leave their line before the
 /// process dies of them; on threads that catch their faults exhausted memory is thrown as
-/// `std::bad_alloc` instead. The stack that faults are handled on, so that an overflow can be told
-/// too, serves the calling thread only; other threads handle their faults on their own stack.
+/// `std::bad_alloc` instead. The stack that faults are handled on, so that an overflow can be
+/// reported too, serves the calling thread only; other threads handle their faults on their own
+/// stack.
 void installCrashHooks();

@@ -34,8 +34,8 @@ QString memoryText(quint64 bytes) {
 }
 
 quint64 effectiveAvailableBytes(quint64 available, quint64 reclaimable, quint64 total) {
-  const quint64 room = std::numeric_limits<quint64>::max() - available;
-  const quint64 sum = available + std::min(reclaimable, room);
+  const quint64 limit = std::numeric_limits<quint64>::max() - available;
+  const quint64 sum = available + std::min(reclaimable, limit);
   return total == 0 ? sum : std::min(sum, total);
 }
 

@@ -64,7 +64,7 @@ class MemoryMonitor : public QObject {
   /// counts, in whatever order they finish.
   void requestEstimate(const QVariantMap& map);
 
-  // What is held and what may be taken. Who calls these tells the pages.
+  // What is held and what may be taken. The caller notifies the pages.
 
   /// A solve starts whose results will occupy so many bytes; 0 if that is unknown.
   void noteSolveStarted(quint64 bytes) { pendingResultBytes_ = bytes; }

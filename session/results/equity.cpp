@@ -182,7 +182,7 @@ Showdown showdown_winner(std::string_view board, std::string_view oop, std::stri
     const velmora::HandStrength mine = velmora::evaluate_hand(pocket_of(oop_text), cards);
     const velmora::HandStrength theirs = velmora::evaluate_hand(pocket_of(ip_text), cards);
     result = {mine > theirs ? "OOP" : mine < theirs ? "IP" : "TIE", mine, theirs};
-  } catch (const std::exception&) {  // NOLINT: the unknown winner tells it.
+  } catch (const std::exception&) {  // NOLINT: the unknown winner says it.
   }
   return result;
 }

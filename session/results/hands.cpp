@@ -36,7 +36,7 @@ class PricedActions {
     return evs;
   }
 
-  /// Value of the hand when it plays its actions as often as `strategy` (action-major) tells: what
+  /// Value of the hand when it plays its actions as often as `strategy` (action-major) says: what
   /// a walk from the node itself would give, to the last bit.
   double ev_of(std::size_t hand, const std::vector<float>& strategy) const {
     double value = 0;
@@ -77,7 +77,7 @@ std::optional<Pocket> pocket_of(std::string_view c1, std::string_view c2) {
     const velmora::CardCode a = velmora::parse_card(c1);
     const velmora::CardCode b = velmora::parse_card(c2);
     if (a != b) return velmora::make_pocket(a, b);
-  } catch (const std::invalid_argument&) {  // NOLINT: the empty answer tells it.
+  } catch (const std::invalid_argument&) {  // NOLINT: the empty answer says it.
   }
   return std::nullopt;
 }

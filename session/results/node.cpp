@@ -66,9 +66,9 @@ double OpponentMass::of(std::size_t hand) const {
   const Sum& high = by_card_[velmora::high_card(pocket)];
   // The one hand of the same two cards is in both sums, and is put back once.
   Sum same;
-  const velmora::HandIndex twin = cards_.same_hand_index(seat_)[hand];
-  if (twin < opponent_reach_.size() && counts(opponent_reach_[twin])) {
-    same.add(opponent_reach_[twin]);
+  const velmora::HandIndex same_cards = cards_.same_hand_index(seat_)[hand];
+  if (same_cards < opponent_reach_.size() && counts(opponent_reach_[same_cards])) {
+    same.add(opponent_reach_[same_cards]);
   }
   // Sums of very different size leave a rest that means nothing where there is nothing to meet.
   if (same.hands + total_.hands - low.hands - high.hands == 0) return 0;
