@@ -11,7 +11,7 @@ class ReadBack : public QObject {
  public:
   using QObject::QObject;
 
-  /// "ok", "board", "iterations", "exploitability", "nodeCount", "strategy" (of the root) and "locks" (of
-  /// the root), from a controller that knows nothing but the file.
+  /// "ok", "board", "iterations", "exploitability", "nodeCount", "strategy" (of the root) and
+  /// "locks" (of the root), from a controller that knows nothing but the file.
   Q_INVOKABLE QVariantMap of(const QUrl& file) const;
 };

@@ -4,9 +4,9 @@
 #include <QList>
 #include <QObject>
 
-/// Cuts the work of the thread that makes it into turns of its event loop: what comes in during a turn
-/// waits for the end of it. Turns are measured in milliseconds of the thread's own processor time,
-/// which a busy machine does not stretch.
+/// Cuts the work of the thread that makes it into turns of its event loop: what comes in during a
+/// turn waits for the end of it. Turns are measured in milliseconds of the thread's own processor
+/// time, which a busy machine does not stretch.
 class TurnClock : public QObject {
   Q_OBJECT
 
