@@ -1,4 +1,5 @@
-// Preflop ranges: their text notation and the weight of each of the 1326 two-card pockets.
+// Preflop ranges: their text notation, the weight of each of the 1326 two-card pockets, and editing
+// a text hand by hand.
 #pragma once
 
 #include <array>

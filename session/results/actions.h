@@ -1,4 +1,4 @@
-// The actions of a node side by side: how often they are played and what they bring.
+// The actions of a node side by side: their labels, how often they are played and what they bring.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// How often a weighted set of hands wins against another one.
+// How often a weighted set of hands wins against another one, and who wins a showdown.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,5 @@
-// Single hands at a node: how often they get there, what they do and what that is worth.
+// Single hands at a node: how often they get there, what they do and what that is worth; and the
+// same by hand category.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
-// What every query asks first: whether there is a result, and a node in it to answer for.
+// A node of a result: whether there is one to answer for, how it is reached, and how the solver's
+// values there become chips.
 #pragma once
 
 #include <array>
