@@ -20,7 +20,7 @@ Item {
     readonly property real _fit: Math.min(_small ? 1 : 1.5, picture.paintedHeight / (_small ? 280 : 460))
     readonly property real _seatScale: (_small ? 0.62 : 0.95) * _fit
     readonly property string _actingSeat: play.playHandComplete ? _heroSeat : play.playMeta.player ?? ""
-    /// Where the end of a hand is told: at the seat that went wrong, else at the user's own.
+    /// Where the end of a hand is shown: at the seat that went wrong, else at the user's own.
     readonly property string _heroSeat: play.lastHand?.mistakeActor || (play.playRole === "IP" ? "IP" : "OOP")
     readonly property var _meta: play.playMeta
     /// For text on the table, which is dark in both modes.
