@@ -4,7 +4,6 @@
 #include <QString>
 
 #include "cards.h"
-#include "commands.h"
 #include "fuzz_support.h"
 #include "spot_file.h"
 
