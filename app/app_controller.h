@@ -1,6 +1,7 @@
 // The one object through which the pages reach the solver.
 #pragma once
 
+#include <limits>
 #include <memory>
 
 #include <QObject>
@@ -46,6 +47,8 @@ class AppController : public QObject {
   Q_PROPERTY(bool running READ running NOTIFY runningChanged)
   Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
   Q_PROPERTY(QString statusText READ statusText NOTIFY statusTextChanged)
+  Q_PROPERTY(int iteration READ iteration NOTIFY statusTextChanged)
+  Q_PROPERTY(double exploitability READ exploitability NOTIFY statusTextChanged)
   Q_PROPERTY(QString resultsSummary READ resultsSummary NOTIFY resultsChanged)
   Q_PROPERTY(int resultStartingPot READ resultStartingPot NOTIFY resultsChanged)
   Q_PROPERTY(int resultIterations READ resultIterations NOTIFY resultsChanged)
@@ -90,6 +93,11 @@ class AppController : public QObject {
   bool running() const { return running_; }
   double progress() const { return progress_; }
   QString statusText() const { return statusText_; }
+  /// The figures of `statusText` while a run iterates. The iteration counts from 1, the
+  /// exploitability is in chips. 0 and not a number where the text has none, and the latter also
+  /// before the first measure.
+  int iteration() const { return iteration_; }
+  double exploitability() const { return exploitability_; }
   QString resultsSummary() const { return outcome_.summary; }
   int resultStartingPot() const { return outcome_.startingPot; }
   int resultIterations() const { return outcome_.iterations; }
@@ -253,7 +261,8 @@ class AppController : public QObject {
  private:
   void setRunning(bool running);
   void setProgress(double progress);
-  void setStatus(const QString& text);
+  void setStatus(const QString& text, int iteration = 0,
+                 double exploitability = std::numeric_limits<double>::quiet_NaN());
 
   void setResultUnsaved(bool unsaved);
 
@@ -280,6 +289,8 @@ class AppController : public QObject {
   bool running_ = false;
   double progress_ = 0;
   QString statusText_;
+  int iteration_ = 0;
+  double exploitability_ = std::numeric_limits<double>::quiet_NaN();
   QString lastRunOutcome_;
   QString lastRunText_;
 
