@@ -105,9 +105,11 @@ void AppController::setProgress(double progress) {
   emit progressChanged();
 }
 
-void AppController::setStatus(const QString& text) {
+void AppController::setStatus(const QString& text, int iteration, double exploitability) {
   if (text == statusText_) return;
   statusText_ = text;
+  iteration_ = iteration;
+  exploitability_ = exploitability;
   emit statusTextChanged();
 }
 
@@ -310,7 +312,10 @@ void AppController::handleSolveProgress(const SolveProgress& report) {
                               << " status=" << QString::fromStdString(report.status)
                               << " has_result=" << report.result.has_value();
   setProgress(report.progress);
-  setStatus(QString::fromStdString(report.status));
+  const bool measured = report.iteration >= velmora_app::kCheckInterval;
+  setStatus(QString::fromStdString(report.status), static_cast<int>(report.iteration),
+            measured ? static_cast<double>(report.exploitability)
+                     : std::numeric_limits<double>::quiet_NaN());
   if (!report.result) return;  // A run ends with its result, even if its thread is gone by now.
 
   const SolveResult& result = *report.result;

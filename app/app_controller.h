@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <limits>
 #include <memory>
 
 #include <QObject>
@@ -44,6 +45,8 @@ class AppController : public QObject {
   Q_PROPERTY(bool running READ running NOTIFY runningChanged)
   Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
   Q_PROPERTY(QString statusText READ statusText NOTIFY statusTextChanged)
+  Q_PROPERTY(int iteration READ iteration NOTIFY statusTextChanged)
+  Q_PROPERTY(double exploitability READ exploitability NOTIFY statusTextChanged)
   Q_PROPERTY(QString resultsSummary READ resultsSummary NOTIFY resultsChanged)
   Q_PROPERTY(int resultStartingPot READ resultStartingPot NOTIFY resultsChanged)
   Q_PROPERTY(int resultIterations READ resultIterations NOTIFY resultsChanged)
@@ -89,6 +92,11 @@ class AppController : public QObject {
   bool running() const { return running_; }
   double progress() const { return progress_; }
   QString statusText() const { return statusText_; }
+  /// The figures of `statusText` while a run iterates. The iteration counts from 1, the
+  /// exploitability is in chips. 0 and not a number where the text has none, and the latter also
+  /// before the first measure.
+  int iteration() const { return iteration_; }
+  double exploitability() const { return exploitability_; }
   QString resultsSummary() const { return project_.outcome.summary; }
   int resultStartingPot() const { return project_.outcome.startingPot; }
   int resultIterations() const { return project_.outcome.iterations; }
@@ -254,7 +262,8 @@ class AppController : public QObject {
  private:
   void setRunning(bool running);
   void setProgress(double progress);
-  void setStatus(const QString& text);
+  void setStatus(const QString& text, int iteration = 0,
+                 double exploitability = std::numeric_limits<double>::quiet_NaN());
 
   void setResultUnsaved(bool unsaved);
 
@@ -281,6 +290,8 @@ class AppController : public QObject {
   bool running_ = false;
   double progress_ = 0;
   QString statusText_;
+  int iteration_ = 0;
+  double exploitability_ = std::numeric_limits<double>::quiet_NaN();
   QString lastRunOutcome_;
   QString lastRunText_;
 

@@ -21,7 +21,7 @@ namespace {
 /// Reports before the end stay below a full bar.
 constexpr double kMostProgress = 0.999;
 
-/// The pages read the number out of the text, so it must not follow the user's locale.
+/// The same text in every locale.
 std::string iteration_status(std::uint32_t iteration, float exploitability) {
   std::array<char, 64> digits{};
   char* const end = std::to_chars(digits.data(), digits.data() + digits.size(),

@@ -13,8 +13,11 @@ QtObject {
     readonly property bool running: controller.running
     readonly property string statusText: controller.statusText
     /// The status in the user's language.
-    readonly property string shownStatus: _shown(statusText)
-    readonly property bool isFinalizing: running && SolveStatus.isFinalizingText(statusText)
+    readonly property string shownStatus: controller.iteration > 0
+        ? qsTr("Iteration %1 | exploitability=%2").arg(controller.iteration)
+          .arg(controller.iteration > SolveStatus.firstMeasure ? controller.exploitability.toFixed(4) : "—")
+        : _shown(statusText)
+    readonly property bool isFinalizing: running && statusText.startsWith("Finalizing:")
     readonly property bool runComplete: !running && controller.resultIterations > 0
     property int lastIterationSeen: 0
 
@@ -23,9 +26,8 @@ QtObject {
             return controller.resultIterations
         if (isFinalizing && lastIterationSeen > 0)
             return lastIterationSeen
-        const iteration = SolveStatus.parseIterationFromStatusText(statusText)
-        if (iteration > 0)
-            return iteration
+        if (controller.iteration > 0)
+            return controller.iteration
         return Math.max(0, Math.floor(controller.progress * Math.max(1, maxIterations)))
     }
     readonly property int progressWheelTotalIterations:
@@ -35,19 +37,16 @@ QtObject {
         : (runComplete ? 1 : 0)
     readonly property int percentage: Math.round(progressWheelValue * 100)
 
-    /// Chips, or undefined while there is none: what a run reports before its first measure is no value.
+    /// Chips, or undefined while there is none. That of a run has the four decimals of its status, so
+    /// that a shorter form of it is rounded alike everywhere.
     readonly property var currentExploitabilityValue: {
-        if (running)
-            return currentIteration > SolveStatus.firstMeasure
-                ? SolveStatus.parseExploitabilityFromStatusText(statusText) : undefined
-        return controller.resultExploitability > 0 ? controller.resultExploitability : undefined
+        if (!running)
+            return controller.resultExploitability > 0 ? controller.resultExploitability : undefined
+        return currentIteration > SolveStatus.firstMeasure && isFinite(controller.exploitability)
+            ? Number(controller.exploitability.toFixed(4)) : undefined
     }
 
     function _shown(text: string): string {
-        const iteration = SolveStatus.parseIterationLine(text)
-        if (iteration)
-            return qsTr("Iteration %1 | exploitability=%2").arg(iteration.iteration)
-                   .arg(Number(iteration.iteration) > SolveStatus.firstMeasure ? iteration.value : "—")
         if (text.startsWith("Error: "))
             return qsTr("Error: %1").arg(text.slice(7))
         switch (text) {
@@ -73,9 +72,8 @@ QtObject {
     }
 
     onStatusTextChanged: {
-        const iteration = SolveStatus.parseIterationFromStatusText(statusText)
-        if (running && iteration > 0)
-            lastIterationSeen = iteration
+        if (running && controller.iteration > 0)
+            lastIterationSeen = controller.iteration
     }
     onRunningChanged: {
         if (!running)

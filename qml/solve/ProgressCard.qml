@@ -16,21 +16,15 @@ Card {
     readonly property int iterationWindowValue: follower.running
         ? SolveStatus.iterationWindowValue(follower.currentIteration, iterationWindowSize) : 0
 
-    function _iterationLine(iteration: string, value: string): string {
-        return qsTr("Iteration %1 | exploitability=%2").arg(iteration).arg(value)
-    }
-
     function _statusLine(): string {
-        const text = follower.statusText
         if (!follower.running)
             return follower.shownStatus || qsTr("Ready to solve")
         if (follower.isFinalizing)
             return follower.shownStatus || qsTr("Finalizing…")
         if (follower.currentIteration > 0)
-            return _iterationLine(follower.currentIteration, SolveStatus.formatExploitabilityForUi(
-                follower.currentIteration, follower.currentExploitabilityValue))
-        const parts = SolveStatus.parseIterationLine(text)
-        return parts ? _iterationLine(parts.iteration, parts.value) : follower.shownStatus
+            return qsTr("Iteration %1 | exploitability=%2").arg(follower.currentIteration)
+                   .arg(SolveStatus.formatExploitabilityForUi(follower.currentIteration, follower.currentExploitabilityValue))
+        return follower.shownStatus
     }
 
     ColumnLayout {

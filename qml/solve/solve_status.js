@@ -1,36 +1,9 @@
 .pragma library
 
-// Reads the status texts of a running solve, and scales its progress wheel.
+// How the Solve page shows the figures of a run.
 
-/// The iteration after which the exploitability is measured for the first time.
+/// The exploitability of a run is shown from the iteration after this one on, its first measure.
 const firstMeasure = 50
-
-const _number = "([-+]?(?:\\d+\\.?\\d*|\\.\\d+)(?:e[-+]?\\d+)?|inf(?:inity)?|nan)"
-
-/// True for the texts after the last iteration, while the result is being built.
-function isFinalizingText(statusText) {
-    return statusText.startsWith("Finalizing:")
-}
-
-/// The iteration of a status text, 0 if it has none.
-function parseIterationFromStatusText(statusText) {
-    const match = /Iter\s+(\d+)/.exec(statusText)
-    return match ? Number(match[1]) : 0
-}
-
-/// The exploitability of a status text in chips, or undefined.
-function parseExploitabilityFromStatusText(statusText) {
-    const match = new RegExp("exploitability≈\\s*" + _number, "i").exec(statusText)
-    const value = match ? Number(match[1]) : NaN
-    return isFinite(value) ? value : undefined
-}
-
-/// {iteration, value} as texts for a status text of the form "Iter 7 | exploitability≈0.5", also
-/// with an equals sign; undefined for any other.
-function parseIterationLine(statusText) {
-    const match = /^Iter\s+(\d+)\s.*exploitability\s*[=≈]\s*(\S+)/.exec(statusText)
-    return match ? { iteration: match[1], value: match[2] } : undefined
-}
 
 /// The iteration at which the wheel is full: a solve stops early at its target, the sooner the
 /// higher it is. `target` is in percent of the pot.

@@ -1,5 +1,6 @@
 #include "app_controller.h"
 
+#include <cmath>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -177,6 +178,35 @@ TEST_F(AppControllerTest, SolvesASpotAndShowsItsResult) {
   EXPECT_EQ(controller.resultIterations(), 0);
   EXPECT_EQ(controller.treeNodeCount(), 0);
   EXPECT_EQ(results.count(), 2);
+}
+
+TEST_F(AppControllerTest, TheFiguresOfARunAreThoseOfItsStatus) {
+  AppController controller;
+  int reports = 0;
+  int unmeasured = 0;
+  QObject::connect(&controller, &AppController::statusTextChanged, &controller, [&] {
+    const QString text = controller.statusText();
+    const int iteration = controller.iteration();
+    const bool iterates = text.startsWith("Iter ");
+    reports += iterates ? 1 : 0;
+    EXPECT_EQ(iteration > 0, iterates) << text.toStdString();
+    EXPECT_EQ(std::isnan(controller.exploitability()), iteration < 50) << text.toStdString();
+    if (!iterates) return;
+    unmeasured += iteration < 50 ? 1 : 0;
+    const double shown = iteration < 50 ? 0 : controller.exploitability();
+    EXPECT_EQ(text, QStringLiteral("Iter %1 | exploitability≈%2")
+                        .arg(QString::number(iteration), QString::number(shown, 'f', 4)));
+  });
+  // Wide enough for its iterations to be seen one by one.
+  QVariantMap spot = endlessSpot();
+  spot["oop_range"] = spot["ip_range"] = "100%";
+  spot["board"] = "KsQd7h2c";
+  spot["starting_street"] = "turn";
+  controller.startSolveWithConfig(spot);
+  ASSERT_TRUE(waitUntil([&] { return reports > unmeasured; }));
+  EXPECT_GT(unmeasured, 0);
+  controller.cancelSolve();
+  ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
 }
 
 TEST_F(AppControllerTest, AFailedSolveTellsWhy) {

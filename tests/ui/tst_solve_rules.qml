@@ -26,28 +26,6 @@ TestCase {
         compare(SolveGate.hasEnoughRamToSolve(data.required, data.available, data.reclaimable), data.enough)
     }
 
-    function test_status_texts_data() {
-        return [
-            { tag: "running", text: "Iter 51 | exploitability≈1.2500", iteration: 51, value: 1.25 },
-            { tag: "not measured", text: "Iter 3 | exploitability≈inf", iteration: 3 },
-            { tag: "init", text: "Init: starting solver...", iteration: 0 },
-            { tag: "finalizing", text: "Finalizing: computing results...", iteration: 0, finalizing: true }
-        ]
-    }
-
-    function test_status_texts(data) {
-        compare(SolveStatus.parseIterationFromStatusText(data.text), data.iteration)
-        compare(SolveStatus.parseExploitabilityFromStatusText(data.text), data.value)
-        compare(SolveStatus.isFinalizingText(data.text), data.finalizing === true)
-    }
-
-    function test_iteration_line() {
-        const line = SolveStatus.parseIterationLine("Iter 7 of many, exploitability = 0.5")
-        compare(line.iteration, "7")
-        compare(line.value, "0.5")
-        compare(SolveStatus.parseIterationLine("Init: Iter 7 | exploitability≈1"), undefined)
-    }
-
     function test_exploitability_shown_data() {
         return [
             { tag: "50", value: 1, shown: "∞" },
