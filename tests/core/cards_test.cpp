@@ -41,20 +41,6 @@ TEST(Cards, EveryCodeHasOneTextInRankAndSuitOrder) {
   EXPECT_EQ(parse_card("As"), 51);
 }
 
-TEST(Cards, EachCharacterIsARankASuitOrAFault) {
-  const std::string ranks = "23456789TtJjQqKkAa";
-  const std::string suits = "cCdDhHsS";
-  for (int c = -128; c < 128; ++c) {
-    const char character = static_cast<char>(c);
-    EXPECT_EQ(
-        faults::of([&] { rank_from_char(character); }),
-        ranks.find(character) != std::string::npos ? "none" : "invalid: Invalid rank character");
-    EXPECT_EQ(
-        faults::of([&] { suit_from_char(character); }),
-        suits.find(character) != std::string::npos ? "none" : "invalid: Invalid suit character");
-  }
-}
-
 TEST(Cards, FaultsOfCardsAndFlops) {
   faults::expect(parse_card, {{"", "invalid: Card token must consist of two characters"},
                               {"A", "invalid: Card token must consist of two characters"},
