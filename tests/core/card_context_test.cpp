@@ -248,12 +248,6 @@ TEST(CardContext, NothingStaysOfASpotThatIsGone) {
   EXPECT_LT(mallinfo2().uordblks, before + 10'000);
 }
 
-TEST(CardContext, TheKeyIsThatOfTheBoardAndTheRanges) {
-  // From a separate program that hashes the same cards and weights.
-  EXPECT_EQ(make_context("Ah7c2s").cache_key(), 0xE8DA4766F900FD88);
-  EXPECT_EQ(make_context("Ks7h2hKd5c").cache_key(), 0x6D9A0F3109DB1463);
-}
-
 TEST(CardContext, WorkersChangeNoTable) {
   const char* const variable = "VELMORA_CARDCTX_MAX_WORKERS";
   const auto build = [&](const char* workers) {
@@ -278,35 +272,6 @@ TEST(CardContext, WorkersChangeNoTable) {
   }
   EXPECT_EQ(one.total_matchup_weight(), three.total_matchup_weight());
   EXPECT_EQ(card_context_max_workers(), 3U);
-}
-
-TEST(CardContext, MemoryCoversEveryTable) {
-  for (const char* text : {"Kh7h2h", "Ah7c2s7d", "Ks7h2hKd5c"}) {
-    const CardContext cards = make_context(text);
-    std::size_t entries = 0;
-    for (const Seat seat : {kOop, kIp}) {
-      const std::size_t hands = cards.num_hands(seat);
-      entries += hands * (sizeof(Pocket) + 3 * sizeof(float) + sizeof(HandIndex));
-      for (CardCode a = 0; a < kNumCards; ++a) {
-        entries += cards.live_hands(seat, a, kNoCard).size() * sizeof(LiveHand);
-        for (CardCode b = 0; b < a; ++b) {
-          entries += cards.strength_table(a, b)[seat].size() * sizeof(StrengthEntry);
-          entries += cards.live_hands(seat, a, b).size() * sizeof(LiveHand);
-          const RunoutOrder& order = cards.runout_order(a, b);
-          const SweepHands& sweep = order.hands[seat];
-          entries += (sweep.by_hand.size() + sweep.by_strength.size()) * sizeof(SweepHand) +
-                     sweep.blocked.size() * sizeof(std::uint16_t) +
-                     order.groups.size() * sizeof(StrengthGroup) / 2;
-        }
-      }
-      entries += hands * sizeof(LiveHand);
-    }
-    const std::size_t heads =
-        kNumPockets * (2 * sizeof(BySeat<StrengthList>) + sizeof(RunoutOrder)) +
-        kNumCards * sizeof(BySeat<LiveHandList>);
-    EXPECT_GE(cards.memory_bytes(), entries + heads) << text;
-    EXPECT_LE(cards.memory_bytes(), (entries + heads) * 5 / 4 + 4096) << text;
-  }
 }
 
 }  // namespace

@@ -160,6 +160,20 @@ TEST(BruteForce, AgreesWithAndWithoutRake) {
   }
 }
 
+/// A rake whose cap is a single chip, or less, is lost to the seats all the same.
+TEST(BruteForce, AgreesWithASmallRakeCap) {
+  for (const double cap : {1.0, 0.4}) {
+    SCOPED_TRACE(cap);
+    Spot spot = river_spot();
+    spot.rake_fraction = 0.05;
+    spot.rake_cap = cap;
+    const auto game = make_game(spot);
+    const auto solver = solve(*game, {.iterations = 40});
+    expect_brute_force_values(*game, *solver);
+    EXPECT_EQ(solver->exploitability(), solver->measure_exploitability(*game));
+  }
+}
+
 TEST(BruteForce, AgreesWithLocks) {
   for (const BruteCase& c : {BruteCase{river_spot(), 40}, BruteCase{flop_spot(), 6}}) {
     SCOPED_TRACE(c.spot.board);

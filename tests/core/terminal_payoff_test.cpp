@@ -1,4 +1,4 @@
-// Payoffs of terminal nodes, hand against hand.
+// Payoffs of terminal nodes.
 #include <algorithm>
 #include <bit>
 #include <random>
@@ -7,7 +7,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "hand_eval.h"
 #include "instruction_set.h"
 #include "payoffs.h"
 #include "plain_kernels.h"
@@ -85,85 +84,6 @@ std::vector<std::vector<float>> evaluate(const velmora::Game& game, const PlanNo
   return values;
 }
 
-/// Chips that `own` gains against `opp` at a complete board; 0 where cards collide.
-double pair_showdown(velmora::Pocket own, velmora::Pocket opp,
-                     const std::vector<velmora::CardCode>& board, double pot, double rake) {
-  velmora::CardMask dead = 0;
-  for (const auto card : board) dead |= velmora::mask_of(card);
-  const auto mine = velmora::mask_of_pocket(own);
-  const auto theirs = velmora::mask_of_pocket(opp);
-  if ((mine & theirs) || ((mine | theirs) & dead)) return 0;
-  const auto a = velmora::evaluate_hand(own, board);
-  const auto b = velmora::evaluate_hand(opp, board);
-  return a > b ? pot / 2 - rake : a < b ? -pot / 2 : -rake / 2;
-}
-
-TEST(TerminalPayoff, MatchesPairByPair) {
-  struct Case {
-    std::string board;
-    bool fold;
-    double fraction, cap;
-  };
-  for (const Case& c : {Case{"Ah9s5d3c2s", false, 0, 0}, Case{"Ah9s5d3c2s", false, 0.05, 3},
-                        Case{"QhQsQdQc2s", false, 0.05, 100}, Case{"Ah9s5d3c2s", true, 0.05, 3},
-                        Case{"Ah9s5d3c2s", true, 0.05, 0}, Case{"Ah9s5d3c", true, 0, 0},
-                        Case{"Ah9s5d", true, 0.01, 100}, Case{"Ah9s5d3c", false, 0, 0},
-                        Case{"Ah9s5d3c", false, 0.05, 3}}) {
-    Spot spot = spot_on(c.board);
-    spot.rake_fraction = c.fraction;
-    spot.rake_cap = c.cap;
-    const auto game = make_game(spot);
-    const velmora::CardContext& cards = game->cards();
-    PlanNode node;
-    node.kind = velmora::NodeKind::kTerminal;
-    node.turn = cards.board().turn;
-    node.river = cards.board().river;
-    node.commit = 40;
-    node.pot = c.fold ? 230 : 180;  // An uncalled 50 lies in the middle after a fold.
-    node.last_action = c.fold ? velmora::ActionKind::kFold : velmora::ActionKind::kCall;
-    node.last_actor = kIp;
-    const double rake = std::min(c.cap, 180 * c.fraction);
-
-    std::vector<std::vector<velmora::CardCode>> boards = {cards.board_cards()};
-    if (!c.fold && boards[0].size() == 4) {
-      boards.clear();
-      for (velmora::CardCode river = 0; river < velmora::kNumCards; ++river) {
-        if (cards.board_mask() & velmora::mask_of(river)) continue;
-        boards.push_back(cards.board_cards());
-        boards.back().push_back(river);
-      }
-      ASSERT_EQ(boards.size(), 48U);
-    }
-
-    for (const Seat seat : {kOop, kIp}) {
-      SCOPED_TRACE(testing::Message() << c.board << (c.fold ? " fold" : " showdown") << " rake "
-                                      << c.fraction << " cap " << c.cap << " seat " << int{seat});
-      const auto& own = cards.pockets(seat);
-      const auto& opp = cards.pockets(velmora::opponent_of(seat));
-      const std::vector<float> reach = random_reach(opp.size(), 7U + seat);
-      const std::vector<float> result = evaluate(*game, node, seat, {reach}).front();
-      for (std::size_t h = 0; h < own.size(); ++h) {
-        double expected = 0;
-        for (std::size_t o = 0; o < opp.size(); ++o) {
-          double amount = 0;
-          if (c.fold) {
-            const bool meet = !(velmora::mask_of_pocket(own[h]) & velmora::mask_of_pocket(opp[o]));
-            amount = !meet ? 0 : seat == kIp ? -90.0 : 90.0 - rake;
-          } else {
-            for (const auto& board : boards) {
-              amount += pair_showdown(own[h], opp[o], board, 180, rake);
-            }
-            amount /= static_cast<double>(boards.size());
-          }
-          expected += amount * static_cast<double>(reach[o]);
-        }
-        expected /= cards.total_matchup_weight();
-        EXPECT_NEAR(result[h], expected, 1e-6 * 180) << h;
-      }
-    }
-  }
-}
-
 /// Bits, so that a zero of the other sign counts as different.
 std::vector<std::uint32_t> bits(const std::vector<float>& row) {
   std::vector<std::uint32_t> result;
@@ -219,15 +139,45 @@ TEST(TerminalPayoff, ManyNodesTogetherGiveTheBitsOfEachAlone) {
   }
 }
 
-TEST(TerminalPayoff, RakeIsCappedAndNeverUncapped) {
+/// A check-down, a called bet of 50 and a fold to it, with the figures worked out by hand: the rake
+/// is a share of what both put in, at most the cap, and is taken from the winner; a split pot pays
+/// a half of it each. A bet that was not called is not raked.
+TEST(TerminalPayoff, RakeByHand) {
   struct Case {
-    double fraction, cap, pot, rake;
+    double fraction, cap;
+    double checked, called, folded, split;  ///< Rakes: pots of 100, 200 and 100, half of 100's.
   };
-  for (const Case& c : {Case{0.05, 3, 100, 3}, Case{0.05, 3, 40, 2}, Case{0.05, 0, 100, 0}}) {
-    Spot spot = spot_on("Ah9s5d3c2s");
-    spot.rake_fraction = c.fraction;
-    spot.rake_cap = c.cap;
-    EXPECT_DOUBLE_EQ(velmora::rake_of(*make_game(spot), c.pot), c.rake);
+  for (const Case& c :
+       {Case{0.05, 3, 3, 3, 3, 1.5}, Case{0.05, 7, 5, 7, 5, 2.5}, Case{0.05, 100, 5, 10, 5, 2.5},
+        Case{0.02, 0.5, 0.5, 0.5, 0.5, 0.25}, Case{0.05, 0, 0, 0, 0, 0}, Case{0, 5, 0, 0, 0, 0}}) {
+    SCOPED_TRACE(testing::Message() << c.fraction << " cap " << c.cap);
+    const auto game = make_game({.board = "Ah9s5d3c2s",
+                                 .oop_range = "KsKh,QsQh",
+                                 .ip_range = "QdQc",
+                                 .sizes = {{{}, {}, {"50", ""}}},
+                                 .rake_fraction = c.fraction,
+                                 .rake_cap = c.cap});
+    const auto node_at = [&](std::initializer_list<std::size_t> path) {
+      std::size_t node = 0;
+      for (const std::size_t action : path) node = game->nodes()[node].children[action];
+      return game->nodes()[node];
+    };
+    // OOP's queens split with IP's, its kings win: two pairs of hands that can meet.
+    const std::size_t kings = velmora::rank_of(velmora::low_card(game->cards().pockets(kOop)[0])) ==
+                                      velmora::rank_from_char('K')
+                                  ? 0
+                                  : 1;
+    const auto chips = [&](std::initializer_list<std::size_t> path, Seat seat, std::size_t hand) {
+      const std::vector<float> reach(game->num_hands(velmora::opponent_of(seat)), 1.0F);
+      return 2 * evaluate(*game, node_at(path), seat, {reach}).front()[hand];
+    };
+    EXPECT_NEAR(chips({0, 0}, kOop, kings), 50 - c.checked, 1e-4);
+    EXPECT_NEAR(chips({0, 0}, kOop, 1 - kings), -c.split, 1e-4);
+    EXPECT_NEAR(chips({0, 0}, kIp, 0), -50 - c.split, 1e-4);
+    EXPECT_NEAR(chips({1, 1}, kOop, kings), 100 - c.called, 1e-4);
+    EXPECT_NEAR(chips({1, 0}, kOop, kings), 50 - c.folded, 1e-4);
+    EXPECT_NEAR(chips({1, 0}, kIp, 0), 2 * -50, 1e-4);
+    EXPECT_NEAR(chips({0, 1, 0}, kIp, 0), 2 * (50 - c.folded), 1e-4);
   }
 }
 

@@ -90,40 +90,6 @@ TEST(ResultSnapshot, SummaryIsThatOfTheSolverAndTheRoot) {
   }
 }
 
-/// Percentages are shares of the node's pot; where there is none, of the starting pot.
-TEST(ResultSnapshot, BasesOfPercentages) {
-  struct Case {
-    std::int32_t pot;
-    const char* sizes;
-    std::vector<std::string> root;
-    std::vector<std::string> facing;  ///< Of the other seat after the first bet.
-  };
-  const Case cases[] = {
-      {100, "33", {"Check", "Bet 33%"}, {"Fold", "Call", "Raise 59%"}},
-      {7, "12c", {"Check", "Bet 171%"}, {"Fold", "Call", "Raise 153%"}},
-      {0, "50", {"Check", "Bet"}, {"Fold", "Call", "Raise 200%"}},
-  };
-  SolveSession session;
-  for (const Case& c : cases) {
-    SolveConfig config = river_request();
-    config.starting_pot = c.pot;
-    config.max_iterations = 0;
-    config.oop_river = config.ip_river = {c.sizes, "2.4x", false, false};
-    const SolveResult result = result_of(session, config);
-    ASSERT_TRUE(result.success) << result.error;
-    EXPECT_EQ(result.root_action_names, c.root);
-    const NodeMeta root = result.nodes->node(0);
-    const NodeMeta facing = result.nodes->node(root.actions[1].child_index);
-    std::vector<std::string> names;
-    for (const ActionMeta& action : facing.actions) {
-      names.push_back(action.name);
-      EXPECT_EQ(action.frequency, 1.0F / 3);
-    }
-    EXPECT_EQ(names, c.facing);
-    EXPECT_EQ(facing.player, "IP");
-  }
-}
-
 NodeMeta node_of(std::vector<ActionMeta> actions) {
   NodeMeta node;
   node.node_type = "decision";

@@ -218,7 +218,13 @@ TEST(StrategyQueries, SamplesFollowFromTheGenerator) {
   EXPECT_TRUE(std::isnan(equity({0, -1, NAN}, 10)));
   EXPECT_TRUE(std::isnan(equity(first, 0)));
   EXPECT_TRUE(std::isnan(equity({1, 1}, 10)));
-  EXPECT_TRUE(std::isnan(equity(last, 10)));  // The same hand on both sides can't meet itself.
+  // The same hand on both sides can't meet itself: each sample draws its own hand once, 32 times an
+  // opposing one, and gives up. A draw takes two numbers.
+  std::mt19937 before(5);
+  generator = before;
+  before.discard(10 * 2 * (1 + 32));
+  EXPECT_TRUE(std::isnan(equity(last, 10)));
+  EXPECT_EQ(generator, before);
 }
 
 TEST(Showdown, ComparesTwoHandsOnAFullBoard) {
