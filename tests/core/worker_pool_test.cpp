@@ -185,26 +185,6 @@ TEST(Scratch, FramesGiveBackWhatTheyTook) {
   }
 }
 
-TEST(Scratch, ListsGrowWithZerosAndNeverShrink) {
-  FloatList list;
-  EXPECT_EQ(list.row(0).size(), 0U);
-  std::span<float> row = list.row(3);
-  ASSERT_EQ(row.size(), 3U);
-  for (std::size_t i = 0; i < padded(3); ++i) EXPECT_EQ(row.data()[i], 0);
-  std::fill_n(row.data(), padded(3), 7.0F);
-
-  const float* rows = list.rows(4, 9);
-  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(rows) % 64, 0U);
-  for (std::size_t i = 0; i < 4 * padded(9); ++i) EXPECT_EQ(rows[i], i < padded(3) ? 7 : 0);
-  row = list.row(2);
-  EXPECT_EQ(row.data(), rows);
-  EXPECT_EQ(row[1], 7);
-
-  const std::pair<std::size_t, std::size_t> lengths[] = {
-      {0, 0}, {1, 8}, {8, 8}, {9, 16}, {1326, 1328}};
-  for (const auto& [length, expected] : lengths) EXPECT_EQ(padded(length), expected);
-}
-
 TEST(HugePages, ArraysAreZeroMovableAndRefuseWhatIsTooMuch) {
   PageArray<std::uint64_t> array(100000);
   EXPECT_EQ(std::count(array.data(), array.data() + array.size(), 0U), 100000);

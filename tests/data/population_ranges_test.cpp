@@ -1,6 +1,5 @@
 // What must hold of the ranges of typical players.
 #include <cmath>
-#include <set>
 
 #include <QDateTime>
 
