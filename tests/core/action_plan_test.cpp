@@ -136,6 +136,8 @@ TEST(BettingRules, ActionListsByPath) {
       {sizes("50%", "100c2r"), "bet 50,raise 150", "fold, call 100"},
       {sizes("50%", "100c3r"), "bet 50,raise 150", "fold, call 100, raise 250"},
       {sizes("50%", "100c1r"), "bet 50", "fold, call 50"},
+      {flop(sizes("50%", "100c2r")),  // The raises of each street are counted anew.
+       "bet 50,raise 150,call 100,*,bet 200", "fold, call 200, raise 400"},
       {sizes("700c", "2x"), "bet 700", "fold, call 700, allin 1000"},
       {sizes("a", "50%,3x,a"), "allin 1000", "fold, call 1000"},
       {sizes("50%", "a"), "bet 50,allin 1000", "fold, call 950"},

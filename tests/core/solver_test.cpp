@@ -318,6 +318,22 @@ TEST(Locks, ALockedHandKeepsItsMixAndTheNodeLearnsNothing) {
 
 // ---- The driver ----
 
+/// The strategy sums start again at each power of 4.
+TEST(Driver, DiscountsByIteration) {
+  struct Row {
+    std::uint32_t i;
+    double alpha, gamma;
+  };
+  for (const Row& row : {Row{1, 0, 0}, Row{2, 0.5, 0.125}, Row{3, 0.73880, 8.0 / 27},
+                         Row{4, 0.83861, 0}, Row{5, 8.0 / 9, 0.125}, Row{15, 0.98126, 0.77025},
+                         Row{16, 0.98307, 0}, Row{64, 0.99801, 0}}) {
+    const auto params = velmora::discount_params(row.i);
+    EXPECT_NEAR(params.alpha_t, row.alpha, 1e-5) << row.i;
+    EXPECT_EQ(params.beta_t, 0.5F);
+    EXPECT_NEAR(params.gamma_t, row.gamma, 1e-5) << row.i;
+  }
+}
+
 struct RunLog {
   std::vector<std::uint32_t> measured;  ///< Iterations at which the exploitability changed.
   std::vector<float> exploitability;    ///< By iteration.
