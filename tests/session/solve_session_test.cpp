@@ -309,6 +309,7 @@ TEST(SolveSession, StopKeepsWhatIsThere) {
     config.max_iterations = c.iterations;
     SolveSession other;
     const SolveResult whole = result_of(other, config);
+    ASSERT_TRUE(whole.success) << whole.error;
     EXPECT_EQ(result.iterations, c.iterations);
     EXPECT_GT(result.exploitability, 0);
     EXPECT_EQ(result.exploitability, whole.exploitability);
