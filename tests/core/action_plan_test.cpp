@@ -109,15 +109,12 @@ TEST(BettingRules, ActionListsByPath) {
   const std::vector<Case> cases = {
       // Sizes at the root.
       {sizes(""), "", "check"},
-      {sizes("50%"), "", "check, bet 50"},
-      {flop(sizes("2e")), "", "check, bet 179"},
       {sizes("2e"), "", "check, bet 179"},
       {sizes("e"), "", "check, allin 1000"},
       {flop(sizes("e")), "", "check, bet 88"},
       {flop(sizes("%60e")), "", "check, bet 60"},
       {sizes("a"), "", "check, allin 1000"},
       {sizes("5000c"), "", "check, allin 1000"},
-      {sizes("1000c"), "", "check, allin 1000"},
       {sizes("999c"), "", "check, bet 999"},
       {sizes("0.1%"), "", "check, bet 1"},
       {sizes("-5%,-5c,0c,0%"), "", "check, bet 1"},
@@ -128,28 +125,25 @@ TEST(BettingRules, ActionListsByPath) {
       {{.stack = 0, .bets = "50%,a"}, "", "check, allin 0, allin 0"},
       // Raises.
       {sizes("50%", "50%"), "bet 50", "fold, call 50, raise 150"},
-      {sizes("50%", "3x"), "bet 50", "fold, call 50, raise 150"},
-      {sizes("50%", "100c"), "bet 50", "fold, call 50, raise 150"},
       {sizes("50%", "50%,3x,100c"), "bet 50", "fold, call 50, raise 150"},
       {sizes("50%", "1.5x"), "bet 50", "fold, call 50, raise 100"},
       {sizes("50%", "3x,1e300x"), "bet 50", "fold, call 50, raise 150, allin 1000"},
       {sizes("50%", "50%"), "bet 50,raise 150", "fold, call 100, raise 350"},
-      {sizes("50%", "50%"), "check,bet 50", "fold, call 50, raise 150"},
       {sizes("50%", "a"), "bet 50", "fold, call 50, allin 1000"},
       // A geometric raise is a street total: the pot is 200 after a call, 950 are behind, and
       // (sqrt(2 * 950 / 200 + 1) - 1) / 2 of 200 is 224.04.
       {sizes("50%", "2e"), "bet 50", "fold, call 50, raise 224"},
-      {sizes("50%", "100c2r"), "bet 50", "fold, call 50, raise 150"},
       {sizes("50%", "100c2r"), "bet 50,raise 150", "fold, call 100"},
       {sizes("50%", "100c3r"), "bet 50,raise 150", "fold, call 100, raise 250"},
       {sizes("50%", "100c1r"), "bet 50", "fold, call 50"},
+      {flop(sizes("50%", "100c2r")),  // The raises of each street are counted anew.
+       "bet 50,raise 150,call 100,*,bet 200", "fold, call 200, raise 400"},
       {sizes("700c", "2x"), "bet 700", "fold, call 700, allin 1000"},
       {sizes("a", "50%,3x,a"), "allin 1000", "fold, call 1000"},
       {sizes("50%", "a"), "bet 50,allin 1000", "fold, call 950"},
       {sizes("50%", "a,50%"), "check,bet 50,allin 1000", "fold, call 950"},
       // Leading into aggression.
       {flop(dont_donk), "", "check"},
-      {flop(dont_donk), "check", "check, bet 50"},
       {flop(dont_donk), "check,bet 50,call 50,*", "check"},
       {flop(dont_donk), "check,bet 50,call 50,*,check", "check, bet 100"},
       {flop(dont_donk), "check,bet 50,raise 150,call 100,*", "check, bet 200"},
@@ -157,10 +151,8 @@ TEST(BettingRules, ActionListsByPath) {
       {flop(dont_donk), "check,bet 50,call 50,*,check,check,*", "check, bet 100"},
       {flop(dont_donk), "check,bet 50,call 50,*,check,bet 100,call 100,*", "check"},
       // The all-in that the threshold of a seat adds.
-      {jam(120, 1.5, 0), "", "check, allin 120"},
       {jam(150, 1.5, 0), "", "check, allin 150"},
       {jam(151, 1.5, 0), "", "check"},
-      {jam(120, 1.5, 0), "check", "check"},
       {jam(120, 0, 1.5), "", "check"},
       {jam(120, 0, 1.5), "check", "check, allin 120"},
       {jam(120, 1.5, 0, true), "", "check, allin 120"},
@@ -175,7 +167,6 @@ TEST(BettingRules, ActionListsByPath) {
       {{.stack = 100, .bets = "50%", .force = 0.5}, "", "check, allin 100"},
       {{.bets = "50%,60%,100%", .merge = 0.1}, "", "check, bet 60, bet 100"},
       {{.bets = "50%,60%,100%", .merge = 0.05}, "", "check, bet 50, bet 60, bet 100"},
-      {{.bets = "50%,80%", .merge = 0.2}, "", "check, bet 80"},
       {{.bets = "50%,81%", .merge = 0.2}, "", "check, bet 50, bet 81"},
   };
   for (const Case& c : cases) {

@@ -148,28 +148,5 @@ TEST(BetSize, SizesOfAStreet) {
   EXPECT_TRUE(sizing.donk->empty());
 }
 
-TEST(BetSize, FaultsOfAStreetNameTheSeat) {
-  const StreetSizingText good{"50", "3x", false, false};
-  const StreetSizingText relative{"33, 2x", "3x", true, false};
-  const StreetSizingText huge{"33", "3000000000c", false, false};
-  const StreetSizingText foreign{"%", "2", false, false};
-  const std::string percent_fault =
-      "invalid: Sizing: invalid token '%'. Use numbers like '33, 75' or '33%, 75%'";
-
-  EXPECT_EQ(faults::of([&] { parse_street_sizing("turn", relative, huge); }),
-            "invalid: OOP turn sizing (bet='33, 2x', raise='3x', bet_norm='33%,2x,a', "
-            "raise_norm='3x,a'): Relative raise (x) is not allowed in this context");
-  EXPECT_EQ(faults::of([&] { parse_street_sizing("river", good, huge); }),
-            "invalid: IP river sizing (bet='33', raise='3000000000c', bet_norm='33%', "
-            "raise_norm='3000000000c'): Integer value is out of range");
-  EXPECT_EQ(faults::of([&] { parse_street_sizing("flop", good, foreign); }), percent_fault);
-
-  EXPECT_EQ(faults::of([&] { parse_street_sizing_bare(relative, good); }),
-            "invalid: Relative raise (x) is not allowed in this context");
-  EXPECT_EQ(faults::of([&] { parse_street_sizing_bare(good, huge); }),
-            "range: Integer value is out of range");
-  EXPECT_EQ(faults::of([&] { parse_street_sizing_bare(good, foreign); }), percent_fault);
-}
-
 }  // namespace
 }  // namespace velmora

@@ -33,22 +33,6 @@ bool is_in(CardCode card, const std::vector<CardCode>& cards) {
   return std::find(cards.begin(), cards.end(), card) != cards.end();
 }
 
-std::vector<CardCode> deck_without(const std::vector<CardCode>& dead) {
-  std::vector<CardCode> deck;
-  for (CardCode card = 0; card < kNumCards; ++card) {
-    if (!is_in(card, dead)) deck.push_back(card);
-  }
-  return deck;
-}
-
-bool holds(Pocket pocket, CardCode card) {
-  return low_card(pocket) == card || high_card(pocket) == card;
-}
-
-bool conflict(Pocket x, Pocket y) {
-  return holds(x, low_card(y)) || holds(x, high_card(y));
-}
-
 const std::vector<std::string> kBoards = {"Ah7c2s",   "Kh7h2h",     "QcQd5h",  "7s6s5s",
                                           "Ah7c2s7d", "Ks7h2hKd5c", "QcQd5hQh"};
 
@@ -86,105 +70,6 @@ TEST(CardContext, HandsAreTheRangeOffTheBoard) {
                   twin == place[opponent_of(seat)].end() ? kNoHand : twin->second)
             << text;
       }
-    }
-  }
-}
-
-/// Every pair of codes, also those of cards that are not dealt or do not exist: what is possible on
-/// the board has full lists, all else empty ones.
-TEST(CardContext, ListsOfEveryRunoutHoldTheLiveHandsByStrength) {
-  for (const std::string& text : kBoards) {
-    const CardContext cards = make_context(text);
-    const Board& board = cards.board();
-    const std::vector<CardCode> flop(board.flop.begin(), board.flop.end());
-    for (CardCode a = 0; a <= kNumCards; ++a) {
-      for (CardCode b = 0; b <= kNumCards; ++b) {
-        const bool fits_turn = board.turn == kNoCard || a == board.turn || b == board.turn;
-        const bool fits_river = board.river == kNoCard || a == board.river || b == board.river;
-        const bool possible = a != b && a < kNumCards && b < kNumCards && !is_in(a, flop) &&
-                              !is_in(b, flop) && fits_turn && fits_river;
-        for (const Seat seat : {kOop, kIp}) {
-          const StrengthList& list = cards.strength_table(a, b)[seat];
-          if (!possible) {
-            ASSERT_TRUE(list.empty()) << text;
-            continue;
-          }
-          std::set<std::pair<std::uint32_t, HandIndex>> ranked;
-          LiveHandList live;
-          for (std::size_t i = 0; i < cards.num_hands(seat); ++i) {
-            const Pocket pocket = cards.pockets(seat)[i];
-            if (holds(pocket, a) || holds(pocket, b)) continue;
-            const auto hand = static_cast<HandIndex>(i);
-            live.push_back({hand, low_card(pocket), high_card(pocket)});
-            const std::array<CardCode, 7> seven = {
-                b, high_card(pocket), flop[2], a, low_card(pocket), flop[0], flop[1]};
-            ranked.emplace(evaluate_seven(seven) + 1, hand);
-          }
-          StrengthList expected = {{0, kNoHand, 0, 0}};
-          for (const auto& [strength, hand] : ranked) {
-            const Pocket pocket = cards.pockets(seat)[hand];
-            expected.push_back({strength, hand, low_card(pocket), high_card(pocket)});
-          }
-          expected.push_back({0xFFFFFFFF, kNoHand, 0, 0});
-          ASSERT_EQ(list, expected) << text;
-          ASSERT_EQ(cards.live_hands(seat, a, b), live) << text;
-          ASSERT_EQ(cards.live_hands(seat, b, a), live) << text;
-        }
-      }
-    }
-    EXPECT_TRUE(cards.strength_table(kNoCard, 8)[kOop].empty());
-    EXPECT_TRUE(cards.strength_table(8, kNoCard)[kIp].empty());
-
-    for (const Seat seat : {kOop, kIp}) {
-      EXPECT_EQ(cards.live_hands(seat, kNoCard, kNoCard).size(), cards.num_hands(seat));
-      for (const CardCode turn : deck_without(flop)) {
-        if (board.turn != kNoCard && turn != board.turn) continue;
-        std::vector<HandIndex> expected;
-        for (std::size_t i = 0; i < cards.num_hands(seat); ++i) {
-          if (!holds(cards.pockets(seat)[i], turn)) expected.push_back(static_cast<HandIndex>(i));
-        }
-        std::vector<HandIndex> found;
-        for (const LiveHand& hand : cards.live_hands(seat, turn, kNoCard)) {
-          found.push_back(hand.hand);
-        }
-        EXPECT_EQ(found, expected) << text;
-      }
-    }
-  }
-}
-
-TEST(CardContext, MatchupWeightsAreThoseOfThePairsThatCanMeet) {
-  const std::vector<std::tuple<std::string, std::string, std::string>> spots = {
-      {"Ah7c2s", kOopRange, kIpRange},      {"Kh7h2h", kIpRange, kOopRange},
-      {"Ks7h2hKd5c", kOopRange, kOopRange}, {"QcQd5h", "100%", "AA,72o:0.01"},
-      {"2c3d4h", "AsAh", "AsAd,KK:0.5"},    {"2c3d4h", "AsAh", "AsAd,AhAc"}};
-  for (const auto& [board, oop, ip] : spots) {
-    const CardContext cards(parse_board(board), {parse_range_text(oop), parse_range_text(ip)});
-    BySeat<std::vector<double>> met = {std::vector<double>(cards.num_hands(kOop)),
-                                       std::vector<double>(cards.num_hands(kIp))};
-    double total = 0;
-    for (std::size_t i = 0; i < met[kOop].size(); ++i) {
-      for (std::size_t j = 0; j < met[kIp].size(); ++j) {
-        if (conflict(cards.pockets(kOop)[i], cards.pockets(kIp)[j])) continue;
-        const double product = static_cast<double>(cards.hand_weights(kOop)[i]) *
-                               static_cast<double>(cards.hand_weights(kIp)[j]);
-        met[kOop][i] += product;
-        met[kIp][j] += product;
-        total += product;
-      }
-    }
-    EXPECT_NEAR(cards.total_matchup_weight(), total, 1e-9 * total) << board;
-    for (const Seat seat : {kOop, kIp}) {
-      ASSERT_EQ(cards.matchup_weights(seat).size(), met[seat].size());
-      ASSERT_EQ(cards.matchup_shares(seat).size(), met[seat].size());
-      double shares = 0;
-      for (std::size_t i = 0; i < met[seat].size(); ++i) {
-        EXPECT_NEAR(cards.matchup_weights(seat)[i], met[seat][i], 1e-6 * met[seat][i] + 1e-12);
-        const double share = total > 0 ? met[seat][i] / total : 0;
-        EXPECT_NEAR(cards.matchup_shares(seat)[i], share, 1e-6 * share + 1e-12);
-        shares += static_cast<double>(cards.matchup_shares(seat)[i]);
-      }
-      EXPECT_NEAR(shares, total > 0 ? 1 : 0, 1e-5) << board;
     }
   }
 }

@@ -43,19 +43,12 @@ TEST(Cards, EveryCodeHasOneTextInRankAndSuitOrder) {
 
 TEST(Cards, FaultsOfCardsAndFlops) {
   faults::expect(parse_card, {{"", "invalid: Card token must consist of two characters"},
-                              {"A", "invalid: Card token must consist of two characters"},
                               {"Ahh", "invalid: Card token must consist of two characters"},
                               {"1c", "invalid: Invalid rank character"},
-                              {"1x", "invalid: Invalid rank character"},
                               {"Ax", "invalid: Invalid suit character"}});
   faults::expect(parse_flop, {{"", "invalid: Flop string must contain exactly three cards"},
-                              {"AhKsQ", "invalid: Flop string must contain exactly three cards"},
                               {"AhKsQdT", "invalid: Flop string must contain exactly three cards"},
                               {"AhAhQd", "invalid: Flop cards must be unique"},
-                              {"AhQdah", "invalid: Flop cards must be unique"},
-                              {"QdAhAH", "invalid: Flop cards must be unique"},
-                              {"1cKsQd", "invalid: Invalid rank character"},
-                              {"AxKsQd", "invalid: Invalid suit character"},
                               {" Ah Ks\tQd ", "none"},
                               {"A\vh\fK\rs\nQd", "none"}});
   EXPECT_EQ(faults::of([] { rank_to_char(13); }), "range: Rank is out of range");
@@ -96,10 +89,8 @@ TEST(Cards, RulesOfABoardInTheirOrder) {
   const CardCode none = kNoCard;
   const std::vector<std::pair<Board, std::string>> boards{
       {{{0, 1, 2}, none, none}, "none"},
-      {{{0, 1, 2}, 3, none}, "none"},
       {{{0, 1, 2}, 3, 4}, "none"},
       {{{0, 0, none}, none, none}, "invalid: Flop cards must be defined"},
-      {{{none, bad, 0}, none, none}, "invalid: Flop cards must be defined"},
       {{{bad, none, 0}, none, none}, "range: Card code must be in [0, 52)"},
       {{{0, 0, bad}, none, none}, "range: Card code must be in [0, 52)"},
       {{{7, 3, 7}, bad, none}, "invalid: Flop cards must be unique"},
@@ -108,7 +99,6 @@ TEST(Cards, RulesOfABoardInTheirOrder) {
       {{{0, 1, 2}, 3, bad}, "range: Card code must be in [0, 52)"},
       {{{0, 1, 2}, 3, 2}, "invalid: River conflicts with existing cards"},
       {{{0, 1, 2}, 3, 3}, "invalid: River conflicts with existing cards"},
-      {{{0, 1, 2}, none, 2}, "invalid: River conflicts with existing cards"},
       {{{0, 1, 2}, none, 3}, "invalid: River cannot be dealt without a turn"}};
   for (std::size_t i = 0; i < boards.size(); ++i) {
     EXPECT_EQ(faults::of([&] { validate_board(boards[i].first); }), boards[i].second) << i;

@@ -26,10 +26,6 @@ Spot spot_on(const std::string& board, const std::string& oop = "AA,KK:0.5,QJs",
           .sizes = {{{"50%", ""}, {"", ""}, {"a", ""}}}};
 }
 
-bool holds(Pocket pocket, CardCode card) {
-  return low_card(pocket) == card || high_card(pocket) == card;
-}
-
 /// The image of a card where two suits change places.
 CardCode exchanged(CardCode card, int s, int t) {
   const int suit = suit_of(card);
@@ -103,24 +99,6 @@ TEST(Game, ChanceNodesDealTheWholeDeck) {
     }
     EXPECT_GT(chance_nodes, 0U);
     EXPECT_EQ(folds, c.folds);
-  }
-}
-
-TEST(Game, HandsOfANodeMissItsCards) {
-  for (const char* board : {"AhKh2h", "AhKd2cKs", "AhKd2cKsQd"}) {
-    const auto game = make_game(spot_on(board));
-    for (const PlanNode& node : game->nodes()) {
-      for (const Seat seat : {kOop, kIp}) {
-        const std::vector<Pocket>& pockets = game->cards().pockets(seat);
-        LiveHandList expected;
-        for (std::size_t h = 0; h < pockets.size(); ++h) {
-          if (holds(pockets[h], node.turn) || holds(pockets[h], node.river)) continue;
-          expected.push_back(
-              {static_cast<HandIndex>(h), low_card(pockets[h]), high_card(pockets[h])});
-        }
-        ASSERT_EQ(game->seat_hands_for(node, seat), expected) << board;
-      }
-    }
   }
 }
 

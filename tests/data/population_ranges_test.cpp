@@ -1,6 +1,5 @@
 // What must hold of the ranges of typical players.
 #include <cmath>
-#include <set>
 
 #include <QDateTime>
 
@@ -56,56 +55,6 @@ Names with_prefix(const std::string& prefix, const Names& leaves) {
   return names;
 }
 
-/// The leaves of an archetype in the order of the tree.
-Names leaves_of(const std::string& path, const std::string& seat) {
-  const bool passive = path.starts_with(kPassive);
-  const bool aggressive = path.starts_with(kAggressive);
-  const bool oop = seat == "oop";
-  Names names;
-  const auto add = [&](const std::string& position, const Names& leaves) {
-    for (const std::string& name : with_prefix(path + " / " + position, leaves))
-      names.push_back(name);
-  };
-  if (oop) {
-    add("UTG/HJ/CO", passive ? Names{"Limp", "Limp-call", "Limp-3b", "RFI", "Call 3b", "4b"}
-                             : Names{"RFI", "Call 3b", "4b"});
-    add("SB", passive ? Names{"Limp", "Limp-3b", "RFI", "3b", "4b", "Call 3b", "Call 4b"}
-                      : Names{"RFI", "3b", "4b", "Call 3b", "Call 4b"});
-    add("BB", aggressive ? Names{"Call raise", "3b", "Call 4b"}
-                         : Names{"Check back", "Call raise", "3b", "Call 4b"});
-  } else {
-    for (const char* position : {"UTG/HJ/CO", "BU"}) {
-      add(position,
-          passive ? Names{"Limp", "Limp-call", "Limp-3b", "RFI", "3b", "Call 3b", "4b", "Call 4b"}
-                  : Names{"RFI", "3b", "Call 3b", "4b", "Call 4b"});
-    }
-    add("BB", aggressive ? Names{"Call", "3b"} : Names{"Call raise", "3b", "Call 4b"});
-  }
-  if (passive) names.push_back(path + " / 3b cold call");
-  return names;
-}
-
-/// The folders below a rake level in which a scenario of the standard charts stands, and its leaf.
-std::string place_of(const std::string& scenario) {
-  if (scenario.starts_with("RFI ")) return "RFI / " + scenario.substr(4);
-  const std::size_t colon = scenario.find(": ");
-  const std::string spot = scenario.substr(0, colon);
-  const std::string leaf = scenario.substr(colon + 2);
-  if (spot.starts_with("vs RFI ")) return "vs RFI / vs " + spot.substr(7) + " RFI / " + leaf;
-  const bool four_bet = spot.find("3bet vs") != std::string::npos;
-  return (four_bet ? "vs 4bet / " : "vs 3bet / ") + spot + " / " + leaf;
-}
-
-/// Scenarios of the charts for six players without rake, with their ranges.
-LibraryRows unraked(const std::string& seat) {
-  const std::string prefix = "No rake / ";
-  LibraryRows rows;
-  for (const auto& [name, text] : standard_rows(seat.c_str())) {
-    if (name.starts_with(prefix)) rows.emplace_back(name.substr(prefix.size()), text);
-  }
-  return rows;
-}
-
 TEST(PopulationRanges, AreAnExportOfBothSeats) {
   const QJsonObject document = library("exploit_ranges.json");
   EXPECT_EQ(document["format"].toString().toStdString(), "velmora_ranges_export");
@@ -117,33 +66,6 @@ TEST(PopulationRanges, AreAnExportOfBothSeats) {
   }
   EXPECT_EQ(rows_of("oop").size(), 193);
   EXPECT_EQ(rows_of("ip").size(), 202);
-}
-
-TEST(PopulationRanges, HoldEveryLeafOfTheTreeAndNoEmptyOne) {
-  for (const std::string seat : {"oop", "ip"}) {
-    Names expected;
-    const auto add = [&](const Names& names) {
-      expected.insert(expected.end(), names.begin(), names.end());
-    };
-    for (const Archetype& archetype : kArchetypes) {
-      if (archetype.path == kNit) {
-        for (const char* regular : {"Tighter reg", "Looser reg"}) {
-          for (const auto& row : unraked(seat)) {
-            add({std::string("Weaker regs / ") + regular + " / " + place_of(row.first)});
-          }
-        }
-      }
-      add(leaves_of(archetype.path, seat));
-    }
-    add({"Other / Bomb pot"});
-    Names names;
-    for (const auto& [name, text] : rows_of(seat)) {
-      names.push_back(name);
-      EXPECT_GT(percent(parse_range_text(text)), 0) << name;
-    }
-    EXPECT_THAT(names, ::testing::ElementsAreArray(expected)) << seat;
-    EXPECT_EQ(rows_of(seat).back().second, "100%");
-  }
 }
 
 TEST(PopulationRanges, PlayAsManyHandsAsTheirFolderSays) {
@@ -188,25 +110,6 @@ TEST(PopulationRanges, NoHandDoesMoreThanItCan) {
   const PocketWeights trap =
       range("oop", kPassive + "Passive tight (VPIP 18–25) / UTG/HJ/CO / Limp-3b");
   EXPECT_EQ(trap, parse_range("QQ:0.5, AKo:0.5, AKs:0.5, KK:0.5, AA:0.5"));
-}
-
-TEST(PopulationRanges, RegularsAreTighterAndLooserThanTheCharts) {
-  const std::string tighter = "Weaker regs / Tighter reg / ";
-  const std::string looser = "Weaker regs / Looser reg / ";
-  for (const std::string seat : {"oop", "ip"}) {
-    const Ranges charts(unraked(seat));
-    for (const auto& [scenario, chart] : charts) {
-      // Weights move in steps of 0.05.
-      const double low = percent(range(seat, tighter + place_of(scenario)));
-      const double high = percent(range(seat, looser + place_of(scenario)));
-      EXPECT_LT(low, percent(chart) + 0.1) << seat << " " << scenario;
-      EXPECT_GT(high, percent(chart) - 0.1) << seat << " " << scenario;
-      EXPECT_GE(high, low) << seat << " " << scenario;
-      if (scenario.starts_with("RFI ")) {
-        EXPECT_GT(high, low + 2) << seat << " " << scenario;
-      }
-    }
-  }
 }
 
 }  // namespace

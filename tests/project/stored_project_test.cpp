@@ -31,10 +31,10 @@ TEST(StoredProject, EveryFigureIsReadIntoItsPlace) {
   EXPECT_EQ(project.outcome.evOop, -2.5102243423461914);
   EXPECT_EQ(project.outcome.evIp, -0.33535176515579224);
   EXPECT_TRUE(project.outcome.summary.startsWith("Board KhQh7h2h | iters 20 |"));
-  EXPECT_EQ(project.outcome.rootActions[1].toMap()["name"], "All-In");
+  EXPECT_EQ(project.outcome.rootActions.value(1).toMap()["name"], "All-In");
   EXPECT_EQ(project.resultCfg["rake_cap"], 3);
   EXPECT_EQ(project.lastUiCfg["ip_range"], "KK,99:0.25");
-  EXPECT_EQ(project.nodeLocks.locksAt(1)[0].toMap(),
+  EXPECT_EQ(project.nodeLocks.locksAt(1).value(0).toMap(),
             (QVariantMap{{"hand", "KK"}, {"actionIndex", 0}, {"actionProb", 0.25}}));
   EXPECT_EQ(project.solvedLocks.nodes(), QList<int>{0});
 
@@ -48,18 +48,18 @@ TEST(StoredProject, EveryFigureIsReadIntoItsPlace) {
   EXPECT_EQ(facing["pot"], 160);
   EXPECT_EQ(facing["investedOop"], 0);
   EXPECT_EQ(facing["investedIp"], 60);
-  const QVariantMap call = project.tree.actions(105)[1].toMap();
+  const QVariantMap call = project.tree.actions(105).value(1).toMap();
   EXPECT_EQ(call["actionType"], "call");
   EXPECT_EQ(call["childIndex"], 107);
   EXPECT_NEAR(call["frequency"].toDouble(), 0.7807876467704773, 1e-7);
 
   const ResultCaches& caches = project.caches;
   EXPECT_EQ(caches.handStrategyCache.keys(), (QList<int>{0, 1}));
-  EXPECT_EQ(caches.actionStatsCache[0][1].toMap()["ev"], 43.75288804372152);
-  EXPECT_EQ(caches.handCombosCache[0][0].toMap()["ev"], 110.32696533203125);
-  EXPECT_EQ(caches.handBucketsCache[0][0].toMap()["name"], "flush");
+  EXPECT_EQ(caches.actionStatsCache[0].value(1).toMap()["ev"], 43.75288804372152);
+  EXPECT_EQ(caches.handCombosCache[0].value(0).toMap()["ev"], 110.32696533203125);
+  EXPECT_EQ(caches.handBucketsCache[0].value(0).toMap()["name"], "flush");
   EXPECT_EQ(caches.seatHandCombosOopCache[0].size(), 10);
-  EXPECT_EQ(caches.seatHandCombosIpCache[0].first().toMap()["c1"], "9c");
+  EXPECT_EQ(caches.seatHandCombosIpCache[0].value(0).toMap()["c1"], "9c");
 }
 
 TEST(StoredProject, IsWrittenAsItWasRead) {
