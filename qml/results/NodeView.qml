@@ -1,6 +1,5 @@
 import QtQuick
 import Velmora
-import "../components/board_text.js" as BoardText
 import "hand_views.js" as HandViews
 import "tree_walk.js" as Walk
 

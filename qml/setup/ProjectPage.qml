@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
 import Velmora
-import "../components/board_text.js" as BoardText
 
 /// Where a spot is described: board, game settings, bet sizes and both ranges.
 ScrollPage {

@@ -1,6 +1,5 @@
 import QtQuick
 import Velmora
-import "../components/board_text.js" as BoardText
 import "trainer_deal.js" as Deal
 import "trainer_hand.js" as Hand
 import "trainer_score.js" as Score

@@ -2,7 +2,6 @@ import QtQuick
 import QtTest
 import Velmora
 import "../../qml/components/file_url.js" as FileUrl
-import "../../qml/components/hand_grid.js" as HandGrid
 import "../../qml/setup/library/range_estimates.js" as Estimates
 import "../../qml/setup/library/range_library_names.js" as Names
 import "../../qml/setup/library/range_library_overrides.js" as Overrides
@@ -165,7 +164,7 @@ TestCase {
         const [, high, low, suits, end, high2, low2, suits2] = /^(.)(.)([so]?)(\+|-(.)(.)([so]?))?$/.exec(token)
         if (end === undefined || high === low)
             return !end || end === "+" || high2 === low2
-        return end === "+" ? HandGrid.RANKS.indexOf(low) - HandGrid.RANKS.indexOf(high) > 1
+        return end === "+" ? HandText.ranks.indexOf(low) - HandText.ranks.indexOf(high) > 1
                            : high2 === high && suits2 === suits
     }
 
@@ -189,7 +188,7 @@ TestCase {
             const hands = Object.keys(RangeText.weights(leaf.value))
             const at = [...leaf.path, leaf.name].join(" / ")
             compare(hands.length > 0, leaf.path[1] !== "Nit", at)
-            verify(hands.every(hand => HandGrid.LABELS.includes(hand)), at)
+            verify(hands.every(hand => HandText.labels.includes(hand)), at)
             verify(leaf.value === "" || leaf.value === "100%" || leaf.value.split(", ").every(readsAlike), at)
         }
         const valueOf = (type, position, name) => all.find(leaf => leaf.path[1].startsWith(type)
@@ -209,7 +208,7 @@ TestCase {
             table.archetypes.forEach((type, column) => {
                 const early = table.estimates["UTG/HJ/CO"]
                 const played = RangeText.weights([early["Limp"]?.[column] ?? "", early["RFI"][column]].join())
-                const vpip = 100 * HandGrid.LABELS.reduce((combos, hand) => combos
+                const vpip = 100 * HandText.labels.reduce((combos, hand) => combos
                     + (played[hand] ?? 0) * (hand.length === 2 ? 6 : hand.endsWith("s") ? 4 : 12), 0) / 1326
                 verify(vpip >= spans[type][0] && vpip <= spans[type][1], type + " " + vpip)
             })
