@@ -6,7 +6,6 @@ import Velmora
 ScrollPage {
     id: root
 
-    required property var controller
     required property ProjectState project
     required property bool canSolve
     /// The memory figure is of the spot as it was before the latest edit.
@@ -53,7 +52,6 @@ ScrollPage {
         // The way on is in sight wherever the page is too wide for the window.
         Layout.fillWidth: true
         Layout.maximumWidth: root.viewWidth
-        controller: root.controller
         project: root.project
         canSolve: root.canSolve
         estimatePending: root.estimatePending
@@ -84,7 +82,7 @@ ScrollPage {
             SettingsProfilesCard {
                 Layout.fillWidth: true
                 project: root.project
-                onProfileLoaded: root.controller.abandonRun()
+                onProfileLoaded: Controller.abandonRun()
             }
         }
 
@@ -131,7 +129,7 @@ ScrollPage {
             Layout.minimumWidth: implicitWidth
             project: root.project
             libraries: libraries
-            developerMode: root.controller.developerMode
+            developerMode: Controller.developerMode
             seat: "oop"
             heightLimit: ranges.heightLimit
             onImportRequested: root.openImportRangeDialog("oop")
@@ -145,7 +143,7 @@ ScrollPage {
             Layout.minimumWidth: implicitWidth
             project: root.project
             libraries: libraries
-            developerMode: root.controller.developerMode
+            developerMode: Controller.developerMode
             seat: "ip"
             heightLimit: ranges.heightLimit
             onImportRequested: root.openImportRangeDialog("ip")
@@ -155,13 +153,11 @@ ScrollPage {
     RangeLibraries {
         id: libraries
 
-        controller: root.controller
     }
 
     ImportRange {
         id: importer
 
-        controller: root.controller
         libraries: libraries
     }
 }

@@ -243,7 +243,7 @@ TestCase {
     }
 
     QtObject {
-        id: files
+        id: bundled
 
         property var texts: ({})
         property string written: ""
@@ -263,12 +263,12 @@ TestCase {
         id: librariesComponent
 
         RangeLibraries {
-            controller: files
+            files: bundled
         }
     }
 
     function makeLibraries(standard: var, exploit: var): RangeLibraries {
-        files.texts = {
+        bundled.texts = {
             ":/qt/qml/Velmora/qml/data/standard_ranges.json": standard,
             ":/Velmora/qml/data/exploit_ranges.json": exploit
         }
@@ -299,7 +299,7 @@ TestCase {
         libraries = makeLibraries(standardFile, "")
         compare(libraries._presetLoadError, "")
         compare(libraries.rangesFor("ip", 1).length, 5)
-        files.texts = { ":/Velmora/qml/data/standard_ranges.json": "{" }
+        bundled.texts = { ":/Velmora/qml/data/standard_ranges.json": "{" }
         libraries._loadBundledPresetRanges()
         verify(libraries._presetLoadError.startsWith("Failed to load bundled presets: "))
         compare(libraries.rangesFor("ip", 1).length, 5)
@@ -319,21 +319,21 @@ TestCase {
         compare(oop.selectedNode.value, "QQ+")
         find("oop", 1, "x").overrideSelectedRange("33")
         libraries.exportRanges(0, "")
-        compare(JSON.stringify(JSON.parse(files.written).oop.standard),
+        compare(JSON.stringify(JSON.parse(bundled.written).oop.standard),
                 '[{"name":"No rake / RFI UTG","value":"QQ+"},{"name":"Heads up / No rake / RFI SB","value":""}]')
-        const exported = files.written
+        const exported = bundled.written
         const before = brief(libraries.rangesFor("oop", 0))
         libraries.exportRanges(1, "")
-        const population = JSON.parse(files.written)
+        const population = JSON.parse(bundled.written)
         compare([population.format, population.version, population.oop.standard.length].join(), "velmora_ranges_export,1,0")
         compare(JSON.stringify(population.oop.exploit[0]), '{"type":"folder","name":"Foo","children":[{"name":"x","value":"33"}]}')
         verify(Math.abs(Date.parse(population.generatedAt) - Date.now()) < 60000)
-        files.writable = false
+        bundled.writable = false
         libraries.exportRanges(1, "")
         compare(libraries.exportErrorOf(1), "Export failed: disk full")
-        files.writable = true
+        bundled.writable = true
         // The next start finds the overrides, and the exported file stands for the bundled one.
-        libraries = makeLibraries(exported, files.written)
+        libraries = makeLibraries(exported, bundled.written)
         compare(brief(libraries.rangesFor("oop", 0)), before)
         find("oop", 1, "x")
         compare(libraries.oop.selectedNode.value, "33")
