@@ -8,16 +8,13 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QQmlApplicationEngine>
-#include <QQmlContext>
 #include <QQmlError>
 #include <QQuickStyle>
 #include <QStandardPaths>
 #include <QStringList>
 #include <QUrl>
 
-#include "app_controller.h"
-#include "services/language_manager.h"
-#include "services/update_manager.h"
+#include "page_services.h"
 #include "system/command_line.h"
 #include "system/crash_lines.h"
 #include "system/logging.h"
@@ -99,11 +96,9 @@ int main(int argc, char* argv[]) {
   QQmlApplicationEngine engine;
   engine.addImportPath("qrc:/");
   LanguageManager languageManager(&engine);
-  engine.rootContext()->setContextProperty("languageManager", &languageManager);
   AppController appController;
-  engine.rootContext()->setContextProperty("appController", &appController);
   UpdateManager updates;
-  engine.rootContext()->setContextProperty("updates", &updates);
+  setPageServices(engine, appController, languageManager, updates);
 
   // Each warning is logged once, here, and not by the engine as well.
   engine.setOutputWarningsToStandardError(false);

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "board_text.js" as BoardText
 
 /// A board of five slots: the flop in one group, turn and river beside it.
 Item {
@@ -22,7 +21,7 @@ Item {
     /// Whether a new card turns into view.
     property bool animated: false
 
-    readonly property list<string> cards: BoardText.shownCards(boardText)
+    readonly property list<string> cards: Array.from(BoardText.shownCards(boardText))
     readonly property int cardCount: BoardText.usedCards(boardText).length
 
     signal cardClicked(index: int)

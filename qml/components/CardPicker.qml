@@ -2,9 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "board_text.js" as BoardText
 import "card_names.js" as CardNames
-import "hand_grid.js" as HandGrid
 
 /// All 52 cards, a row for each suit, to choose one that is not used yet.
 FocusScope {
@@ -20,7 +18,7 @@ FocusScope {
     property int currentIndex: 0
 
     readonly property int tileSize: 28
-    readonly property list<string> _used: BoardText.normalizeCards(usedCards)
+    readonly property list<string> _used: Array.from(BoardText.normalizeCards(usedCards))
 
     signal cardSelected(card: string)
 
@@ -29,8 +27,8 @@ FocusScope {
     }
 
     function cardAt(index: int): string {
-        const columns = HandGrid.RANKS.length
-        return HandGrid.RANKS[index % columns] + CardNames.SUITS[Math.floor(index / columns)]
+        const columns = HandText.ranks.length
+        return HandText.ranks[index % columns] + CardNames.SUITS[Math.floor(index / columns)]
     }
 
     function select(index: int) {
@@ -107,13 +105,13 @@ FocusScope {
         }
 
         Grid {
-            columns: HandGrid.RANKS.length
+            columns: HandText.ranks.length
             spacing: root.theme.spaceXs
 
             Repeater {
                 id: tiles
 
-                model: HandGrid.RANKS.length * CardNames.SUITS.length
+                model: HandText.ranks.length * CardNames.SUITS.length
 
                 CardPickerTile {
                     required property int index

@@ -18,7 +18,6 @@ Item {
 
     property Theme theme: Style.theme
     property Typography type: Style.type
-    required property var controller
     property string title: ""
     property int fileMode: FileChooser.OpenFile
     property string acceptLabel: ""
@@ -29,7 +28,7 @@ Item {
     /// The chosen file; set before `open`, what a dialog for saving starts from.
     property url selectedFile
 
-    readonly property var _places: Array.from(controller.standardFolders())
+    readonly property var _places: Array.from(Controller.standardFolders())
     readonly property url _home: _places[0]?.url ?? "file:///"
     readonly property bool _saving: fileMode === FileChooser.SaveFile
     readonly property bool _native: Qt.platform.os === "windows" || Qt.platform.os === "osx"
@@ -82,17 +81,17 @@ Item {
             return
         }
         const typedFile = FileChoice.resolve(currentFolder, typed, _home)
-        if (controller.fileKind(typedFile) === "folder") {
+        if (Controller.fileKind(typedFile) === "folder") {
             nameField.text = ""
             _show(typedFile)
             return
         }
         const file = _saving ? FileChoice.parent(typedFile) + "/" + encodeURIComponent(FileChoice.withEnding(
             FileChoice.name(typedFile), Array.from(nameFilters), filterBox.currentIndex, defaultSuffix)) : typedFile
-        const there = controller.fileKind(file) === "file"
+        const there = Controller.fileKind(file) === "file"
         if (_saving && there)
             overwrite.ask(file)
-        else if (_saving && controller.fileKind(FileChoice.parent(file)) !== "folder")
+        else if (_saving && Controller.fileKind(FileChoice.parent(file)) !== "folder")
             note.fault = qsTr("There is no folder “%1”.").arg(FileChoice.path(FileChoice.parent(file)))
         else if (_saving || there)
             _accept(file)

@@ -37,7 +37,7 @@ Item {
     /// The most segments of a cell so far: they are kept, so that a walk through decisions with two
     /// to five actions builds no cell anew.
     property int _segmentCount: 0
-    readonly property var _baseColors: HandGrid.LABELS.map(
+    readonly property var _baseColors: Array.from(HandText.labels,
         hand => hand.length === 2 ? theme.surface3 : hand.endsWith("s") ? theme.surface2 : theme.surface)
     readonly property color _plainColor: theme.withOpacity(theme.accent, 0.8)
 
@@ -59,12 +59,12 @@ Item {
 
     function _reportHovered(index: int) {
         if (index >= 0)
-            handHovered(HandGrid.LABELS[index], weightOf(HandGrid.LABELS[index]))
+            handHovered(HandText.labels[index], weightOf(HandText.labels[index]))
     }
 
     /// Asks for a hand to be on or off, if it is not so yet.
     function _paint(index: int, desiredOn: bool) {
-        const hand = HandGrid.LABELS[index]
+        const hand = HandText.labels[index]
         const weight = weightOf(hand)
         if ((weight > 0) !== desiredOn)
             handPainted(hand, desiredOn, weight)
@@ -72,7 +72,7 @@ Item {
 
     /// What a click on a cell means: to paint it over, or to choose it.
     function _activate(index: int) {
-        const hand = HandGrid.LABELS[index]
+        const hand = HandText.labels[index]
         const weight = weightOf(hand)
         if (editable) {
             handPainted(hand, !(weight > 0), weight)
@@ -88,8 +88,8 @@ Item {
 
     Accessible.role: Accessible.Table
     Accessible.name: label
-    Accessible.description: qsTr("%1, weight %2%").arg(HandGrid.LABELS[currentIndex])
-        .arg(Math.round(weightOf(HandGrid.LABELS[currentIndex]) * 1000) / 10)
+    Accessible.description: qsTr("%1, weight %2%").arg(HandText.labels[currentIndex])
+        .arg(Math.round(weightOf(HandText.labels[currentIndex]) * 1000) / 10)
     Accessible.focusable: _active
 
     Keys.enabled: _active
@@ -115,7 +115,7 @@ Item {
     }
 
     Repeater {
-        model: HandGrid.LABELS
+        model: HandText.labels
 
         HandCell {
             required property int index
@@ -177,7 +177,7 @@ Item {
                 return
             root.forceActiveFocus(Qt.MouseFocusReason)
             root.currentIndex = pressedIndex
-            desiredOn = !(root.weightOf(HandGrid.LABELS[pressedIndex]) > 0)
+            desiredOn = !(root.weightOf(HandText.labels[pressedIndex]) > 0)
             if (root.editable)
                 root._paint(pressedIndex, desiredOn)
         }

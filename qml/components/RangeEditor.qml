@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora
-import "hand_grid.js" as HandGrid
 
 /// A range as a text and as a matrix to paint on. It asks for a new text with `rangeChanged`; the
 /// owner sets `rangeText`.
@@ -21,13 +20,13 @@ Item {
 
     /// The labels with a weight above 0, in grid order.
     function _hands(): var {
-        return HandGrid.LABELS.filter(hand => weights[hand] > 0)
+        return Array.from(HandText.labels).filter(hand => weights[hand] > 0)
     }
 
     /// The range text with a hand on or off; all hands that are on have weight 1.
     function _painted(hand: string, on: bool): string {
         const hands = _hands()
-        return HandGrid.LABELS.filter(other => other === hand ? on : hands.includes(other)).join(", ")
+        return HandText.labels.filter(other => other === hand ? on : hands.includes(other)).join(", ")
     }
 
     implicitWidth: column.implicitWidth

@@ -1,23 +1,7 @@
 .pragma library
 
-/// The ranks of both axes of the hand grid, highest first.
-const RANKS = ["A", "K", "Q", "J", "T", "9", "8", "7", "6", "5", "4", "3", "2"]
-
-/// The 169 labels, row by row.
-const LABELS = [].concat(...RANKS.map((_, row) => RANKS.map((_, column) => label(row, column))))
-
-/// The label of a cell: pairs on the diagonal, suited hands above it, offsuit hands below it. The
-/// higher rank always stands first.
-function label(row, column) {
-    if (row === column)
-        return RANKS[row] + RANKS[row]
-    return row < column ? RANKS[row] + RANKS[column] + "s" : RANKS[column] + RANKS[row] + "o"
-}
-
-/// The index 0..168 (row * 13 + column) of a label, or -1 for a text that is none.
-function indexOf(hand) {
-    return LABELS.indexOf(hand)
-}
+/// Cells a row and a column.
+const SIDE = 13
 
 /// The index 0..168 of the cell under a point of the grid, in pixels; -1 outside the grid and in
 /// the gaps between cells.
@@ -25,19 +9,19 @@ function cellAt(x, y, cellSize, cellSpacing) {
     const step = cellSize + cellSpacing
     const column = Math.floor(x / step)
     const row = Math.floor(y / step)
-    if (!(column >= 0 && column < RANKS.length && row >= 0 && row < RANKS.length))
+    if (!(column >= 0 && column < SIDE && row >= 0 && row < SIDE))
         return -1
     if (x - column * step > cellSize || y - row * step > cellSize)
         return -1
-    return row * RANKS.length + column
+    return row * SIDE + column
 }
 
 /// The index of the cell `rows` and `columns` away from a cell, held inside the grid.
 function neighbour(index, rows, columns) {
-    const last = RANKS.length - 1
-    const row = Math.min(last, Math.max(0, Math.floor(index / RANKS.length) + rows))
-    const column = Math.min(last, Math.max(0, index % RANKS.length + columns))
-    return row * RANKS.length + column
+    const last = SIDE - 1
+    const row = Math.min(last, Math.max(0, Math.floor(index / SIDE) + rows))
+    const column = Math.min(last, Math.max(0, index % SIDE + columns))
+    return row * SIDE + column
 }
 
 /// The cells that the straight way from one point to another enters, in pixels, in order.

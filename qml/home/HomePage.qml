@@ -6,7 +6,6 @@ import Velmora
 ScrollPage {
     id: root
 
-    required property var controller
     required property bool filesBusy
     property var solveActivityGrid: []
     property var playVsSolutionStats: ({})
@@ -18,11 +17,11 @@ ScrollPage {
     signal openRequested
 
     function reloadSolveActivity() {
-        solveActivityGrid = controller.solveActivityGridLastYear()
+        solveActivityGrid = Controller.solveActivityGridLastYear()
     }
 
     function reloadPlayVsSolutionStats() {
-        playVsSolutionStats = controller.playVsSolutionStats()
+        playVsSolutionStats = Controller.playVsSolutionStats()
     }
 
     Component.onCompleted: {
@@ -47,14 +46,14 @@ ScrollPage {
             root.reloadPlayVsSolutionStats()
         }
 
-        target: root.controller
+        target: Controller
     }
 
     HeroBand {
         Layout.fillWidth: true
         Layout.preferredHeight: 180
         busy: root.filesBusy
-        progress: root.controller.fileProgress
+        progress: Controller.fileProgress
         onNewProject: root.newProject()
         onSaveRequested: root.saveRequested()
         onOpenRequested: root.openRequested()
@@ -79,12 +78,11 @@ ScrollPage {
             Layout.fillWidth: true
             Layout.fillHeight: true
             stats: root.playVsSolutionStats
-            onClearRequested: root.controller.clearPlayVsSolutionStats()
+            onClearRequested: Controller.clearPlayVsSolutionStats()
         }
 
         SystemCard {
             Layout.fillWidth: true
-            controller: root.controller
         }
     }
 

@@ -7,14 +7,13 @@ import "../components/file_url.js" as FileUrl
 Item {
     id: root
 
-    required property var controller
     required property ProjectState project
     /// The file name that a project without one is offered, without its ending.
     property string suggestedName: ""
     /// The file of the project at hand; empty until it is saved or opened.
     property url currentFile
     readonly property string currentName: FileUrl.baseName(currentFile, ".velmoraproj")
-    readonly property bool busy: controller.fileProgress >= 0
+    readonly property bool busy: Controller.fileProgress >= 0
 
     readonly property var _filters: [qsTr("Velmora Project (*.velmoraproj)"), qsTr("JSON (*.json)"), qsTr("All Files (*)")]
     /// The file that is being saved, what it gets, and what is to be done after that.
@@ -45,7 +44,7 @@ Item {
     }
 
     function open(file: url) {
-        controller.loadProjectInBackground(file)
+        Controller.loadProjectInBackground(file)
     }
 
     /// The project at hand has no file any more.
@@ -56,7 +55,7 @@ Item {
     function _saveTo(file: url) {
         _pendingFile = file
         _savedState = project.exportProjectState()
-        controller.saveProjectInBackground(file, _savedState)
+        Controller.saveProjectInBackground(file, _savedState)
     }
 
     Connections {
@@ -88,7 +87,7 @@ Item {
             fault.report(answer.error || qsTr("unknown error"))
         }
 
-        target: root.controller
+        target: Controller
     }
 
     FileChooser {
@@ -100,7 +99,6 @@ Item {
             open()
         }
 
-        controller: root.controller
         title: qsTr("Save Project")
         fileMode: FileChooser.SaveFile
         acceptLabel: qsTr("Save")
@@ -113,7 +111,6 @@ Item {
     FileChooser {
         id: openDialog
 
-        controller: root.controller
         title: qsTr("Open Project")
         nameFilters: root._filters
         onAccepted: root.open(FileUrl.ofLocalFile(selectedFile))

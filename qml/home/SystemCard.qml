@@ -6,8 +6,6 @@ import Velmora
 Card {
     id: root
 
-    required property var controller
-
     ColumnLayout {
         anchors.fill: parent
         spacing: root.theme.spaceMd
@@ -31,13 +29,13 @@ Card {
                 { label: qsTr("Engine"), value: qsTr("Dunmarrow Core") },
                 {
                     label: qsTr("Threads"),
-                    value: root.controller.systemThreadCount > 0
-                           ? qsTr("%1 available").arg(root.controller.systemThreadCount) : "—"
+                    value: Controller.systemThreadCount > 0
+                           ? qsTr("%1 available").arg(Controller.systemThreadCount) : "—"
                 },
                 {
                     label: qsTr("Memory"),
-                    value: qsTr("%1 (%2 free)").arg(root.controller.systemMemoryText || "—")
-                                               .arg(root.controller.systemAvailableMemoryText || "—")
+                    value: qsTr("%1 (%2 free)").arg(Controller.systemMemoryText || "—")
+                                               .arg(Controller.systemAvailableMemoryText || "—")
                 }
             ]
         }

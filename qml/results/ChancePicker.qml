@@ -4,7 +4,6 @@ import QtQuick
 import QtQuick.Controls
 import Velmora
 import "../components/card_names.js" as CardNames
-import "../components/hand_grid.js" as HandGrid
 import "tree_walk.js" as Walk
 import "typed_card.js" as TypedCard
 
@@ -42,7 +41,7 @@ AppDialog {
 
     /// Moves the keyboard to the next card in a direction that can be chosen, if there is one.
     function moveFocus(rows: int, columns: int) {
-        const ranks = HandGrid.RANKS.length
+        const ranks = HandText.ranks.length
         let row = Math.floor(currentIndex / ranks) + rows
         let column = currentIndex % ranks + columns
         while (row >= 0 && row < CardNames.SUITS.length && column >= 0 && column < ranks) {
@@ -176,22 +175,22 @@ AppDialog {
                 }
 
                 Grid {
-                    columns: HandGrid.RANKS.length
+                    columns: HandText.ranks.length
                     columnSpacing: 3
                     rowSpacing: 6
 
                     Repeater {
                         id: cards
 
-                        model: CardNames.SUITS.length * HandGrid.RANKS.length
+                        model: CardNames.SUITS.length * HandText.ranks.length
 
                         PlayingCard {
                             required property int index
                             readonly property int actionIndex: Walk.chanceCardIndexForSelection(
                                 rank + suit, root.chancePickerIndexByCard, root.chancePickerBoardText)
 
-                            rank: HandGrid.RANKS[index % HandGrid.RANKS.length]
-                            suit: CardNames.SUITS[Math.floor(index / HandGrid.RANKS.length)]
+                            rank: HandText.ranks[index % HandText.ranks.length]
+                            suit: CardNames.SUITS[Math.floor(index / HandText.ranks.length)]
                             mini: true
                             disabled: actionIndex < 0
                             activeFocusOnTab: index === root.currentIndex

@@ -11,7 +11,6 @@ Rectangle {
 
     property Theme theme: Style.theme
     property Typography type: Style.type
-    required property var controller
     required property NodeLocks locks
     required property int node
     required property bool lockable
@@ -103,9 +102,9 @@ Rectangle {
             PrimaryButton {
                 height: weight.height
                 text: qsTr("Re-solve")
-                loading: root.controller.running
-                enabled: !root.controller.running && (root.controller.lockCount > 0 || root.controller.locksPending)
-                onClicked: root.controller.reSolveWithNodeLocks()
+                loading: Controller.running
+                enabled: !Controller.running && (Controller.lockCount > 0 || Controller.locksPending)
+                onClicked: Controller.reSolveWithNodeLocks()
             }
         }
 

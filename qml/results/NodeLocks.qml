@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 import "hand_views.js" as HandViews
 
 /// The controls to set node locks with. The locks themselves are the controller's, which keeps them
@@ -6,7 +7,6 @@ import "hand_views.js" as HandViews
 QtObject {
     id: root
 
-    required property var controller
     property bool nodeLockMode: false
     property int nodeLockSelectedActionIndex: -1
     property string nodeLockWeightText: "1.0"
@@ -30,13 +30,13 @@ QtObject {
             root.nodeLockSelectedActionIndex = -1
         }
 
-        target: root.controller
+        target: Controller
     }
 
     /// By hand label: {actionIndex, actionProb}.
     function ofNode(node: int): var {
         const locks = {}
-        for (const lock of controller.nodeLocks(node))
+        for (const lock of Controller.nodeLocks(node))
             locks[lock.hand] = lock
         return locks
     }
@@ -44,24 +44,24 @@ QtObject {
     /// The locks that views of a node draw over the solved strategy: those that are not solved yet,
     /// where all views can draw them.
     function previewOf(node: int): var {
-        return controller.nodeLocksPending(node) && controller.resultHasTables ? ofNode(node) : {}
+        return Controller.nodeLocksPending(node) && Controller.resultHasTables ? ofNode(node) : {}
     }
 
     /// Locks a hand to the selected action; false if there is nothing to lock it to.
     function applyNodeLockToHand(node: int, hand: string): bool {
         if (!nodeLockMode || nodeLockSelectedActionIndex < 0 || weightFault !== "")
             return false
-        controller.setNodeLock(node, hand, nodeLockSelectedActionIndex,
+        Controller.setNodeLock(node, hand, nodeLockSelectedActionIndex,
                                HandViews.parseLockWeight(nodeLockWeightText))
         return true
     }
 
     /// Drops the locks of a node and what was chosen for the next one.
     function resetNodeLockEdits(node: int) {
-        const locks = controller.nodeLocks(node)
+        const locks = Controller.nodeLocks(node)
         nodeLockSelectedActionIndex = -1
         nodeLockWeightText = "1.0"
-        controller.clearNodeLocks(node)
+        Controller.clearNodeLocks(node)
         lastReset = locks.length > 0 ? { node: node, locks: locks } : null
     }
 
@@ -70,7 +70,7 @@ QtObject {
         if (lastReset === null)
             return
         for (const lock of lastReset.locks)
-            controller.setNodeLock(lastReset.node, lock.hand, lock.actionIndex, lock.actionProb)
+            Controller.setNodeLock(lastReset.node, lock.hand, lock.actionIndex, lock.actionProb)
         lastReset = null
     }
 

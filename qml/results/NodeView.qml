@@ -1,6 +1,5 @@
 import QtQuick
 import Velmora
-import "../components/board_text.js" as BoardText
 import "hand_views.js" as HandViews
 import "tree_walk.js" as Walk
 
@@ -10,7 +9,6 @@ import "tree_walk.js" as Walk
 QtObject {
     id: root
 
-    required property var controller
     property Theme theme: Style.theme
     required property TreeWalk walk
     required property NodeLocks locks
@@ -59,7 +57,7 @@ QtObject {
             // A board that shows another suit than the tree holds shows the hands in that suit too.
             const suits = root.walk.suitsAt(root.walk.treeLevels.count)
             root._loadedHandCombos = HandViews.combosWithLocks(
-                Walk.shownCombos(root.controller.nodeHandCombos(root.node), suits), root.locks.previewOf(root.node))
+                Walk.shownCombos(Controller.nodeHandCombos(root.node), suits), root.locks.previewOf(root.node))
             root._handCombosLoading = false
         }
     }
@@ -67,7 +65,7 @@ QtObject {
     readonly property Timer _waitTimer: Timer {
         interval: 120
         onTriggered: {
-            root.currentActions = root.isChance ? [root._chanceAction()] : root.controller.nodeActions(root.node)
+            root.currentActions = root.isChance ? [root._chanceAction()] : Controller.nodeActions(root.node)
             root.waiting = true
         }
     }
@@ -83,7 +81,7 @@ QtObject {
                 root.nodeError = error
         }
 
-        target: root.controller
+        target: Controller
     }
 
     // Names that come by calls tell nobody of another language.
@@ -111,12 +109,12 @@ QtObject {
         selectedHandClass = ""
         selectedBucket = ""
         handSearchText = ""
-        if (controller.treeNodeCount() === 0) {
+        if (Controller.treeNodeCount() === 0) {
             _showAnswers()
             return
         }
         _waitTimer.restart()
-        controller.prepareNodeAnswers(node)
+        Controller.prepareNodeAnswers(node)
     }
 
     /// Shows nothing: what is there belongs to a result that has gone.
@@ -140,30 +138,30 @@ QtObject {
         if (loading || paused)
             return
         _fillGrid()
-        buckets = controller.nodeHandBuckets(node)
+        buckets = Controller.nodeHandBuckets(node)
         _scheduleHandCombosLoad()
     }
 
     function _fillGrid() {
-        const strategy = controller.nodeHandStrategy(node)
+        const { actionProbs, weights, actionTypeList, dominantActionTypes } = Controller.nodeHandStrategy(node)
         // The actions are asked for here: a binding may still hold those of the node before.
         const definitions = _definitions()
-        const reach = controller.nodeHandStrategyReach169(node, selectedBucket)
-        const count = HandViews.actionCount(definitions, reach.actionProbs ?? strategy.actionProbs, strategy.actionTypeList)
+        const { actionProbs: reachProbs, weights: reachWeights } = Controller.nodeHandStrategyReach169(node, selectedBucket)
+        const count = HandViews.actionCount(definitions, reachProbs ?? actionProbs, actionTypeList)
         const preview = locks.previewOf(node)
         previews = Object.keys(preview).length > 0
-        const probabilities = HandViews.withLocks(reach.actionProbs ?? strategy.actionProbs ?? {}, preview, count)
-        const weights = reach.weights ?? strategy.weights ?? {}
+        const probabilities = HandViews.withLocks(reachProbs ?? actionProbs ?? {}, preview, count)
+        const shownWeights = reachWeights ?? weights ?? {}
         const colors = {}
-        for (const hand in weights) {
+        for (const hand in shownWeights) {
             const action = definitions[HandViews.dominantAction(probabilities[hand])]
-            const dominant = strategy.dominantActionTypes?.[hand]
+            const dominant = dominantActionTypes?.[hand]
             colors[hand] = action ? theme.actionColor(action.actionType || action.name)
                                   : dominant ? theme.actionColor(dominant) : theme.textMuted
         }
-        handWeights = weights
+        handWeights = shownWeights
         handColors = colors
-        handActionTypeList = HandViews.actionTypeList(definitions, strategy.actionTypeList, count)
+        handActionTypeList = HandViews.actionTypeList(definitions, actionTypeList, count)
         handActionProbs = probabilities
     }
 
@@ -171,8 +169,8 @@ QtObject {
     function _definitions(): var {
         if (isChance)
             return []
-        const stats = controller.nodeActionStats(node)
-        return stats.length > 0 ? stats : controller.nodeActions(node)
+        const stats = Controller.nodeActionStats(node)
+        return stats.length > 0 ? stats : Controller.nodeActions(node)
     }
 
     function _chanceAction(): var {
@@ -188,7 +186,7 @@ QtObject {
         waiting = false
         currentActions = isChance ? [_chanceAction()] : _definitions()
         _fillGrid()
-        buckets = controller.nodeHandBuckets(node)
+        buckets = Controller.nodeHandBuckets(node)
         _scheduleHandCombosLoad()
         loading = false
     }

@@ -8,7 +8,6 @@ ColumnLayout {
     id: root
 
     property Theme theme: Style.theme
-    required property var controller
     required property SolveFollower follower
     /// Whether Setup shows another spot than that of the result.
     required property bool setupDiffers
@@ -21,28 +20,28 @@ ColumnLayout {
     property int _readRevision: -1
     property int _runRevision: 0
     readonly property bool _endedBadly: !follower.running && _readRevision !== _runRevision
-        && ["Cancelled", "Failed", "Refused"].includes(controller.lastRunOutcome)
+        && Controller.lastRunOutcome !== "" && Controller.lastRunOutcome !== "Completed"
 
-    readonly property bool _locksWait: controller.locksPending && !follower.running && !lockMode
+    readonly property bool _locksWait: Controller.locksPending && !follower.running && !lockMode
     readonly property bool _setupWaits: setupDiffers && !follower.running
 
     signal solveAgainRequested
     signal setupWanted
 
     function _lastRunLine(): string {
-        switch (controller.lastRunOutcome) {
+        switch (Controller.lastRunOutcome) {
         case "Cancelled":
             return qsTr("The last solve was cancelled. These are the results of the solve before.")
         case "Refused":
             return qsTr("The last solve was not started: %1. These are the results of the solve before.")
-                   .arg(controller.lastRunText)
+                   .arg(Controller.lastRunText)
         default:
             return qsTr("The last solve failed: %1. These are the results of the solve before.")
-                   .arg(controller.lastRunText)
+                   .arg(Controller.lastRunText)
         }
     }
 
-    visible: follower.running || _endedBadly || nodeError !== "" || _locksWait || _setupWaits || controller.resultStalled
+    visible: follower.running || _endedBadly || nodeError !== "" || _locksWait || _setupWaits || Controller.resultStalled
     spacing: theme.spaceXs
 
     Connections {
@@ -50,7 +49,7 @@ ColumnLayout {
             ++root._runRevision
         }
 
-        target: root.controller
+        target: Controller
     }
 
     NoticeStrip {
@@ -63,7 +62,7 @@ ColumnLayout {
 
         SmallButton {
             text: qsTr("Cancel")
-            onClicked: root.controller.cancelSolve()
+            onClicked: Controller.cancelSolve()
         }
     }
 
@@ -90,20 +89,20 @@ ColumnLayout {
         Layout.fillWidth: true
         visible: root._locksWait
         accentColor: root.theme.warn
-        text: root.controller.lockCount > 0
+        text: Controller.lockCount > 0
               ? qsTr("The node locks (%1) are not solved yet. At their nodes the grid, the buckets and the hands show a preview; all other figures are those from before.")
-                .arg(root.controller.lockCount)
+                .arg(Controller.lockCount)
               : qsTr("The node locks of this result were removed. It still shows the solve with them.")
 
         SmallButton {
             text: qsTr("Re-solve")
-            onClicked: root.controller.reSolveWithNodeLocks()
+            onClicked: Controller.reSolveWithNodeLocks()
         }
     }
 
     NoticeStrip {
         Layout.fillWidth: true
-        visible: root.controller.resultStalled
+        visible: Controller.resultStalled
         accentColor: root.theme.warn
         text: qsTr("The node locks keep the exploitability from falling any further. The solve ended above its target.")
     }

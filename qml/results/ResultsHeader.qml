@@ -12,7 +12,6 @@ RowLayout {
 
     property Theme theme: Style.theme
     property Typography type: Style.type
-    required property var controller
     required property TreeWalk walk
     required property PlaySession play
 
@@ -20,9 +19,9 @@ RowLayout {
     readonly property bool _decision: walk.currentMeta.nodeType === "decision"
 
     readonly property var _figures: [
-        { label: qsTr("EV (OOP)"), value: (controller.resultEvOop + controller.resultStartingPot / 2).toFixed(3), tone: theme.success },
-        { label: qsTr("EV (IP)"), value: (controller.resultEvIp + controller.resultStartingPot / 2).toFixed(3), tone: theme.info },
-        { label: qsTr("Exploitability"), value: controller.resultExploitability.toFixed(4), tone: theme.gold }
+        { label: qsTr("EV (OOP)"), value: (Controller.resultEvOop + Controller.resultStartingPot / 2).toFixed(3), tone: theme.success },
+        { label: qsTr("EV (IP)"), value: (Controller.resultEvIp + Controller.resultStartingPot / 2).toFixed(3), tone: theme.info },
+        { label: qsTr("Exploitability"), value: Controller.resultExploitability.toFixed(4), tone: theme.gold }
     ]
     /// Whether all fits side by side: the title too, and the figures of the solve in full size.
     readonly property bool _roomy: width >= title.implicitWidth + _fullBoardWidth + turn.implicitWidth

@@ -9,14 +9,13 @@ FocusScope {
     id: root
 
     property Theme theme: Style.theme
-    required property var controller
     required property SolveFollower follower
     /// Whether Setup shows another spot than that of the result.
     required property bool setupDiffers
     // Of the spot that was solved, whatever Setup shows by now.
-    readonly property string boardText: controller.resultBoard
-    readonly property real rakePercent: controller.resultRakePercent
-    readonly property real rakeCap: controller.resultRakeCap
+    readonly property string boardText: Controller.resultBoard
+    readonly property real rakePercent: Controller.resultRakePercent
+    readonly property real rakeCap: Controller.resultRakeCap
 
     readonly property alias walk: walk_
     readonly property alias view: view_
@@ -41,17 +40,16 @@ FocusScope {
         }
 
         function onRunningChanged() {
-            if (root.controller.running)
+            if (Controller.running)
                 play_.playMode = false
         }
 
-        target: root.controller
+        target: Controller
     }
 
     TreeWalk {
         id: walk_
 
-        controller: root.controller
         boardText: root.boardText
         locked: play_.playMode
         entersTerminals: play_.playMode
@@ -60,14 +58,12 @@ FocusScope {
     NodeLocks {
         id: locks_
 
-        controller: root.controller
         onChanged: view_.refreshLocks()
     }
 
     NodeView {
         id: view_
 
-        controller: root.controller
         walk: walk_
         locks: locks_
         paused: play_.playMode
@@ -76,14 +72,12 @@ FocusScope {
     PlayScores {
         id: scores_
 
-        controller: root.controller
         walk: walk_
     }
 
     PlayLog {
         id: playLog_
 
-        controller: root.controller
         rakePercent: root.rakePercent
         rakeCap: root.rakeCap
     }
@@ -91,7 +85,6 @@ FocusScope {
     PlaySession {
         id: play_
 
-        controller: root.controller
         walk: walk_
         scores: scores_
         log: playLog_
@@ -104,7 +97,6 @@ FocusScope {
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.margins: root.theme.spaceLg
-        controller: root.controller
         follower: root.follower
         setupDiffers: root.setupDiffers
         lockMode: locks_.nodeLockMode
@@ -132,7 +124,6 @@ FocusScope {
         StrategyPanel {
             SplitView.fillWidth: true
             SplitView.minimumWidth: minimumWidth
-            controller: root.controller
             walk: walk_
             view: view_
             locks: locks_

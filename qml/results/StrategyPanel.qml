@@ -6,7 +6,6 @@ import Velmora
 Card {
     id: root
 
-    required property var controller
     required property TreeWalk walk
     required property NodeView view
     required property NodeLocks locks
@@ -33,7 +32,6 @@ Card {
 
             Layout.fillWidth: true
             Layout.minimumWidth: 0
-            controller: root.controller
             walk: root.walk
             play: root.play
         }
@@ -55,7 +53,6 @@ Card {
             Layout.fillWidth: true
             Layout.fillHeight: true
             visible: !root.play.playMode
-            controller: root.controller
             walk: root.walk
             view: root.view
             locks: root.locks

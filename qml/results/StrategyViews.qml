@@ -10,7 +10,6 @@ Item {
     id: root
 
     property Theme theme: Style.theme
-    required property var controller
     required property TreeWalk walk
     required property NodeView view
     required property NodeLocks locks
@@ -89,7 +88,6 @@ Item {
                              : column.y + column.height + root.theme.spaceSm
         width: root._panelBeside ? lists.width : column.width
         visible: root.locks.nodeLockMode
-        controller: root.controller
         locks: root.locks
         node: root.view.node
         lockable: root.walk.currentMeta.nodeType === "decision"

@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 import "tree_walk.js" as Walk
 
 /// The walked path through a solved tree. The tree itself stays with the controller, which is asked
@@ -6,7 +7,6 @@ import "tree_walk.js" as Walk
 QtObject {
     id: root
 
-    required property var controller
     required property string boardText
     /// The path: rows with `nodeIndex` and `selectedActionIndex`, -1 while undecided.
     readonly property ListModel treeLevels: ListModel {}
@@ -28,11 +28,11 @@ QtObject {
     readonly property var currentNodeActions: revision >= 0 ? nodeActions(currentNodeIndex) : []
 
     function nodeMeta(node: int): var {
-        return controller.nodeMeta(node)
+        return Controller.nodeMeta(node)
     }
 
     function nodeActions(node: int): var {
-        return controller.nodeActions(node)
+        return Controller.nodeActions(node)
     }
 
     /// One level, node 0, undecided.
@@ -53,7 +53,7 @@ QtObject {
             return
         treeLevels.setProperty(levelIndex, "selectedActionIndex", actionIndex)
         const child = actions[actionIndex].childIndex
-        if (child >= 0 && child < controller.treeNodeCount()
+        if (child >= 0 && child < Controller.treeNodeCount()
                 && (entersTerminals || nodeMeta(child).nodeType !== "terminal"))
             _enter(child)
         rebuildBreadcrumbs()

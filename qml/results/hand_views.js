@@ -1,6 +1,5 @@
 .pragma library
-.import "../components/card_names.js" as CardNames
-.import "../components/hand_grid.js" as HandGrid
+.import Velmora as Velmora
 
 // What the views of a node make of the controller's answers. Lists may be the controller's own, so
 // they are addressed by index and length only.
@@ -83,7 +82,7 @@ function combosWithLocks(combos, locks) {
     if (Object.keys(locks).length === 0)
         return combos
     return _list(combos).map(combo => {
-        const hand = handClassFromCards(combo.c1, combo.c2)
+        const hand = Velmora.HandText.handClassFromCards(combo.c1, combo.c2)
         if (locks[hand] === undefined)
             return combo
         const probabilities = withLocks({ [hand]: combo.actionProbs }, locks, combo.actionProbs.length)
@@ -101,41 +100,6 @@ function actionsForProbs(actions, probabilities) {
     }))
 }
 
-/// The grid label of two cards.
-function handClassFromCards(card1, card2) {
-    const [high, low] = [card1, card2].sort((a, b) => HandGrid.RANKS.indexOf(a.charAt(0)) - HandGrid.RANKS.indexOf(b.charAt(0)))
-    if (high.charAt(0) === low.charAt(0))
-        return high.charAt(0) + low.charAt(0)
-    return high.charAt(0) + low.charAt(0) + (high.charAt(1) === low.charAt(1) ? "s" : "o")
-}
-
-/// The tokens of a search text; commas count as spaces.
-function parseHandSearchTokens(text) {
-    return String(text).replace(/,/g, " ").split(/\s+/).filter(token => token !== "")
-}
-
-/// Whether a search token means the combo of two cards.
-function matchSearchTokenToCombo(token, card1, card2) {
-    const rank = index => token.charAt(index).toUpperCase()
-    const suit = index => token.charAt(index).toLowerCase()
-    const known = index => token.charAt(index) !== "" && HandGrid.RANKS.includes(rank(index))
-    const ranks = [card1.charAt(0), card2.charAt(0)].sort().join("")
-    if (token.length === 4) {
-        if (!known(0) || !known(2) || !CardNames.SUITS.includes(suit(1)) || !CardNames.SUITS.includes(suit(3)))
-            return false
-        const [first, second] = [rank(0) + suit(1), rank(2) + suit(3)]
-        return (first === card1 && second === card2) || (first === card2 && second === card1)
-    }
-    if (!known(0) || !known(1) || [rank(0), rank(1)].sort().join("") !== ranks)
-        return false
-    if (token.length === 2)
-        return true
-    if (token.length !== 3 || rank(0) === rank(1))
-        return false
-    const suited = card1.charAt(1) === card2.charAt(1)
-    return suit(2) === "s" ? suited : suit(2) === "o" ? !suited : false
-}
-
 /// The weight at or below which a combo is a residue of rounding. It looks at 96 combos at most.
 function noiseCutoff(combos) {
     let largest = 0
@@ -149,12 +113,11 @@ function noiseCutoff(combos) {
 function visibleHandCombos(combos, filters) {
     const list = _list(combos)
     const cutoff = filters.boardCards >= 4 ? noiseCutoff(list) : -1
-    const tokens = parseHandSearchTokens(filters.search)
     return list.filter(combo =>
         combo.weight > cutoff
-        && (filters.handClass === "" || handClassFromCards(combo.c1, combo.c2) === filters.handClass)
+        && (filters.handClass === "" || Velmora.HandText.handClassFromCards(combo.c1, combo.c2) === filters.handClass)
         && (filters.bucket === "" || _list(combo.buckets).includes(filters.bucket))
-        && (tokens.length === 0 || tokens.some(token => matchSearchTokenToCombo(token, combo.c1, combo.c2))))
+        && Velmora.HandText.matchesSearch(filters.search, combo.c1, combo.c2))
 }
 
 /// The EVs of a combo as texts by action: relative to folding where the node has a fold. Without EVs

@@ -1,17 +1,17 @@
 .pragma library
-.import "../components/board_text.js" as BoardText
+.import Velmora as Velmora
 .import "../components/card_names.js" as CardNames
 
 // The public cards along a walk through a solved tree.
 
 /// True for an action that is a dealt card.
 function isCardName(name) {
-    return String(name).length === 2 && BoardText.normalizeCard(String(name)) !== ""
+    return String(name).length === 2 && Velmora.BoardText.normalizeCard(String(name)) !== ""
 }
 
 /// The board text and the cards dealt after it (a list of card texts), as one board text.
 function boardWithCards(boardText, cards) {
-    return cards.reduce((board, card) => board + BoardText.normalizeCard(card), String(boardText).replace(/\s+/g, ""))
+    return cards.reduce((board, card) => board + Velmora.BoardText.normalizeCard(card), String(boardText).replace(/\s+/g, ""))
 }
 
 /// Which suit stands for each suit of the tree on a shown board. `dealt` are the dealt cards so far,
@@ -21,8 +21,8 @@ function shownSuits(dealt) {
     const suits = {}
     CardNames.SUITS.forEach(suit => suits[suit] = suit)
     for (const card of dealt) {
-        const before = suits[BoardText.normalizeCard(card.name).charAt(1)]
-        const now = BoardText.normalizeCard(card.shown).charAt(1)
+        const before = suits[Velmora.BoardText.normalizeCard(card.name).charAt(1)]
+        const now = Velmora.BoardText.normalizeCard(card.shown).charAt(1)
         for (const suit of CardNames.SUITS)
             suits[suit] = suits[suit] === before ? now : suits[suit] === now ? before : suits[suit]
     }
@@ -55,7 +55,7 @@ function chanceIndexByCard(actions, suits) {
     const indices = {}
     for (let i = 0; i < actions.length; ++i) {
         if (isCardName(actions[i].name))
-            indices[shownCard(BoardText.normalizeCard(actions[i].name), suits)] = i
+            indices[shownCard(Velmora.BoardText.normalizeCard(actions[i].name), suits)] = i
     }
     return indices
 }
@@ -64,7 +64,7 @@ function chanceIndexByCard(actions, suits) {
 /// tree then keeps one of them: another such suit of the rank stands for the card. A card that the
 /// board shows, if only in place of another, can't be dealt again.
 function chanceCardIndexForSelection(card, indexByCard, boardText) {
-    const used = BoardText.usedCards(boardText)
+    const used = Velmora.BoardText.usedCards(boardText)
     if (used.includes(card))
         return -1
     if (indexByCard[card] !== undefined)

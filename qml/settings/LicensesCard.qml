@@ -9,8 +9,6 @@ import Velmora
 SettingsCard {
     id: root
 
-    required property var controller
-
     component NoticeRow: Rectangle {
         id: row
 
@@ -67,7 +65,7 @@ SettingsCard {
     }
 
     NoticeRow {
-        visible: root.controller.useTbb
+        visible: Controller.useTbb
         name: qsTr("oneTBB")
         role: qsTr("Threading")
         license: qsTr("Apache 2.0")
@@ -88,13 +86,13 @@ SettingsCard {
         SecondaryButton {
             text: qsTr("Open licenses folder")
             iconName: "folder-open"
-            onClicked: root.controller.openLicensesFolder()
+            onClicked: Controller.openLicensesFolder()
         }
 
         SecondaryButton {
             text: qsTr("Open notices")
             iconName: "file-text"
-            onClicked: root.controller.openThirdPartyNotices()
+            onClicked: Controller.openThirdPartyNotices()
         }
     }
 }

@@ -6,10 +6,6 @@ import Velmora
 ScrollPage {
     id: root
 
-    required property var controller
-    required property var languageManager
-    required property var updates
-
     function applyAccentHex(text: string) {
         theme.applyAccentHex(text)
     }
@@ -44,18 +40,14 @@ ScrollPage {
         }
 
         AppearanceCard {
-            language: root.languageManager.currentLanguage
-            onLanguageChosen: code => root.languageManager.setLanguage(code)
+            language: Translator.currentLanguage
+            onLanguageChosen: code => Translator.setLanguage(code)
             onAccentChosen: text => root.applyAccentHex(text)
         }
 
-        LicensesCard {
-            controller: root.controller
-        }
+        LicensesCard {}
 
-        UpdatesCard {
-            updates: root.updates
-        }
+        UpdatesCard {}
 
         RowLayout {
             Layout.alignment: Qt.AlignRight

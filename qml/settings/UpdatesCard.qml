@@ -9,10 +9,8 @@ import Velmora
 SettingsCard {
     id: root
 
-    required property var updates
-
     /// Without an address nothing is checked, which is no fault.
-    readonly property bool _addressSet: updates.manifestUrl !== ""
+    readonly property bool _addressSet: UpdateService.manifestUrl !== ""
 
     component Line: Label {
         Layout.fillWidth: true
@@ -35,25 +33,25 @@ SettingsCard {
         spacing: root.theme.spaceXs
 
         Line {
-            text: qsTr("Current version: %1").arg(root.updates.currentVersion || qsTr("Unknown"))
+            text: qsTr("Current version: %1").arg(UpdateService.currentVersion || qsTr("Unknown"))
         }
 
         Line {
-            text: root._addressSet ? root._checkedText(root.updates.lastCheckedAt) : ""
+            text: root._addressSet ? root._checkedText(UpdateService.lastCheckedAt) : ""
         }
 
         Line {
-            text: root.updates.lastError
+            text: UpdateService.lastError
             color: root._addressSet ? root.theme.danger : root.theme.textMuted
         }
 
         Line {
-            text: root.updates.updateAvailable ? qsTr("Update available: %1").arg(root.updates.latestVersion) : ""
+            text: UpdateService.updateAvailable ? qsTr("Update available: %1").arg(UpdateService.latestVersion) : ""
             color: root.theme.success
         }
 
         Line {
-            text: root.updates.updateAvailable ? root.updates.releaseNotes.trim() : ""
+            text: UpdateService.updateAvailable ? UpdateService.releaseNotes.trim() : ""
         }
     }
 
@@ -62,15 +60,15 @@ SettingsCard {
         spacing: root.theme.spaceMd
 
         SecondaryButton {
-            text: root.updates.busy ? qsTr("Checking...") : qsTr("Check for updates")
-            enabled: !root.updates.busy
-            onClicked: root.updates.checkNow()
+            text: UpdateService.busy ? qsTr("Checking...") : qsTr("Check for updates")
+            enabled: !UpdateService.busy
+            onClicked: UpdateService.checkNow()
         }
 
         PrimaryButton {
             text: qsTr("Download update")
-            enabled: root.updates.updateAvailable
-            onClicked: root.updates.openDownloadUrl()
+            enabled: UpdateService.updateAvailable
+            onClicked: UpdateService.openDownloadUrl()
         }
     }
 }

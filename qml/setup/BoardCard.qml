@@ -2,7 +2,6 @@ import QtQuick
 import QtQuick.Layouts
 import QtQuick.Controls
 import Velmora
-import "../components/board_text.js" as BoardText
 
 /// The board, card by card. A click on a slot opens the picker under it.
 Card {

@@ -10,15 +10,14 @@ RowLayout {
 
     property Theme theme: Style.theme
     property Typography type: Style.type
-    required property var controller
     required property ProjectState project
     required property bool canSolve
     /// The memory figure is of the spot as it was before the latest edit.
     required property bool estimatePending
 
-    readonly property bool _tooLarge: controller.solveRequiredMemoryBytes > 0
-        && controller.effectiveAvailableMemoryBytes > 0
-        && controller.solveRequiredMemoryBytes > controller.effectiveAvailableMemoryBytes
+    readonly property bool _tooLarge: Controller.solveRequiredMemoryBytes > 0
+        && Controller.effectiveAvailableMemoryBytes > 0
+        && Controller.solveRequiredMemoryBytes > Controller.effectiveAvailableMemoryBytes
 
     signal goToSolve
     /// The way on was asked for while there is none.
@@ -69,7 +68,7 @@ RowLayout {
             visible: root.project.faults.ready
             horizontalAlignment: Text.AlignRight
             text: root.estimatePending ? qsTr("Solve RAM: being estimated…")
-                : qsTr("Solve RAM: %1").arg(root.controller.solveRequiredMemoryText || "—")
+                : qsTr("Solve RAM: %1").arg(Controller.solveRequiredMemoryText || "—")
             color: !root.estimatePending && root._tooLarge ? root.theme.danger : root.theme.textMuted
             font.pixelSize: root.type.labelSm
             elide: Text.ElideRight
@@ -78,7 +77,7 @@ RowLayout {
         Label {
             Layout.fillWidth: true
             horizontalAlignment: Text.AlignRight
-            text: qsTr("Available RAM: %1").arg(root.controller.effectiveAvailableMemoryText || "—")
+            text: qsTr("Available RAM: %1").arg(Controller.effectiveAvailableMemoryText || "—")
             color: root.theme.textMuted
             font.pixelSize: root.type.labelSm
             elide: Text.ElideRight

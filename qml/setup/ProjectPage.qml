@@ -1,13 +1,11 @@
 import QtQuick
 import QtQuick.Layouts
 import Velmora
-import "../components/board_text.js" as BoardText
 
 /// Where a spot is described: board, game settings, bet sizes and both ranges.
 ScrollPage {
     id: root
 
-    required property var controller
     required property ProjectState project
     required property bool canSolve
     /// The memory figure is of the spot as it was before the latest edit.
@@ -54,7 +52,6 @@ ScrollPage {
         // The way on is in sight wherever the page is too wide for the window.
         Layout.fillWidth: true
         Layout.maximumWidth: root.viewWidth
-        controller: root.controller
         project: root.project
         canSolve: root.canSolve
         estimatePending: root.estimatePending
@@ -85,7 +82,7 @@ ScrollPage {
             SettingsProfilesCard {
                 Layout.fillWidth: true
                 project: root.project
-                onProfileLoaded: root.controller.abandonRun()
+                onProfileLoaded: Controller.abandonRun()
             }
         }
 
@@ -132,7 +129,7 @@ ScrollPage {
             Layout.minimumWidth: implicitWidth
             project: root.project
             libraries: libraries
-            developerMode: root.controller.developerMode
+            developerMode: Controller.developerMode
             seat: "oop"
             heightLimit: ranges.heightLimit
             onImportRequested: root.openImportRangeDialog("oop")
@@ -146,7 +143,7 @@ ScrollPage {
             Layout.minimumWidth: implicitWidth
             project: root.project
             libraries: libraries
-            developerMode: root.controller.developerMode
+            developerMode: Controller.developerMode
             seat: "ip"
             heightLimit: ranges.heightLimit
             onImportRequested: root.openImportRangeDialog("ip")
@@ -156,13 +153,11 @@ ScrollPage {
     RangeLibraries {
         id: libraries
 
-        controller: root.controller
     }
 
     ImportRange {
         id: importer
 
-        controller: root.controller
         libraries: libraries
     }
 }

@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
 import Velmora
-import "../components/board_text.js" as BoardText
 import "settings_profiles.js" as SettingsProfiles
 
 /// Keeps everything of a spot but its board and ranges under a name, and brings it back.

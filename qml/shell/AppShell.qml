@@ -11,44 +11,40 @@ import "solve_gate.js" as SolveGate
 Item {
     id: shell
 
-    // The context objects of the entry.
-    // qmllint disable unqualified
-    readonly property var controller: appController
-    readonly property var translator: languageManager
-    readonly property var updateService: updates
-    // qmllint enable unqualified
+    readonly property QtObject controller: Controller
     readonly property Theme theme: Style.theme
     readonly property Typography type: Style.type
     readonly property ProjectState project: project_
     property int navIndex: 0
     property bool hasProject: false
     readonly property int projectRecommendedWidth: projectPage.recommendedWindowWidth
-    readonly property bool developerMode: controller.developerMode
+    readonly property bool developerMode: Controller.developerMode
     readonly property bool canSolve: _canSolveBase && (estimatePending || _hasEnoughRamToSolve)
     /// The memory figure is of an older spot than the one at hand. The controller looks at the memory
     /// itself before it starts.
-    readonly property bool estimatePending: memoryEstimateTimer.running || controller.estimatePending
+    readonly property bool estimatePending: memoryEstimateTimer.running || Controller.estimatePending
     /// Why no solve can start, in one sentence; "" if one can.
     readonly property string solveRefusal: !hasProject
             ? qsTr("Start a new project (or load one) from Home to enable Project")
         : !_canSolveBase ? project_.faults.refusal
         : canSolve ? ""
-        : controller.solveRequiredMemoryBytes <= 0 ? qsTr("The memory that this solve takes could not be estimated.")
+        : Controller.solveRequiredMemoryBytes <= 0 ? qsTr("The memory that this solve takes could not be estimated.")
         : qsTr("Not enough memory: this solve takes %1, and %2 is available.")
-          .arg(controller.solveRequiredMemoryText).arg(controller.effectiveAvailableMemoryText)
+          .arg(Controller.solveRequiredMemoryText).arg(Controller.effectiveAvailableMemoryText)
     /// Whether something would be lost without a save: an edit of the spot, a result, its locks.
-    readonly property bool unsaved: hasProject && (controller.resultUnsaved || _stateText !== _savedStateText)
+    readonly property bool unsaved: hasProject && (Controller.resultUnsaved || _stateText !== _savedStateText)
     readonly property string windowTitle: !hasProject ? qsTr("Dunmarrow")
         : qsTr("%1%2 — Dunmarrow").arg(unsaved ? "• " : "").arg(files.currentName || files.suggestedName || qsTr("New spot"))
 
     readonly property bool _canSolveBase: project_.faults.ready
     readonly property bool _hasEnoughRamToSolve: SolveGate.hasEnoughRamToSolve(
-        controller.solveRequiredMemoryBytes, controller.systemAvailableMemoryBytes,
-        controller.resultsReclaimableMemoryBytes)
-    readonly property bool _setupDiffers: controller.resultRevision >= 0 && controller.resultIterations > 0
-        && hasProject && !controller.isResultSpot(project_.solveConfig())
+        Controller.solveRequiredMemoryBytes, Controller.systemAvailableMemoryBytes,
+        Controller.resultsReclaimableMemoryBytes)
+    readonly property bool _setupDiffers: Controller.resultRevision >= 0 && Controller.resultIterations > 0
+        && hasProject && !Controller.isResultSpot(project_.solveConfig())
     readonly property string _stateText: _comparable(project_.exportProjectState())
     property string _savedStateText: ""
+    readonly property var _runSettings: Controller.runSettings
     /// Whether to apply the locks, as the user said of those that are set now; empty if not asked yet.
     property string _locksAnswer: ""
     property bool _closes: false
@@ -60,7 +56,7 @@ Item {
     /// wait after a click.
     property bool _drawsAhead: true
     /// A running solve holds the user on its page.
-    readonly property bool _navigationLocked: navIndex === Pages.solve && controller.running
+    readonly property bool _navigationLocked: navIndex === Pages.solve && Controller.running
 
     function exportProjectState(): var {
         return project_.exportProjectState()
@@ -76,11 +72,11 @@ Item {
     }
 
     function resetToStartupBlank() {
-        _reset(Presets.startupBlankPreset(controller.systemThreadCount), false)
+        _reset(Presets.startupBlankPreset(Controller.systemThreadCount), false)
     }
 
     function resetToNewProject() {
-        _reset(Presets.newProjectPreset(controller.systemThreadCount), true)
+        _reset(Presets.newProjectPreset(Controller.systemThreadCount), true)
     }
 
     function resetToDefaults() {
@@ -88,8 +84,8 @@ Item {
     }
 
     function quickSolvePreset(): var {
-        return developerMode ? Presets.defaultPreset(controller.systemThreadCount)
-                             : Presets.customerQuickSolvePreset(controller.systemThreadCount)
+        return developerMode ? Presets.defaultPreset(Controller.systemThreadCount)
+                             : Presets.customerQuickSolvePreset(Controller.systemThreadCount)
     }
 
     /// Whether a page may show now, apart from the hold of a running solve.
@@ -100,7 +96,7 @@ Item {
         case Pages.solve:
             return canSolve
         case Pages.results:
-            return controller.resultIterations > 0
+            return Controller.resultIterations > 0
         default:
             return true
         }
@@ -108,7 +104,7 @@ Item {
 
     /// The window asks before it closes. What would be lost is asked about first.
     function mayClose(): bool {
-        if (_closes || (!unsaved && !controller.running))
+        if (_closes || (!unsaved && !Controller.running))
             return true
         _guard(() => {
             _closes = true
@@ -138,12 +134,12 @@ Item {
         }
         _commitEdits()
         const config = project_.solveConfig()
-        if (!controller.locksFit(config) || _locksAnswer !== "") {
+        if (!Controller.locksFit(config) || _locksAnswer !== "") {
             _start(config)
             return
         }
         question.ask(qsTr("Node locks"), qsTr("Node locks (%1) are set on the tree of this spot. Apply them in this solve?")
-                     .arg(controller.lockCount), [
+                     .arg(Controller.lockCount), [
             { text: qsTr("Solve without locks"), kind: "", action: () => { _locksAnswer = "no"; _start(config) } },
             { text: qsTr("Apply the locks"), kind: "primary", action: () => { _locksAnswer = "yes"; _start(config) } }
         ])
@@ -175,27 +171,27 @@ Item {
     /// Shows the setup that the result was solved from.
     function takeBackSetup() {
         project_.endStep()
-        project_.applyProjectState(controller.resultProjectState())
+        project_.applyProjectState(Controller.resultProjectState())
         project_.endStep()
         navIndex = Pages.setup
     }
 
     function _start(config: var) {
-        if (controller.locksFit(config))
+        if (Controller.locksFit(config))
             config.apply_node_locks = _locksAnswer === "yes"
         if (navIndex !== Pages.results)
             navIndex = Pages.solve
-        controller.startSolveWithConfig(config)
+        Controller.startSolveWithConfig(config)
     }
 
     /// Does what drops the project at hand, once its user has agreed to what would be lost.
     function _guard(action: var) {
         _commitEdits()
-        if (!unsaved && !controller.running) {
+        if (!unsaved && !Controller.running) {
             action()
             return
         }
-        const lost = controller.running ? qsTr("A solve is running, and it will be cancelled.") + " " : ""
+        const lost = Controller.running ? qsTr("A solve is running, and it will be cancelled.") + " " : ""
         question.ask(qsTr("Unsaved changes"), lost + (unsaved ? qsTr("The spot or its results are not saved.") : ""), unsaved
             ? [{ text: qsTr("Don't save"), kind: "danger", action: action },
                { text: qsTr("Save"), kind: "primary", action: () => files.save(action) }]
@@ -213,7 +209,7 @@ Item {
     }
 
     function _offerDraft() {
-        const draft = controller.draftLeftBehind()
+        const draft = Controller.draftLeftBehind()
         if (draft.project === undefined)
             return
         _draftWaits = true
@@ -221,7 +217,7 @@ Item {
         question.ask(qsTr("Take back your spot?"),
                      qsTr("Dunmarrow did not close properly. The spot that you were editing was kept on %1.")
                      .arg(when.toLocaleString(Qt.locale(), Locale.ShortFormat)), [
-            { text: qsTr("Discard"), kind: "danger", action: () => { _draftWaits = false; controller.dropDraft() } },
+            { text: qsTr("Discard"), kind: "danger", action: () => { _draftWaits = false; Controller.dropDraft() } },
             { text: qsTr("Take it back"), kind: "primary", action: () => _takeDraft(draft.project) }
         ])
     }
@@ -229,14 +225,14 @@ Item {
     /// What an earlier run left stays until its user has decided about it.
     function _dropDraft() {
         if (!_draftWaits)
-            controller.dropDraft()
+            Controller.dropDraft()
     }
 
     function _takeDraft(state: var) {
         _draftWaits = false
         resetToNewProject()
         applyProjectState(state)
-        controller.keepDraft(project_.exportProjectState())
+        Controller.keepDraft(project_.exportProjectState())
         navIndex = Pages.setup
     }
 
@@ -246,7 +242,7 @@ Item {
     }
 
     function _reset(preset: var, withProject: bool) {
-        controller.clearResults()
+        Controller.clearResults()
         applyProjectState(preset)
         hasProject = withProject
         files.forgetFile()
@@ -296,12 +292,12 @@ Item {
     Connections {
         function onLocksChanged(node: int) {
             // A result leaves the locks of its tree as they were.
-            if (node >= 0 || shell.controller.lockCount === 0)
+            if (node >= 0 || Controller.lockCount === 0)
                 shell._locksAnswer = ""
         }
 
         function onMemoryWanted(cfg: var, needed: string, available: string) {
-            const solve = () => shell.controller.startSolveInFreedMemory(cfg)
+            const solve = () => Controller.startSolveInFreedMemory(cfg)
             question.ask(qsTr("Not enough memory for both"),
                 qsTr("This solve needs %1, and %2 are available. It can start if the solver of the result on view is dropped: of that result only what was looked at so far stays.")
                 .arg(needed).arg(available), [
@@ -310,14 +306,13 @@ Item {
             ])
         }
 
-        target: shell.controller
+        target: Controller
     }
 
     ProjectFiles {
         id: files
 
         visible: false
-        controller: shell.controller
         project: project_
         suggestedName: project_.boardText.replace(/_/g, "") === "" ? ""
                        : qsTr("%1 pot %2").arg(project_.boardText.replace(/_/g, "")).arg(project_.startingPot)
@@ -360,12 +355,11 @@ Item {
     SolveFollower {
         id: solveFollower
 
-        controller: shell.controller
         // A re-solve runs the settings of the result, whatever Setup shows.
-        maxIterations: running ? controller.runSettings.max_iterations ?? 0 : project_.maxIterations
+        maxIterations: running ? shell._runSettings.max_iterations ?? 0 : project_.maxIterations
         targetExploitability: {
-            const pot = controller.runSettings.starting_pot ?? 0
-            return running && pot > 0 ? controller.runSettings.target_exploitability / pot * 100
+            const pot = shell._runSettings.starting_pot ?? 0
+            return running && pot > 0 ? shell._runSettings.target_exploitability / pot * 100
                                       : project_.targetExploitability
         }
     }
@@ -385,7 +379,7 @@ Item {
         interval: 450
         onTriggered: {
             if (shell._canSolveBase)
-                shell.controller.requestSolveMemoryEstimate(project_.solveConfig())
+                Controller.requestSolveMemoryEstimate(project_.solveConfig())
         }
     }
 
@@ -393,7 +387,7 @@ Item {
         interval: 20000
         repeat: true
         running: shell.unsaved
-        onTriggered: shell.controller.keepDraft(project_.exportProjectState())
+        onTriggered: Controller.keepDraft(project_.exportProjectState())
     }
 
     // bg0 under a hint of the accent at the top, mixed here: a window full of blended pixels costs
@@ -418,7 +412,6 @@ Item {
 
         TopBar {
             Layout.fillWidth: true
-            controller: shell.controller
             canSolve: shell.canSolve
             solveRefusal: shell.solveRefusal
             missingFields: shell.hasProject ? project_.faults.missing : []
@@ -436,7 +429,6 @@ Item {
             currentIndex: shell.navIndex
 
             HomePage {
-                controller: shell.controller
                 filesBusy: files.busy
                 onNewProject: shell.newSolve()
                 onQuickSolve: shell.quickSolve()
@@ -453,7 +445,6 @@ Item {
             ProjectPage {
                 id: projectPage
 
-                controller: shell.controller
                 project: project_
                 canSolve: shell.canSolve
                 estimatePending: shell.estimatePending
@@ -465,7 +456,6 @@ Item {
             }
 
             SolvePage {
-                controller: shell.controller
                 project: project_
                 canSolve: shell.canSolve
                 follower: solveFollower
@@ -474,18 +464,13 @@ Item {
             }
 
             ResultsPage {
-                controller: shell.controller
                 follower: solveFollower
                 setupDiffers: shell._setupDiffers
                 onSolveAgainRequested: shell.startSolve()
                 onSetupWanted: shell.takeBackSetup()
             }
 
-            SettingsPage {
-                controller: shell.controller
-                languageManager: shell.translator
-                updates: shell.updateService
-            }
+            SettingsPage {}
         }
     }
 
@@ -588,13 +573,13 @@ Item {
 
     Shortcut {
         sequence: "F5"
-        enabled: !shell.controller.running
+        enabled: !Controller.running
         onActivated: shell.startSolve()
     }
 
     Shortcut {
         sequence: "Escape"
-        enabled: shell.controller.running
-        onActivated: shell.controller.cancelSolve()
+        enabled: Controller.running
+        onActivated: Controller.cancelSolve()
     }
 }

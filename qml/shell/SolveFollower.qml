@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 import "../solve/solve_status.js" as SolveStatus
 
 /// Follows a solve by the controller's properties: its iteration, its exploitability and where its
@@ -6,29 +7,28 @@ import "../solve/solve_status.js" as SolveStatus
 QtObject {
     id: root
 
-    required property var controller
     required property int maxIterations
     required property real targetExploitability  ///< Percent of the starting pot.
 
-    readonly property bool running: controller.running
-    readonly property string statusText: controller.statusText
+    readonly property bool running: Controller.running
+    readonly property string statusText: Controller.statusText
     /// The status in the user's language.
-    readonly property string shownStatus: controller.iteration > 0
-        ? qsTr("Iteration %1 | exploitability=%2").arg(controller.iteration)
-          .arg(controller.iteration > SolveStatus.firstMeasure ? controller.exploitability.toFixed(4) : "—")
+    readonly property string shownStatus: Controller.iteration > 0
+        ? qsTr("Iteration %1 | exploitability=%2").arg(Controller.iteration)
+          .arg(Controller.iteration > SolveStatus.firstMeasure ? Controller.exploitability.toFixed(4) : "—")
         : _shown(statusText)
     readonly property bool isFinalizing: running && statusText.startsWith("Finalizing:")
-    readonly property bool runComplete: !running && controller.resultIterations > 0
+    readonly property bool runComplete: !running && Controller.resultIterations > 0
     property int lastIterationSeen: 0
 
     readonly property int currentIteration: {
         if (!running)
-            return controller.resultIterations
+            return Controller.resultIterations
         if (isFinalizing && lastIterationSeen > 0)
             return lastIterationSeen
-        if (controller.iteration > 0)
-            return controller.iteration
-        return Math.max(0, Math.floor(controller.progress * Math.max(1, maxIterations)))
+        if (Controller.iteration > 0)
+            return Controller.iteration
+        return Math.max(0, Math.floor(Controller.progress * Math.max(1, maxIterations)))
     }
     readonly property int progressWheelTotalIterations:
         SolveStatus.progressWheelTotalIterations(targetExploitability, maxIterations)
@@ -41,9 +41,9 @@ QtObject {
     /// that a shorter form of it is rounded alike everywhere.
     readonly property var currentExploitabilityValue: {
         if (!running)
-            return controller.resultExploitability > 0 ? controller.resultExploitability : undefined
-        return currentIteration > SolveStatus.firstMeasure && isFinite(controller.exploitability)
-            ? Number(controller.exploitability.toFixed(4)) : undefined
+            return Controller.resultExploitability > 0 ? Controller.resultExploitability : undefined
+        return currentIteration > SolveStatus.firstMeasure && isFinite(Controller.exploitability)
+            ? Number(Controller.exploitability.toFixed(4)) : undefined
     }
 
     function _shown(text: string): string {
@@ -72,8 +72,8 @@ QtObject {
     }
 
     onStatusTextChanged: {
-        if (running && controller.iteration > 0)
-            lastIterationSeen = controller.iteration
+        if (running && Controller.iteration > 0)
+            lastIterationSeen = Controller.iteration
     }
     onRunningChanged: {
         if (!running)

@@ -10,7 +10,6 @@ Rectangle {
 
     property Theme theme: Style.theme
     property Typography type: Style.type
-    required property var controller
     required property bool canSolve
     /// Why no solve can start, and which fields are still empty.
     property string solveRefusal: ""
@@ -20,7 +19,7 @@ Rectangle {
     required property SolveFollower follower
 
     /// While the Solve page shows a running solve, it is the only page.
-    readonly property bool _locked: controller.running && currentPage === Pages.solve
+    readonly property bool _locked: Controller.running && currentPage === Pages.solve
 
     readonly property string _solveReason: missingFields.length === 0
         ? solveRefusal || qsTr("Fill board, ranges, and sizings to enable Solve")
@@ -95,7 +94,7 @@ Rectangle {
             text: qsTr("Results")
             iconName: "chart"
             current: root.currentPage === Pages.results
-            tabEnabled: root.controller.resultIterations > 0
+            tabEnabled: Controller.resultIterations > 0
             disabledReason: qsTr("Run a solve to enable Results")
             onActivated: root.pageRequested(Pages.results)
         }

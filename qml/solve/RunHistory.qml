@@ -1,10 +1,10 @@
 import QtQuick
+import Velmora
 
 /// The latest runs of this session, the newest first, however each was started.
 QtObject {
     id: root
 
-    required property var controller
     readonly property int limit: 10
     /// Rows with `runId`, `startedAt`, `status` ("Running", "Completed", "Cancelled", "Failed" or
     /// "Refused") and `summary`.
@@ -21,7 +21,7 @@ QtObject {
             root._end(outcome, text, iterations)
         }
 
-        target: root.controller
+        target: Controller
     }
 
     function clear() {

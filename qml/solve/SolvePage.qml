@@ -6,7 +6,6 @@ import Velmora
 ScrollPage {
     id: root
 
-    required property var controller
     required property ProjectState project
     required property bool canSolve
     required property SolveFollower follower
@@ -17,7 +16,6 @@ ScrollPage {
     RunHistory {
         id: history
 
-        controller: root.controller
     }
 
     SolveClock {
@@ -55,14 +53,14 @@ ScrollPage {
                 canSolve: root.canSolve
                 runComplete: root.follower.runComplete
                 onStartRequested: root.solveRequested()
-                onCancelRequested: root.controller.cancelSolve()
+                onCancelRequested: Controller.cancelSolve()
                 onResultsRequested: root.goToResults()
             }
 
             ComputeCard {
                 Layout.fillWidth: true
                 project: root.project
-                systemThreadCount: root.controller.systemThreadCount
+                systemThreadCount: Controller.systemThreadCount
                 enabled: !root.follower.running
             }
         }

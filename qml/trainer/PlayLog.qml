@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 import "trainer_hand.js" as Hand
 
 /// The hands that were played since the program started, the newest first, and the one whose details
@@ -6,7 +7,6 @@ import "trainer_hand.js" as Hand
 QtObject {
     id: root
 
-    required property var controller
     required property real rakePercent
     required property real rakeCap
     /// Rows as `Hand.logEntry` makes them.
@@ -40,6 +40,6 @@ QtObject {
 
     function _buildPlayHandDetails(entry: var): var {
         return Hand.buildPlayHandDetails(entry, rakePercent, rakeCap,
-                                         (board, oop, ip) => controller.showdownWinner(board, oop, ip).winner)
+                                         (board, oop, ip) => Controller.showdownWinner(board, oop, ip).winner)
     }
 }

@@ -10,7 +10,6 @@ import "../results/tree_walk.js" as Walk
 QtObject {
     id: root
 
-    required property var controller
     required property TreeWalk walk
     property real playSuboptimalEpsilon: 1e-6
     property real playSuboptimalRelativeTol: 0.01
@@ -33,7 +32,7 @@ QtObject {
                 root._takeAnswers()
         }
 
-        target: root.controller
+        target: Controller
     }
 
     /// The figures of the node that was asked for are there.
@@ -43,7 +42,7 @@ QtObject {
     function prepare(node: int) {
         _wantedNode = node
         _readyNode = -1
-        controller.prepareNodeAnswers(node)
+        Controller.prepareNodeAnswers(node)
     }
 
     function forget() {
@@ -64,7 +63,7 @@ QtObject {
         const suits = walk.suitsAt(walk.treeLevels.count)
         const [card1, card2] = Array.from(cards, card => Walk.treeCard(card, suits))
         return Score.evInfo(_comboEvsAt(node)[card1 + card2], actionIndex)
-            ?? Score.evInfo(controller.nodePocketActionEvs(node, actor, card1, card2), actionIndex)
+            ?? Score.evInfo(Controller.nodePocketActionEvs(node, actor, card1, card2), actionIndex)
             ?? Score.evInfo(_rangeEvsAt(node), actionIndex)
     }
 
@@ -80,13 +79,13 @@ QtObject {
 
     function _comboEvsAt(node: int): var {
         if (_evsByNode[node] === undefined)
-            _evsByNode[node] = Score.evsByCards(controller.nodeHandCombos(node))
+            _evsByNode[node] = Score.evsByCards(Controller.nodeHandCombos(node))
         return _evsByNode[node]
     }
 
     function _rangeEvsAt(node: int): var {
         const evs = []
-        const stats = controller.nodeActionStats(node)
+        const stats = Controller.nodeActionStats(node)
         for (let i = 0; i < stats.length; ++i)
             evs.push(stats[i].ev)
         return evs

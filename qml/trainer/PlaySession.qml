@@ -1,6 +1,5 @@
 import QtQuick
 import Velmora
-import "../components/board_text.js" as BoardText
 import "trainer_deal.js" as Deal
 import "trainer_hand.js" as Hand
 import "trainer_score.js" as Score
@@ -11,7 +10,6 @@ import "../results/tree_walk.js" as Walk
 QtObject {
     id: root
 
-    required property var controller
     required property TreeWalk walk
     required property PlayScores scores
     required property PlayLog log
@@ -254,7 +252,7 @@ QtObject {
 
     function _dealToSeats(node: int) {
         const suits = walk.suitsAt(walk.treeLevels.count)
-        const combos = seat => Walk.shownCombos(controller.nodeSeatHandCombos(node, seat), suits)
+        const combos = seat => Walk.shownCombos(Controller.nodeSeatHandCombos(node, seat), suits)
         _setHands(Deal.dealHands(combos("OOP"), combos("IP"), playBoardText, random))
     }
 
@@ -291,7 +289,7 @@ QtObject {
     /// Moves the walk by an action of the hand's node. A hand whose next node is none stays.
     function _advancePlayByActionIndex(actionIndex: int) {
         const child = playActions[actionIndex]?.childIndex ?? -1
-        if (child < 0 || child >= controller.treeNodeCount() || walk.currentNodeIndex !== playNodeIndex)
+        if (child < 0 || child >= Controller.treeNodeCount() || walk.currentNodeIndex !== playNodeIndex)
             return
         const level = walk.treeLevels.count - 1
         if (playMeta.nodeType === "chance")
@@ -354,7 +352,7 @@ QtObject {
 
     function _logPlayHand(entry: var) {
         log.add(entry)
-        controller.recordPlayVsSolutionHand(entry.isMistake, entry.evLoss)
+        Controller.recordPlayVsSolutionHand(entry.isMistake, entry.evLoss)
     }
 
     // --- Drill

@@ -1,5 +1,5 @@
 .pragma library
-.import "../components/board_text.js" as BoardText
+.import Velmora as Velmora
 
 // Chance in a hand of the trainer. `random` gives numbers from 0 on and below 1. Lists may be the
 // controller's own, so they are addressed by index and length only.
@@ -33,8 +33,8 @@ function pickWeightedIndex(weights, random) {
 function eligibleCombosForDeal(combos, usedCards) {
     const eligible = []
     for (let i = 0; i < (combos ? combos.length : 0); ++i) {
-        const c1 = BoardText.normalizeCard(combos[i].c1)
-        const c2 = BoardText.normalizeCard(combos[i].c2)
+        const c1 = Velmora.BoardText.normalizeCard(combos[i].c1)
+        const c2 = Velmora.BoardText.normalizeCard(combos[i].c2)
         const weight = _share(combos[i].weight)
         if (c1 !== "" && c2 !== "" && c1 !== c2 && weight > 0 && !usedCards.includes(c1) && !usedCards.includes(c2))
             eligible.push({ c1: c1, c2: c2, weight: weight })
@@ -50,7 +50,7 @@ function pickWeightedCombo(combos, random) {
 /// The hands of a deal, {oop, ip}, each a list of two cards, or of none where no combo is left. OOP
 /// is dealt first and IP gets none of its cards.
 function dealHands(oopCombos, ipCombos, boardText, random) {
-    const used = BoardText.usedCards(boardText)
+    const used = Velmora.BoardText.usedCards(boardText)
     const draw = combos => {
         const combo = pickWeightedCombo(eligibleCombosForDeal(combos, used), random)
         const cards = combo ? [combo.c1, combo.c2] : []
@@ -75,7 +75,7 @@ function pickWeightedActionIndex(actions, random) {
 /// out. `names` are the cards as they are shown, by action. -1 if none is left.
 function pickChanceIndex(actions, names, usedCards, random) {
     return pickWeightedIndex(names.map((name, i) => {
-        const card = BoardText.normalizeCard(name)
+        const card = Velmora.BoardText.normalizeCard(name)
         return card !== "" && !usedCards.includes(card) ? actions[i].frequency : 0
     }), random)
 }

@@ -1,5 +1,5 @@
 .pragma library
-.import "../components/board_text.js" as BoardText
+.import Velmora as Velmora
 .import "trainer_score.js" as Score
 
 // A played hand: its line, its log entry, and how it ended. A line reads
@@ -75,7 +75,7 @@ function logEntry(hand) {
 function actionsByStreet(line, boardText) {
     const steps = stepsOf(line)
     const dealt = steps.filter(step => step.actor === CHANCE).length
-    let street = Math.max(0, Math.min(2, BoardText.usedCards(boardText).length - dealt - 3))
+    let street = Math.max(0, Math.min(2, Velmora.BoardText.usedCards(boardText).length - dealt - 3))
     const streets = [[], [], []]
     for (const step of steps) {
         if (step.actor === CHANCE)
@@ -94,7 +94,7 @@ function winnerOf(entry, showdownWinner) {
         if (step(steps[i].actor, steps[i].action).includes("Fold"))
             return steps[i].actor === "OOP" ? "IP" : "OOP"
     }
-    if (BoardText.usedCards(entry.board).length !== 5 || entry.oop.length !== 4 || entry.ip.length !== 4)
+    if (Velmora.BoardText.usedCards(entry.board).length !== 5 || entry.oop.length !== 4 || entry.ip.length !== 4)
         return ""
     const winner = showdownWinner(entry.board, entry.oop, entry.ip)
     return ["OOP", "IP", "TIE"].includes(winner) ? winner : ""
@@ -129,7 +129,7 @@ function chipsText(value) {
 /// street), `oop` and `ip` (cards), and the texts `winner`, `won`, `rake`, `evLost`, `incorrect` and
 /// `correct`, the last three for a mistake.
 function buildPlayHandDetails(entry, rakePercent, rakeCap, showdownWinner) {
-    const cards = BoardText.usedCards(entry.board)
+    const cards = Velmora.BoardText.usedCards(entry.board)
     const winner = winnerOf(entry, showdownWinner)
     return {
         flop: cards.slice(0, 3),

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Velmora
 import "find.js" as Find
 
 /// A test of the real window: it is made anew for each test function, with the size of a usual one.
@@ -9,7 +10,7 @@ TestCase {
     property var window
     property var shell
     readonly property var project: shell?.project
-    readonly property var controller: shell?.controller
+    readonly property QtObject controller: Controller
 
     function init() {
         // On a real screen Qt's own render loop now and then stops its animation driver twice, and says so.
@@ -27,7 +28,7 @@ TestCase {
     }
 
     function cleanup() {
-        shell.translator.setLanguage("en")
+        Translator.setLanguage("en")
         controller.clearResults()
         tryVerify(() => !controller.running)
         parent = null

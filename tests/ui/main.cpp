@@ -10,10 +10,8 @@
 #include <QUrl>
 #include <QtQuickTest>
 
-#include "app_controller.h"
+#include "page_services.h"
 #include "read_back.h"
-#include "services/language_manager.h"
-#include "services/update_manager.h"
 #include "turn_clock.h"
 
 extern void qml_register_types_Velmora();
@@ -35,11 +33,9 @@ class Setup : public QObject {
   void qmlEngineAvailable(QQmlEngine* engine) {
     engine->addImportPath("qrc:/");
     languageManager_ = std::make_unique<LanguageManager>(engine);
-    engine->rootContext()->setContextProperty("languageManager", languageManager_.get());
     updates_ = std::make_unique<UpdateManager>();
-    engine->rootContext()->setContextProperty("updates", updates_.get());
     controller_ = std::make_unique<AppController>();
-    engine->rootContext()->setContextProperty("appController", controller_.get());
+    setPageServices(*engine, *controller_, *languageManager_, *updates_);
     turnClock_ = std::make_unique<TurnClock>();
     engine->rootContext()->setContextProperty("turnClock", turnClock_.get());
     readBack_ = std::make_unique<ReadBack>();

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Velmora
 import "../../qml/results/hand_views.js" as HandViews
 import "../../qml/results/tree_walk.js" as Walk
 
@@ -72,14 +73,11 @@ TestCase {
         compare(visible(3, "", "flush"), 3)
     }
 
-    function test_labels_data() {
-        return [
-            { tag: "AKs", cards: ["Ks", "As"] }, { tag: "AKo", cards: ["Ah", "Ks"] }, { tag: "TT", cards: ["Tc", "Td"] }
-        ]
-    }
-
-    function test_labels(data) {
-        compare(HandViews.handClassFromCards(data.cards[0], data.cards[1]), data.tag)
+    function test_labels() {
+        compare(["KsAs", "AhKs", "TcTd", "AsAs", "Ax2c"].map(hand => HandText.handClassFromCards(hand.slice(0, 2), hand.slice(2))),
+                ["AKs", "AKo", "TT", "", ""])
+        compare([0, 1, 13, 14, 168].map(cell => HandText.labels[cell]), ["AA", "AKs", "AKo", "KK", "22"])
+        compare(new Set(HandText.labels).size, 169)
     }
 
     function test_chance_cards_data() {

@@ -2,7 +2,6 @@ import QtQuick
 import QtTest
 import Velmora
 import "../../qml/components/file_url.js" as FileUrl
-import "../../qml/components/hand_grid.js" as HandGrid
 import "../../qml/setup/library/range_estimates.js" as Estimates
 import "../../qml/setup/library/range_library_names.js" as Names
 import "../../qml/setup/library/range_library_overrides.js" as Overrides
@@ -165,7 +164,7 @@ TestCase {
         const [, high, low, suits, end, high2, low2, suits2] = /^(.)(.)([so]?)(\+|-(.)(.)([so]?))?$/.exec(token)
         if (end === undefined || high === low)
             return !end || end === "+" || high2 === low2
-        return end === "+" ? HandGrid.RANKS.indexOf(low) - HandGrid.RANKS.indexOf(high) > 1
+        return end === "+" ? HandText.ranks.indexOf(low) - HandText.ranks.indexOf(high) > 1
                            : high2 === high && suits2 === suits
     }
 
@@ -189,7 +188,7 @@ TestCase {
             const hands = Object.keys(RangeText.weights(leaf.value))
             const at = [...leaf.path, leaf.name].join(" / ")
             compare(hands.length > 0, leaf.path[1] !== "Nit", at)
-            verify(hands.every(hand => HandGrid.LABELS.includes(hand)), at)
+            verify(hands.every(hand => HandText.labels.includes(hand)), at)
             verify(leaf.value === "" || leaf.value === "100%" || leaf.value.split(", ").every(readsAlike), at)
         }
         const valueOf = (type, position, name) => all.find(leaf => leaf.path[1].startsWith(type)
@@ -209,7 +208,7 @@ TestCase {
             table.archetypes.forEach((type, column) => {
                 const early = table.estimates["UTG/HJ/CO"]
                 const played = RangeText.weights([early["Limp"]?.[column] ?? "", early["RFI"][column]].join())
-                const vpip = 100 * HandGrid.LABELS.reduce((combos, hand) => combos
+                const vpip = 100 * HandText.labels.reduce((combos, hand) => combos
                     + (played[hand] ?? 0) * (hand.length === 2 ? 6 : hand.endsWith("s") ? 4 : 12), 0) / 1326
                 verify(vpip >= spans[type][0] && vpip <= spans[type][1], type + " " + vpip)
             })
@@ -244,7 +243,7 @@ TestCase {
     }
 
     QtObject {
-        id: files
+        id: bundled
 
         property var texts: ({})
         property string written: ""
@@ -264,12 +263,12 @@ TestCase {
         id: librariesComponent
 
         RangeLibraries {
-            controller: files
+            files: bundled
         }
     }
 
     function makeLibraries(standard: var, exploit: var): RangeLibraries {
-        files.texts = {
+        bundled.texts = {
             ":/qt/qml/Velmora/qml/data/standard_ranges.json": standard,
             ":/Velmora/qml/data/exploit_ranges.json": exploit
         }
@@ -300,7 +299,7 @@ TestCase {
         libraries = makeLibraries(standardFile, "")
         compare(libraries._presetLoadError, "")
         compare(libraries.rangesFor("ip", 1).length, 5)
-        files.texts = { ":/Velmora/qml/data/standard_ranges.json": "{" }
+        bundled.texts = { ":/Velmora/qml/data/standard_ranges.json": "{" }
         libraries._loadBundledPresetRanges()
         verify(libraries._presetLoadError.startsWith("Failed to load bundled presets: "))
         compare(libraries.rangesFor("ip", 1).length, 5)
@@ -320,21 +319,21 @@ TestCase {
         compare(oop.selectedNode.value, "QQ+")
         find("oop", 1, "x").overrideSelectedRange("33")
         libraries.exportRanges(0, "")
-        compare(JSON.stringify(JSON.parse(files.written).oop.standard),
+        compare(JSON.stringify(JSON.parse(bundled.written).oop.standard),
                 '[{"name":"No rake / RFI UTG","value":"QQ+"},{"name":"Heads up / No rake / RFI SB","value":""}]')
-        const exported = files.written
+        const exported = bundled.written
         const before = brief(libraries.rangesFor("oop", 0))
         libraries.exportRanges(1, "")
-        const population = JSON.parse(files.written)
+        const population = JSON.parse(bundled.written)
         compare([population.format, population.version, population.oop.standard.length].join(), "velmora_ranges_export,1,0")
         compare(JSON.stringify(population.oop.exploit[0]), '{"type":"folder","name":"Foo","children":[{"name":"x","value":"33"}]}')
         verify(Math.abs(Date.parse(population.generatedAt) - Date.now()) < 60000)
-        files.writable = false
+        bundled.writable = false
         libraries.exportRanges(1, "")
         compare(libraries.exportErrorOf(1), "Export failed: disk full")
-        files.writable = true
+        bundled.writable = true
         // The next start finds the overrides, and the exported file stands for the bundled one.
-        libraries = makeLibraries(exported, files.written)
+        libraries = makeLibraries(exported, bundled.written)
         compare(brief(libraries.rangesFor("oop", 0)), before)
         find("oop", 1, "x")
         compare(libraries.oop.selectedNode.value, "33")

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Velmora
 import "find.js" as Find
 
 /// The Results page on a solved turn spot, whose river may map diamonds and clubs to each other.
@@ -58,9 +59,9 @@ MainWindowCase {
         take("Check")
         compare(walk.currentMeta.nodeType, "chance")
         compare(view.currentActions[0].name, "Random river card")
-        shell.translator.setLanguage("de")
+        Translator.setLanguage("de")
         verify(view.currentActions[0].name !== "Random river card")
-        shell.translator.setLanguage("en")
+        Translator.setLanguage("en")
         compare(view.currentActions[0].name, "Random river card")
 
         // A club is not in the tree where the diamond stands for it, and shows all the same.
@@ -154,7 +155,7 @@ MainWindowCase {
         solveTurnSpot()
         window.width = data.width
         window.height = data.height
-        shell.translator.setLanguage(data.language)
+        Translator.setLanguage(data.language)
         settle()
         const views = Find.withProperties(results, "combosShown", "tabbed")
         compare(views.tabbed, data.tabbed)

@@ -1,12 +1,13 @@
 import QtQuick
 import QtTest
+import Velmora
 import "find.js" as Find
 import "../../qml/settings/languages.js" as Languages
 
 MainWindowCase {
     id: root
 
-    readonly property var settings: Find.withProperties(window?.contentItem, "languageManager", "updates")
+    readonly property var settings: Find.withProperties(window?.contentItem, "minimumContentWidth", "applyAccentHex")
 
     name: "Settings"
 
@@ -59,14 +60,14 @@ MainWindowCase {
         openPage()
         const box = Find.all(settings, item => item.displayText !== undefined && item.popup !== undefined)[0]
         compare(box.count, 9)
-        settings.languageManager.setLanguage("de")
+        Translator.setLanguage("de")
         tryCompare(box, "currentIndex", Languages.indexOf("de"))
         verify(Find.button(settings, "Reset to Defaults") === undefined)
         settings.resetToDefaults()
-        compare(settings.languageManager.currentLanguage, "de")
-        settings.languageManager.setLanguage("xx")
+        compare(Translator.currentLanguage, "de")
+        Translator.setLanguage("xx")
         tryCompare(box, "currentIndex", 0)
-        settings.languageManager.setLanguage("en")
+        Translator.setLanguage("en")
         tryCompare(box, "currentIndex", 1)
         verify(Find.button(settings, "Reset to Defaults"))
         // A choice in the box puts a language in force, by keys and by clicks; all pages follow.
@@ -74,14 +75,14 @@ MainWindowCase {
         tryVerify(() => box.popup.opened)
         keyClick(Qt.Key_Down)
         keyClick(Qt.Key_Return)
-        compare(settings.languageManager.currentLanguage, "es")
+        compare(Translator.currentLanguage, "es")
         for (let round = 0; round < 2; ++round) {
             for (const [index, code] of Languages.CODES.entries()) {
                 mouseClick(box)
                 tryVerify(() => box.popup.opened)
                 mouseClick(box.popup.contentItem.itemAtIndex(index))
                 tryVerify(() => !box.popup.visible)
-                compare(settings.languageManager.currentLanguage, code)
+                compare(Translator.currentLanguage, code)
                 compare(box.currentIndex, index)
             }
         }
@@ -90,15 +91,15 @@ MainWindowCase {
     function test_a_check_for_updates_says_how_it_goes() {
         openPage()
         // Nothing is asked without an address, and that is no fault.
-        settings.updates.manifestUrl = ""
+        UpdateService.manifestUrl = ""
         clickButton("Check for updates")
         const note = Find.text(settings, "Update URL is not configured.")
         compare(String(note.color), String(shell.theme.textMuted))
-        settings.updates.manifestUrl = "http://127.0.0.1:9/latest.json"
+        UpdateService.manifestUrl = "http://127.0.0.1:9/latest.json"
         verify(Find.button(settings, "Download update").enabled === false)
         clickButton("Check for updates")
-        tryVerify(() => !settings.updates.busy, 9000)
-        verify(Find.all(settings, item => item.text === settings.updates.lastError && item.visible).length === 1)
-        settings.updates.clearState()
+        tryVerify(() => !UpdateService.busy, 9000)
+        verify(Find.all(settings, item => item.text === UpdateService.lastError && item.visible).length === 1)
+        UpdateService.clearState()
     }
 }

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtTest
+import Velmora
 import "find.js" as Find
 
 /// The Setup page of the real window.
@@ -465,13 +466,13 @@ MainWindowCase {
         keyClick(Qt.Key_Return)
         compare(project.threadCount, 1)
         compare(box.currentText, "1")
-        shell.translator.setLanguage("de")
+        Translator.setLanguage("de")
         compare([box.currentText, box.displayText], ["1", "1"])
-        shell.translator.setLanguage("en")
+        Translator.setLanguage("en")
         project.threadCount = 100000
         compare(project.threadCount, controller.systemThreadCount)
         compare(box.currentText, "Max")
-        shell.translator.setLanguage("fr")
+        Translator.setLanguage("fr")
         compare([box.currentText, box.displayText], ["Max.", "Max."])
     }
 

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Velmora
 import "find.js" as Find
 import "random.js" as Random
 
@@ -38,7 +39,7 @@ MainWindowCase {
         resolve: () => controller.reSolveWithNodeLocks(),
         button: () => clickOneOf(item => item.clicked !== undefined && item.enabled && item.text !== undefined),
         trainer: () => press(["Play vs solution", "Range view", "Play as OOP", "Play as both", "Another hand"][pick(5)]),
-        language: () => shell.translator.setLanguage(["en", "de", "ru"][pick(3)]),
+        language: () => Translator.setLanguage(["en", "de", "ru"][pick(3)]),
         digit: () => keyClick(Qt.Key_1 + pick(3))
     })
 
@@ -202,7 +203,7 @@ MainWindowCase {
         }
         console.info("steps:", count)
         verify(count > 10)
-        shell.translator.setLanguage("en")
+        Translator.setLanguage("en")
         controller.abandonRun()
         setRiverSpot()
         tryVerify(() => !controller.running, 20000)

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Velmora
 import "find.js" as Find
 import "random.js" as Random
 import "../../qml/results/tree_walk.js" as Walk
@@ -109,14 +110,14 @@ MainWindowCase {
         openTrainer(4)
         window.width = 1100
         window.height = 700
-        shell.translator.setLanguage("ru")
+        Translator.setLanguage("ru")
         waitForRendering(window.contentItem, 200)
         const page = Find.withProperties(results, "minimumContentWidth", "rows")
         verify(page.minimumContentWidth <= page.width)
         const tiles = Find.all(results, item => item.inline === true)
         compare(tiles.length, 3)
         verify(tiles.every(tile => tile.mapToItem(null, tile.width, 0).x <= 1100 && tile.value !== ""))
-        shell.translator.setLanguage("en")
+        Translator.setLanguage("en")
         clickButton("Play as OOP")
         playWell()
         verify(!Find.text(results, "Winner: OOP") && !Find.text(results, "Winner: IP"))

@@ -52,7 +52,6 @@ ColumnLayout {
     FileChooser {
         id: fileDialog
 
-        controller: root.libraries.controller
         title: root._standard ? qsTr("Export Standard Ranges") : qsTr("Export Population Ranges")
         fileMode: FileChooser.SaveFile
         nameFilters: [qsTr("JSON (*.json)"), qsTr("All Files (*)")]

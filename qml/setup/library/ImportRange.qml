@@ -6,7 +6,6 @@ import "../../components/file_url.js" as FileUrl
 Item {
     id: root
 
-    required property var controller
     required property RangeLibraries libraries
 
     property string _seat: "oop"
@@ -21,9 +20,9 @@ Item {
 
     /// Reads a file and asks how to call what is in it.
     function read(file: url) {
-        const answer = controller.readTextFile(file)
-        const range = answer.ok ? RangeText.imported(answer.text) : ""
-        const fault = answer.ok ? RangeText.fault(range) : answer.error || qsTr("unknown error")
+        const { ok, text, error } = Controller.readTextFile(file)
+        const range = ok ? RangeText.imported(text) : ""
+        const fault = ok ? RangeText.fault(range) : error || qsTr("unknown error")
         _rangeText = fault === "" ? range : ""
         nameDialog.fault = fault !== "" ? qsTr("Import failed: %1").arg(fault)
                     : _rangeText === "" ? qsTr("Import failed: file contained no recognizable hands.") : ""
@@ -33,7 +32,6 @@ Item {
     FileChooser {
         id: fileDialog
 
-        controller: root.controller
         title: qsTr("Import Range")
         nameFilters: [qsTr("Range text (*.txt)"), qsTr("All Files (*)")]
         onAccepted: root.read(FileUrl.ofLocalFile(selectedFile))

@@ -8,7 +8,9 @@ import "range_library_files.js" as Files
 QtObject {
     id: root
 
-    required property var controller
+    /// What reads the program's own libraries and writes an export, by `readTextResource` and
+    /// `saveTextFile`.
+    property var files: Controller
 
     readonly property SeatLibrary oop: SeatLibrary {
         seat: "oop"
@@ -85,7 +87,7 @@ QtObject {
         const text = category === Categories.standard
             ? Files.standardText(oop.standardRanges, ip.standardRanges)
             : Files.exploitText(oop.exploitRanges, ip.exploitRanges)
-        const answer = controller.saveTextFile(file, text)
+        const answer = files.saveTextFile(file, text)
         const error = answer.ok ? "" : qsTr("Export failed: %1").arg(answer.error || qsTr("unknown error"))
         if (category === Categories.standard)
             _exportStandardError = error
@@ -96,7 +98,7 @@ QtObject {
     /// The text of a bundled file; "" if it is nowhere.
     function _readBundled(name: string, label: string): string {
         for (const folder of [":/Velmora/qml/data/", ":/qt/qml/Velmora/qml/data/"]) {
-            const text = controller.readTextResource(folder + name)
+            const text = files.readTextResource(folder + name)
             if (!Files.isBlank(text)) {
                 console.info("[ranges] Loaded " + label + " presets via AppController from", folder + name,
                              "bytes=" + text.length)
