@@ -142,20 +142,6 @@ TEST(SolveSession, FaultsEndARunWithTheirText) {
        },
        "OOP river sizing (bet='50, a', raise='1c0r', bet_norm='50%,a', raise_norm='1c0r'): "
        "Raise cap must be positive"},
-      // Trees that nobody could hold.
-      {[](SolveConfig& c) {
-         c.effective_stack = 100000;
-         c.oop_river = c.ip_river = {.bet_sizes = "1c", .raise_sizes = "1c"};
-       },
-       "Betting tree is too deep", 2},
-      {[](SolveConfig& c) {
-         c.board = "AhKd7c";
-         c.starting_street = "flop";
-         c.effective_stack = 10000;
-         c.oop_flop = c.ip_flop = c.oop_turn = c.ip_turn = c.oop_river =
-             c.ip_river = {.bet_sizes = "10,20,33,50,75,100,150", .raise_sizes = "2x,3x,4x"};
-       },
-       "Not enough memory: this solve needs ", 2},
   };
   SolveSession session;
   for (const Case& c : cases) {
@@ -333,27 +319,6 @@ TEST(SolveSession, StopKeepsWhatIsThere) {
   EXPECT_EQ(ended("Iter 3 |", false), "Done");
   EXPECT_EQ(ended("Finalizing: computing", false), "Done");
   EXPECT_TRUE(result_of(session, river_request()).success);
-}
-
-/// The free hands of a locked node never learn, so this solve has a limit above its target.
-TEST(SolveSession, ASolveThatLocksHoldUpEnds) {
-  SolveConfig config = river_request();
-  config.max_iterations = kForever;
-  config.node_locks = {{0, "AA", 0, 1}};
-  SolveSession session;
-  const SolveResult locked = result_of(session, config);
-  EXPECT_TRUE(locked.success);
-  EXPECT_TRUE(locked.stalled);
-  EXPECT_GT(locked.exploitability, 1);
-  EXPECT_LT(locked.iterations, 5000U);
-  EXPECT_FALSE(is_empty(session.solved_spot()));
-
-  // Without locks the limit ends it, however long nothing falls.
-  config.node_locks.clear();
-  config.max_iterations = 5000;
-  const SolveResult free = result_of(session, config);
-  EXPECT_FALSE(free.stalled);
-  EXPECT_EQ(free.iterations, 5000U);
 }
 
 TEST(SolveSession, OneRunAtATime) {
