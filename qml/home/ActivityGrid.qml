@@ -6,7 +6,7 @@ import Velmora
 import "solve_activity.js" as Activity
 
 /// A calendar whose columns are weeks and whose rows are weekdays. The pointer or the arrow keys
-/// tell of a day.
+/// choose the day whose figures are shown.
 Item {
     id: root
 

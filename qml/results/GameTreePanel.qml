@@ -10,7 +10,7 @@ Card {
     id: root
 
     required property TreeWalk walk
-    /// Whether choices that are open tell how often each is taken.
+    /// Whether choices that are open show how often each is taken.
     property bool frequenciesShown: true
 
     padding: theme.spaceMd

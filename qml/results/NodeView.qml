@@ -84,7 +84,7 @@ QtObject {
         target: Controller
     }
 
-    // Names that come by calls tell nobody of another language.
+    // The names in the answers of calls don't follow the language by themselves.
     readonly property string _language: Qt.uiLanguage
 
     function toggleHandFilter(hand: string) {

@@ -21,8 +21,8 @@ QtObject {
     /// Whether a step into a terminal node adds a level. It has no strategy to show.
     property bool entersTerminals: false
 
-    /// Goes up with each new tree: what the controller says of nodes comes by calls, which tell
-    /// nobody that their answer changed.
+    /// Goes up with each new tree. What the controller says of nodes is the answer of a call, which
+    /// notifies nobody of a change: a binding that reads this figure too is evaluated again.
     property int revision: 0
     readonly property var currentMeta: revision >= 0 ? nodeMeta(currentNodeIndex) : ({})
     readonly property var currentNodeActions: revision >= 0 ? nodeActions(currentNodeIndex) : []

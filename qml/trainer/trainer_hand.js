@@ -86,7 +86,7 @@ function actionsByStreet(line, boardText) {
     return streets
 }
 
-/// "OOP", "IP" or "TIE"; "" if nobody can be told. The last fold decides, else the cards:
+/// "OOP", "IP" or "TIE"; "" if the winner is unknown. The last fold decides, else the cards:
 /// `showdownWinner` gives the winner of a board and two hands.
 function winnerOf(entry, showdownWinner) {
     const steps = stepsOf(entry.line)
@@ -148,7 +148,7 @@ function buildPlayHandDetails(entry, rakePercent, rakeCap, showdownWinner) {
     }
 }
 
-/// What a seat has left at a node; a dash if the node does not tell.
+/// What a seat has left at a node; a dash if it is unknown.
 function stackText(meta, invested) {
     return chipsText(Math.max(0, meta.effectiveStack - invested))
 }

@@ -30,8 +30,8 @@ TestCase {
         return item
     }
 
-    /// What the recorded signals told.
-    function told() {
+    /// The first arguments of the recorded signals.
+    function signalled() {
         return spy.signalArguments.map(call => call[0]).join()
     }
 
@@ -107,13 +107,13 @@ TestCase {
         compare(found(board, "text").find(child => child.font.capitalization === Font.AllUppercase)?.text, data.street)
         waitForRendering(board)
         cards.forEach(card => mouseClick(card))
-        compare(told(), data.clicked)
+        compare(signalled(), data.clicked)
         spy.clear()
         for (const card of cards.filter(card => card.activeFocusOnTab)) {
             card.forceActiveFocus()
             keyClick(Qt.Key_Space)
         }
-        compare(told(), data.clicked)
+        compare(signalled(), data.clicked)
     }
 
     function test_board_spacing() {
@@ -132,7 +132,7 @@ TestCase {
         compare(Object.keys(tiles).slice(11, 15).join(), "3s,2s,Ah,Kh")
         for (const card of ["Ah", "Kd", "Ts", "2c"])
             mouseClick(tiles[card])
-        compare(told(), "Ts,2c")
+        compare(signalled(), "Ts,2c")
         compare(tiles.Ah.opacity, 0.3)
         compare(tiles.Ah.Accessible.name, "Ace of hearts")
         mouseMove(tiles.Kh)
@@ -147,7 +147,7 @@ TestCase {
         spy.clear()
         const keys = [Qt.Key_Up, Qt.Key_Space, Qt.Key_Right, Qt.Key_Right, Qt.Key_Down, Qt.Key_Return]
         keys.forEach(key => keyClick(key))
-        compare(told(), "As,Qd")
+        compare(signalled(), "As,Qd")
         picker.usedCards = ["Qd"]
         keyClick(Qt.Key_Space)
         compare(spy.count, 2)

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Velmora
 import "../../qml/components/file_url.js" as FileUrl
 import "../../qml/components/number_text.js" as NumberText
 import "../../qml/shell/project_keys.js" as ProjectKeys
@@ -10,6 +11,42 @@ import "../../qml/solve/solve_status.js" as SolveStatus
 
 TestCase {
     name: "SolveRules"
+
+    SolveFollower {
+        id: follower
+
+        maxIterations: 1000
+        targetExploitability: 0
+    }
+
+    function test_a_run_is_followed() {
+        const config = ProjectKeys.solveConfig(Object.assign(Presets.customerQuickSolvePreset(2), {
+            boardText: "QsJh2h3s", startingStreet: "turn", oopRangeText: "100%", ipRangeText: "100%",
+            maxIterations: 1000000, targetExploitability: 0
+        }))
+        Controller.startSolveWithConfig(config)
+        const before = new Set()
+        tryVerify(() => {
+            const iteration = follower.currentIteration
+            if (iteration > 0 && iteration <= 50) {
+                before.add(follower.currentExploitabilityValue)
+                compare(follower.shownStatus, "Iteration " + iteration + " | exploitability=—")
+            }
+            return iteration > 50
+        }, 60000)
+        compare([...before], [undefined])
+        const shown = Controller.exploitability.toFixed(4)
+        compare(follower.currentIteration, Controller.iteration)
+        compare(follower.currentExploitabilityValue, Number(shown))
+        compare(follower.shownStatus, "Iteration " + Controller.iteration + " | exploitability=" + shown)
+        compare(Controller.statusText, "Iter " + Controller.iteration + " | exploitability≈" + shown)
+        Controller.cancelSolve()
+        compare(follower.shownStatus, "Cancelling...")
+        compare(follower.currentExploitabilityValue, undefined)
+        tryVerify(() => !Controller.running, 60000)
+        compare([follower.currentIteration, follower.shownStatus], [0, "Cancelled"])
+        Controller.clearResults()
+    }
 
     function test_memory_data() {
         return [
