@@ -181,21 +181,6 @@ MainWindowCase {
         }
     }
 
-    function test_figures_agree_with_the_controller() {
-        solveTurnSpot()
-        take("Check")
-        const node = walk.currentNodeIndex
-        const stats = controller.nodeActionStats(node)
-        const bar = Find.withProperties(results, "selectedAction", "interactive")
-        compare(bar.actions.length, stats.length)
-        for (let i = 0; i < stats.length; ++i)
-            fuzzyCompare(bar.actions[i].frequency, stats[i].frequency, 1e-9)
-        const reach = controller.nodeHandStrategyReach169(node, "")
-        compare(view.handWeights, reach.weights)
-        compare(view.handActionTypeList.length, stats.length)
-        compare(view._loadedHandCombos.length, controller.nodeHandCombos(node).length)
-    }
-
     function test_filters_and_search() {
         solveTurnSpot()
         const all = view.visibleHandCombos.length
