@@ -69,7 +69,7 @@ TEST(Solve, OptionsAndThreads) {
   const QJsonArray history = one.json()["history"].toArray();
   ASSERT_EQ(history.size(), 2);
   EXPECT_EQ(history[1].toArray()[0], 70);
-  // The house takes its share.
+  // The rake is lost to both.
   EXPECT_LT(one.json()["ev_oop"].toDouble() + one.json()["ev_ip"].toDouble(), -1);
 }
 
@@ -256,7 +256,7 @@ TEST(Solve, OutputGoesToAFile) {
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(without_seconds(QJsonDocument::fromJson(file.readAll()).object()),
             without_seconds(run_cli(command).json()));
-  // A path that can't be written is told before the solve, which takes its time here.
+  // A path that can't be written ends the command before the solve, which would take long.
   const CliRun refused = run_cli({"solve", files.write("spot.json", endless_turn()), "--iterations",
                                   "1000000", "--output", files.path("none/result.json")});
   EXPECT_EQ(refused.status, 1);

@@ -146,7 +146,7 @@ TEST(Export, BadLocksAndPaths) {
     EXPECT_TRUE(run.error.contains(text)) << run.error.toStdString();
   }
 
-  // A lock that meets nothing is no fault, but the user is told.
+  // A lock that meets nothing is no fault, but the user is warned.
   const CliRun idle = run_cli(
       {"solve", example("locked_river.json"), "--quiet", "--locks",
        files.write("locks.json", R"([{"node": 0, "hand": "72o", "action": 0, "frequency": 1}])")});

@@ -54,15 +54,15 @@ void expect_whole_deal(const Game& game, const PlanNode& node) {
   ASSERT_EQ(refs.size(), folded.size());
   for (std::size_t i = 0; i < refs.size(); ++i) {
     ASSERT_LT(refs[i], dealt.size());
-    const CardCode twin = dealt[refs[i]];
-    ASSERT_EQ(rank_of(twin), rank_of(folded[i]));
+    const CardCode kept = dealt[refs[i]];
+    ASSERT_EQ(rank_of(kept), rank_of(folded[i]));
     for (const Seat seat : {kOop, kIp}) {
       const std::vector<Pocket>& pockets = game.cards().pockets(seat);
       std::vector<Pocket> swapped = pockets;
       for (const auto& [x, y] : game.chance_swaps(node, i)[seat]) std::swap(swapped[x], swapped[y]);
       for (std::size_t h = 0; h < pockets.size(); ++h) {
         const int s = suit_of(folded[i]);
-        const int t = suit_of(twin);
+        const int t = suit_of(kept);
         ASSERT_EQ(swapped[h], make_pocket(exchanged(low_card(pockets[h]), s, t),
                                           exchanged(high_card(pockets[h]), s, t)));
       }

@@ -70,7 +70,7 @@ TEST(HandCategories, OfAPocketOnABoard) {
       {"AhKh9c4d", "4h8s", {"bottom pair"}},
       {"AhKh9c4d7s", "9d8s", {"pair"}},
       {"AhKh9c4d7s", "4h3s", {"bottom pair"}},
-      // Missed draws, told only of hands that add nothing to the board.
+      // Missed draws, given only to hands that add nothing to the board.
       {"As9d7d3h2c", "KdQd", {"missed FD"}},
       {"As9d3h7d2c", "KdQd", {"missed FD"}},  // Drawn to from the turn on.
       {"As9d7d3hKc", "KdQd", {"middle pair"}},
@@ -87,7 +87,7 @@ TEST(HandCategories, OfAPocketOnABoard) {
     const Names names = hand_categories(*game, game->nodes()[0], pocket_of(c.pocket));
     EXPECT_THAT(names, ElementsAreArray(c.names)) << c.pocket << " on " << c.board;
 
-    // The set tells the same, but for the pair that has no row.
+    // The set holds the same, but for the pair that has no row.
     CategorySet expected = 0;
     for (std::size_t i = 0; i < kHandCategoryNames.size(); ++i) {
       if (std::count(names.begin(), names.end(), kHandCategoryNames[i])) expected |= 1U << i;

@@ -19,6 +19,7 @@ TEST(CompressedStorage, RoundsToTheNearestStepOfTheGreatestMagnitude) {
   };
   const float half = 0.5F / 32767.0F;
   for (const Case& c : {Case{{2.0F, -1.0F, 0.0F, 1.0F}, 2.0F, {32767, -16384, 0, 16384}},
+                        Case{{-2.0F, 1.0F, 0.0F, -1.0F}, 2.0F, {-32767, 16384, 0, -16384}},
                         Case{{0.0F, 0.0F, 0.0F, 0.0F}, 1.0F, {0, 0, 0, 0}},
                         Case{{1e-9F, -1e-10F, 0.0F, 0.0F}, 1.0F, {0, 0, 0, 0}},
                         Case{{1.0F, half, -half, 0.4F * half}, 1.0F, {32767, 1, -1, 0}}}) {

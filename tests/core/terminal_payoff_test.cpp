@@ -1,5 +1,4 @@
 // Payoffs of terminal nodes.
-#include <algorithm>
 #include <vector>
 
 #include <gtest/gtest.h>

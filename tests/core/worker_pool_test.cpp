@@ -166,22 +166,22 @@ TEST(Scratch, FramesGiveBackWhatTheyTook) {
   std::vector<char*> first_time;
   for (int round = 0; round < 3; ++round) {
     const ScratchStack::Frame outer(stack);
-    std::vector<std::pair<char*, std::size_t>> rooms;
+    std::vector<std::pair<char*, std::size_t>> blocks;
     for (const std::size_t size : sizes) {
-      char* const room = stack.take<char>(size);
-      EXPECT_EQ(reinterpret_cast<std::uintptr_t>(room) % 64, 0U);
-      for (const auto& [other, length] : rooms) {
-        EXPECT_TRUE(room + size <= other || other + length <= room);
+      char* const block = stack.take<char>(size);
+      EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block) % 64, 0U);
+      for (const auto& [other, length] : blocks) {
+        EXPECT_TRUE(block + size <= other || other + length <= block);
       }
-      std::fill_n(room, size, static_cast<char>(round));
-      rooms.emplace_back(room, size);
+      std::fill_n(block, size, static_cast<char>(round));
+      blocks.emplace_back(block, size);
       const ScratchStack::Frame inner(stack);
-      EXPECT_NE(stack.take<char>(size), room);
+      EXPECT_NE(stack.take<char>(size), block);
     }
     if (round == 0) {
-      for (const auto& room : rooms) first_time.push_back(room.first);
+      for (const auto& block : blocks) first_time.push_back(block.first);
     }
-    for (std::size_t i = 0; i < rooms.size(); ++i) EXPECT_EQ(rooms[i].first, first_time[i]);
+    for (std::size_t i = 0; i < blocks.size(); ++i) EXPECT_EQ(blocks[i].first, first_time[i]);
   }
 }
 

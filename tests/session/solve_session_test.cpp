@@ -189,9 +189,9 @@ TEST(SolveSession, FaultsOfTheCallbackEndTheRun) {
     }));
     return reports.result().error;
   };
-  EXPECT_EQ(error_where([] { throw std::runtime_error("no room"); }), "no room");
+  EXPECT_EQ(error_where([] { throw std::runtime_error("disk full"); }), "disk full");
   EXPECT_EQ(error_where([] { throw 7; }), "Unknown error");
-  // A fault of the last report can be told to nobody; the next run goes its way.
+  // Nobody can be informed of a fault of the last report; the next run is not affected.
   session.start(river_request(), [](const SolveProgress& report) {
     if (report.result) throw std::runtime_error("too late");
   });
@@ -199,8 +199,8 @@ TEST(SolveSession, FaultsOfTheCallbackEndTheRun) {
   EXPECT_EQ(error_where([] {}), "");
 }
 
-/// Once the results are gone there may be room for the news.
-TEST(SolveSession, AReceiverWithoutRoomForTheResultIsToldOfItsEnd) {
+/// Dropping the results may free the memory that the report of the end needs.
+TEST(SolveSession, AReceiverOutOfMemoryStillLearnsOfTheEnd) {
   SolveSession session;
   Reports reports;
   int offers = 0;

@@ -22,7 +22,7 @@ SolveConfig ready_spot() {
 }
 
 /// "field: sentence" or "field?" for one that is missing, separated by " | ".
-std::string told(const std::function<void(SolveConfig&)>& change) {
+std::string faults_of(const std::function<void(SolveConfig&)>& change) {
   SolveConfig config = ready_spot();
   change(config);
   std::string list;
@@ -35,10 +35,10 @@ std::string told(const std::function<void(SolveConfig&)>& change) {
 
 }  // namespace
 
-TEST(SpotCheck, TellsEachFaultAtItsField) {
+TEST(SpotCheck, NamesEachFaultAtItsField) {
   const struct {
     std::function<void(SolveConfig&)> change;
-    std::string told;
+    std::string faults;
   } cases[] = {
       {[](SolveConfig&) {}, ""},
       {[](SolveConfig& c) { c.board = "as Kd 7h"; }, ""},
@@ -67,5 +67,5 @@ TEST(SpotCheck, TellsEachFaultAtItsField) {
       {[](SolveConfig& c) { c.ip_range = "AsAh"; },
        "ip_range: The cards of the board leave no hand of this range"},
   };
-  for (const auto& c : cases) EXPECT_EQ(told(c.change), c.told);
+  for (const auto& c : cases) EXPECT_EQ(faults_of(c.change), c.faults);
 }

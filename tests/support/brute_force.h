@@ -14,7 +14,7 @@ enum class Play { kAverage, kBestResponse };
 
 /// Chips that each hand of `seat` gains against the other seat's range, weighted by the hands that
 /// it can meet and divided by the total matchup weight, when the other seat plays its average
-/// strategy and `seat` plays as told. A locked hand can't deviate from its lock.
+/// strategy and `seat` plays by `Play`. A locked hand can't deviate from its lock.
 std::vector<double> brute_force_values(const velmora::Game& game,
                                        const velmora::DiscountedCfr& solver, velmora::Seat seat,
                                        Play play);

@@ -5,9 +5,9 @@
 
 namespace failing_allocator {
 
-/// What an allocation that is told to fail means for those behind it.
+/// What happens to the allocations after the one that fails.
 enum class Outage {
-  kOnce,     ///< The next one succeeds: there was no room for this size.
+  kOnce,     ///< The next one succeeds.
   kForGood,  ///< All fail until `stop`: nothing is left.
 };
 
