@@ -28,6 +28,7 @@ TestCase {
         const before = new Set()
         tryVerify(() => {
             const iteration = follower.currentIteration
+            compare(iteration, Controller.iteration)
             if (iteration > 0 && iteration <= 50) {
                 before.add(follower.currentExploitabilityValue)
                 compare(follower.shownStatus, "Iteration " + iteration + " | exploitability=—")
