@@ -544,3 +544,26 @@ TEST_F(AppControllerTest, NoticesAreOpenedBesideTheExecutable) {
 }
 
 #include "app_controller_test.moc"
+
+// The pool may be done with an answer before the window's thread takes it: that counts as outdated
+// too.
+TEST_F(AppControllerTest, DeliversOnlyTheNewestAnswersAndNoneOfADroppedResult) {
+  AppController controller;
+  solve(controller, riverSpot());
+  const QSignalSpy ready(&controller, &AppController::nodeAnswersReady);
+  const auto prepareWithoutTaking = [&](int node) {
+    controller.prepareNodeAnswers(node);
+    QThread::msleep(300);
+  };
+  prepareWithoutTaking(0);
+  controller.prepareNodeAnswers(1);
+  ASSERT_TRUE(waitUntil([&] { return !ready.isEmpty(); }));
+  QTest::qWait(50);
+  ASSERT_EQ(ready.count(), 1);
+  EXPECT_EQ(ready.first().first(), 1);
+
+  prepareWithoutTaking(0);
+  controller.clearResults();
+  QTest::qWait(50);
+  EXPECT_EQ(ready.count(), 1);
+}

@@ -70,29 +70,9 @@ TestCase {
     }
 
     Component {
-        id: card
-
-        StatCard {}
-    }
-
-    Component {
         id: ring
 
         ProgressRing {}
-    }
-
-    Component {
-        id: frame
-
-        Card {
-            padding: 12
-
-            Column {
-                Rectangle { implicitWidth: 70; implicitHeight: 30; width: 70; height: 30 }
-                Rectangle { implicitWidth: 20; implicitHeight: 10; width: 20; height: 10 }
-            }
-            Item { implicitWidth: 90 }
-        }
     }
 
     Component {
@@ -175,19 +155,6 @@ TestCase {
         })
     }
 
-    function test_hit_test_data() {
-        return [
-            { tag: "first", shares: [0.5, 0, 0.5], x: 0, index: 0 },
-            { tag: "empty segment is never hit", shares: [0.5, 0, 0.5], x: 150, index: 2 },
-            { tag: "beyond the end", shares: [0.5, 0.5, 0], x: 301, index: 2 },
-            { tag: "no entries", shares: [], x: 10, index: -1 }
-        ]
-    }
-
-    function test_hit_test(data) {
-        compare(Frequencies.indexAt(data.shares, 300, data.x), data.index)
-    }
-
     function test_figures_data() {
         return [
             { tag: "whole", combos: 12.0000005, equity: 0.5, ev: 2, texts: ["12", "50.0", "2.00"] },
@@ -236,37 +203,6 @@ TestCase {
         tryVerify(() => alike(grabImage(item).pixel(150, 4), theme.surface2))
     }
 
-    function test_tree_node_colors_data() {
-        return [
-            { tag: "sized", actionType: "bet 75%", action: "Bet 75%", like: "bet 75%" },
-            { tag: "size in the label", actionType: "bet", action: "Bet 33%", like: "bet 33%" },
-            { tag: "no size", actionType: "raise", action: "Raise", like: "raise" },
-            { tag: "label without a say", actionType: "call", action: "Bet 75%", like: "call" },
-            { tag: "chance", nodeType: "chance", actionType: "chance", tile: ["gold", 0.22] },
-            { tag: "terminal", nodeType: "terminal", actionType: "fold", tile: ["surface3", 1] }
-        ]
-    }
-
-    function test_tree_node_colors(data) {
-        const item = make(node, { theme: theme, nodeType: data.nodeType ?? "decision",
-                                  action: data.action ?? "", actionType: data.actionType })
-        const [over, share] = data.tile ? [theme[data.tile[0]], data.tile[1]] : [theme.actionColor(data.like), 0.28]
-        const mix = channel => theme.surface2[channel] * (1 - share) + over[channel] * share
-        const tile = findChild(item, "tile").color
-        for (const channel of ["r", "g", "b"])
-            fuzzyCompare(tile[channel], mix(channel), 0.005)
-        compare(tile.a, 1)
-        compare(findChild(item, "title").color, theme.text)
-    }
-
-    function test_tree_node_ink_on_a_light_tile() {
-        const item = make(node, { actionType: "check" })
-        item.theme = createTemporaryQmlObject("import Velmora; Theme { dark: false }", item)
-        verify(Qt.colorEqual(findChild(item, "title").color, "#0B0F14"))
-        item.pot = 10
-        verify(Qt.colorEqual(findChild(item, "pot").color, "#2D333B"))
-    }
-
     function test_tree_node_texts_data() {
         return [
             { tag: "nothing to tell", set: {}, title: "OOP" },
@@ -310,16 +246,6 @@ TestCase {
         compare(spy.count, 3)
     }
 
-    function test_stat_card() {
-        const item = make(card, { label: "Speed", value: "312" })
-        const unit = findChild(item, "unit")
-        compare([item.implicitWidth, item.implicitHeight, unit.visible], [160, 80, false])
-        item.unit = "it/s"
-        item.compact = true
-        compare([item.implicitWidth, item.implicitHeight, unit.visible], [120, 64, true])
-        compare(unit.text, "it/s")
-    }
-
     function test_progress_ring_caption_data() {
         return [
             { tag: "rounded", set: { value: 0.426 }, text: "43%" },
@@ -343,11 +269,6 @@ TestCase {
         verify(alike(grabImage(item).pixel(18, 82), theme.surface3))
         item.indeterminate = true
         tryVerify(() => alike(grabImage(item).pixel(82, 18), theme.surface3))
-    }
-
-    function test_card_takes_the_largest_child() {
-        const item = make(frame)
-        compare([item.implicitWidth, item.implicitHeight], [90 + 24, 40 + 24])
     }
 
     function test_buttons_data() {
@@ -390,21 +311,6 @@ TestCase {
             compare(item.checked, checked)
         }
         compare(spy.count, 3)
-    }
-
-    function test_hidden_icon_takes_no_space() {
-        const item = make(primary)
-        const bare = item.implicitWidth
-        item.iconName = "save"
-        tryCompare(item, "implicitWidth", bare + 16 + item.spacing)
-        item.iconText = "+"
-        item.loading = true
-        tryCompare(item, "implicitWidth", bare + 14 + item.spacing)
-        item.loading = false
-        tryCompare(item, "implicitWidth", bare + 16 + item.spacing)
-        item.iconName = ""
-        item.iconText = ""
-        tryCompare(item, "implicitWidth", bare)
     }
 
     function test_chip() {

@@ -97,14 +97,6 @@ TestCase {
             compare(String(theme.accent), data.accent)
     }
 
-    function test_color_helpers() {
-        const theme = createTemporaryObject(themeComponent, test)
-        compare(theme.withOpacity(theme.danger, 0.18), Qt.rgba(theme.danger.r, theme.danger.g, theme.danger.b, 0.18))
-        compare(theme.withOpacity("red", 0.5), Qt.rgba(1, 0, 0, 0.5))
-        compare(theme.lighten(theme.surface, 0.1), Qt.lighter(theme.surface, 1.1))
-        compare(theme.darken(theme.surface, 0.1), Qt.darker(theme.surface, 1.1))
-    }
-
     function test_font_lists_data() {
         return [
             { tag: "later entry", list: "Segoe UI, Consolas, monospace", expected: "Consolas" },
