@@ -48,22 +48,14 @@ LocalPath pathToSave(const QUrl& fileUrl) {
   return file;
 }
 
-/// A project with the answers about the root among its others: they are in every file. A solver
-/// that is dropped meanwhile lives on only until the query under way has ended.
-Project withRootAnswers(Project project, const std::weak_ptr<const velmora::DiscountedCfr>& solver,
-                        const std::weak_ptr<const velmora::Game>& game,
-                        const std::shared_ptr<velmora_app::ActionValues>& values) {
+/// Adds the answers about the root, which are in every file.
+void completeRoot(ResultCaches& caches, const AnswerSource& source) {
   try {
     const velmora_app::FaultScope scope;
-    const auto spot = [&] { return velmora_app::SolvedSpot{game.lock(), solver.lock()}; };
-    ResultQueries queries(spot, project.tree, values);
-    queries.caches() = project.caches;
-    queries.askAll(0);
-    project.caches = queries.caches();
+    caches.store(0, source.complete(0, caches.answer(0)));
   } catch (const std::exception& fault) {
     qWarning() << "saveProject: the root gives no answers:" << fault.what();
   }
-  return project;
 }
 
 QVariantMap refusedLoad(const QString& error) {
@@ -88,13 +80,12 @@ AppController::AppController(MemoryMonitor::Sources memorySources, QObject* pare
   connect(&memory_, &MemoryMonitor::estimateArrived, this, [this] {
     if (awaitsEstimate_) startWithMemoryKnown(0);
   });
-  connect(&preparer_, &NodePreparer::ready, this,
-          [this](int node, const ResultCaches& answers, const QString& error) {
-            results_.take(node, answers);
-            if (!error.isEmpty()) emit nodeAnswersFailed(node, error);
-            emit nodeAnswersReady(node);
-          });
-  connect(&fileWorker_, &FileWorker::progressChanged, this, &AppController::fileProgressChanged);
+  connect(&answers_, &NodeAnswers::ready, this, [this](int node, const QString& error) {
+    if (!error.isEmpty()) emit nodeAnswersFailed(node, error);
+    emit nodeAnswersReady(node);
+  });
+  connect(&reading_, &Background::progressChanged, this, &AppController::fileProgressChanged);
+  connect(&writing_, &Background::progressChanged, this, &AppController::fileProgressChanged);
   setStatus(tr("Ready"));
 }
 
@@ -129,27 +120,23 @@ void AppController::setResultUnsaved(bool unsaved) {
 }
 
 QString AppController::resultBoard() const {
-  return normalizedBoard(resultCfg_.value("board").toString());
+  return normalizedBoard(project_.resultCfg.value("board").toString());
 }
 
 bool AppController::hasResult() const {
-  return outcome_.iterations > 0 || tree_.nodeCount() > 0 || !outcome_.rootActions.isEmpty();
+  return project_.outcome.iterations > 0 || project_.tree.nodeCount() > 0 ||
+         !project_.outcome.rootActions.isEmpty();
 }
 
 void AppController::dropResult() {
-  outcome_ = {};
-  tree_.clear();
-  resultCfg_.clear();
-  results_.caches().clear();
-  nodeLockTable_.clear();
-  solvedLocks_.clear();
+  Project dropped = std::exchange(project_, {});
+  project_.lastUiCfg = std::move(dropped.lastUiCfg);
   ++resultRevision_;
   dropTables();
 }
 
 void AppController::dropTables() {
-  preparer_.giveUp();
-  solved_ = {};
+  answers_.setSpot({});
   memory_.noteResultsDropped();
 }
 
@@ -161,16 +148,17 @@ void AppController::announceResult() {
 }
 
 bool AppController::isResultSpot(const QVariantMap& cfg) const {
-  return hasResult() && velmora_app::same_spot(makeSolveConfig(cfg), makeSolveConfig(resultCfg_));
+  return hasResult() &&
+         velmora_app::same_spot(makeSolveConfig(cfg), makeSolveConfig(project_.resultCfg));
 }
 
 bool AppController::locksFit(const QVariantMap& cfg) const {
-  return nodeLockTable_.count() > 0 && hasResult() &&
-         velmora_app::same_tree(makeSolveConfig(cfg), makeSolveConfig(resultCfg_));
+  return project_.nodeLocks.count() > 0 && hasResult() &&
+         velmora_app::same_tree(makeSolveConfig(cfg), makeSolveConfig(project_.resultCfg));
 }
 
 QVariantMap AppController::resultProjectState() const {
-  return projectStateOfSolveConfigMap(resultCfg_);
+  return projectStateOfSolveConfigMap(project_.resultCfg);
 }
 
 void AppController::startSolve() {
@@ -179,10 +167,10 @@ void AppController::startSolve() {
 
 void AppController::startSolveWithConfig(const QVariantMap& cfg) {
   if (running_) return;
-  fileWorker_.giveUpReading();
+  reading_.giveUp();
   setStatus(tr("Starting..."));
   qInfo().noquote() << describeSolveRequest(cfg);
-  lastUiCfg_ = cfg;
+  project_.lastUiCfg = cfg;
   lastRunOutcome_.clear();
   lastRunText_.clear();
   emit lastRunChanged();
@@ -194,7 +182,7 @@ void AppController::startSolveWithConfig(const QVariantMap& cfg) {
     endRun("Refused", refusal);
     return;
   }
-  runLocks_ = cfg.value("apply_node_locks", false).toBool() ? nodeLockTable_ : NodeLockTable();
+  runLocks_ = cfg.value("apply_node_locks", false).toBool() ? project_.nodeLocks : NodeLockTable();
 
   // Step 2. Only an estimate of this very spot says whether the result on view may keep its memory.
   if (resultHasTables() && !memory_.requiredFor(makeSolveConfig(cfg))) {
@@ -209,8 +197,8 @@ void AppController::startSolveWithConfig(const QVariantMap& cfg) {
 
 void AppController::startSolveInFreedMemory(const QVariantMap& cfg) {
   if (running_) return;
-  lastUiCfg_ = cfg;
-  runLocks_ = cfg.value("apply_node_locks", false).toBool() ? nodeLockTable_ : NodeLockTable();
+  project_.lastUiCfg = cfg;
+  runLocks_ = cfg.value("apply_node_locks", false).toBool() ? project_.nodeLocks : NodeLockTable();
   const quint64 freed = memory_.reclaimableBytes();
   dropTables();
   emit resultTablesChanged();
@@ -219,10 +207,11 @@ void AppController::startSolveInFreedMemory(const QVariantMap& cfg) {
 }
 
 void AppController::startWithMemoryKnown(quint64 freed) {
-  const SolveConfig config = makeSolveConfig(lastUiCfg_);
+  const SolveConfig config = makeSolveConfig(project_.lastUiCfg);
   const std::optional<quint64> estimate = memory_.requiredFor(config);
   if (awaitsEstimate_ && !estimate) {
-    memory_.requestEstimate(lastUiCfg_);  // The pages have asked for another spot's meanwhile.
+    memory_.requestEstimate(
+        project_.lastUiCfg);  // The pages have asked for another spot's meanwhile.
     return;
   }
   awaitsEstimate_ = false;
@@ -239,12 +228,12 @@ void AppController::startWithMemoryKnown(quint64 freed) {
     if (resultHasTables() && memory_.effectiveAvailable() > required) {
       setStatus(tr("Not started: the solve needs the memory of the result on view"));
       setRunning(false);
-      emit memoryWanted(lastUiCfg_, needed, memory_.availableText());
+      emit memoryWanted(project_.lastUiCfg, needed, memory_.availableText());
       return;
     }
     const QString text =
         tr("Not enough RAM to solve: %1 needed, %2 available").arg(needed, memoryText(available));
-    emit runStarted(lastUiCfg_);
+    emit runStarted(project_.lastUiCfg);
     setStatus(text);
     endRun("Refused", text);
     return;
@@ -252,14 +241,14 @@ void AppController::startWithMemoryKnown(quint64 freed) {
   memory_.noteSolveStarted(required);
 
   // Step 4. Go.
-  emit runStarted(lastUiCfg_);
+  emit runStarted(project_.lastUiCfg);
   setProgress(0);
   setRunning(true);
   startSession();
 }
 
 void AppController::startSession() {
-  SolveConfig config = makeSolveConfig(lastUiCfg_);
+  SolveConfig config = makeSolveConfig(project_.lastUiCfg);
   config.node_locks = runLocks_.entries();
   const auto inbox = std::make_shared<ReportInbox>();
   // On the worker's thread.
@@ -297,7 +286,7 @@ void AppController::endRun(const QString& outcome, const QString& text) {
   lastRunOutcome_ = outcome;
   lastRunText_ = text;
   emit lastRunChanged();
-  emit runEnded(outcome, text, outcome == "Completed" ? outcome_.iterations : 0);
+  emit runEnded(outcome, text, outcome == "Completed" ? project_.outcome.iterations : 0);
   setRunning(false);  // Last: it may start the next run.
 }
 
@@ -334,7 +323,7 @@ void AppController::handleSolveProgress(const SolveProgress& report) {
   if (result.success) {
     takeResult(result);
   } else if (!hasResult()) {
-    outcome_ = outcomeOf(result);
+    project_.outcome = outcomeOf(result);
     emit resultsChanged();
   }
   // No report follows this one. The session may need a moment more to put its thread away.
@@ -349,35 +338,36 @@ void AppController::handleSolveProgress(const SolveProgress& report) {
 
 void AppController::takeResult(const SolveResult& result) {
   // Locks are by node index, so they live on where the new tree is the old one.
-  const bool sameTree = hasResult() && velmora_app::same_tree(makeSolveConfig(lastUiCfg_),
-                                                              makeSolveConfig(resultCfg_));
-  NodeLockTable locks = sameTree ? nodeLockTable_ : NodeLockTable();
+  const bool sameTree = hasResult() && velmora_app::same_tree(makeSolveConfig(project_.lastUiCfg),
+                                                              makeSolveConfig(project_.resultCfg));
+  NodeLockTable locks = sameTree ? project_.nodeLocks : NodeLockTable();
   dropResult();
-  outcome_ = outcomeOf(result);
-  SolveActivity::record(QDate::currentDate(), outcome_.iterations, outcome_.exploitability);
+  project_.outcome = outcomeOf(result);
+  SolveActivity::record(QDate::currentDate(), project_.outcome.iterations,
+                        project_.outcome.exploitability);
   emit solveStatsChanged();
-  tree_.set(result.nodes, result.effective_stack);
-  resultCfg_ = lastUiCfg_;
-  nodeLockTable_ = std::move(locks);
-  solvedLocks_ = runLocks_;
-  solved_ = session_.solved_spot();
+  project_.tree.set(result.nodes, result.effective_stack);
+  project_.resultCfg = project_.lastUiCfg;
+  project_.nodeLocks = std::move(locks);
+  project_.solvedLocks = runLocks_;
+  answers_.setSpot(session_.solved_spot());
   session_.clear();
   memory_.noteResultsHeld();
   setResultUnsaved(true);
   qInfo().noquote().nospace() << "UI about to emit resultsChanged: root_actions="
-                              << outcome_.rootActions.size()
-                              << " summary.len=" << outcome_.summary.size();
+                              << project_.outcome.rootActions.size()
+                              << " summary.len=" << project_.outcome.summary.size();
   announceResult();
   qInfo().noquote() << "UI emitted resultsChanged";
 }
 
 void AppController::reSolveWithNodeLocks() {
   if (running_) return;
-  if (!hasResult() || resultCfg_.isEmpty()) {
+  if (!hasResult() || project_.resultCfg.isEmpty()) {
     setStatus(tr("No previous solve config (solve once first)"));
     return;
   }
-  QVariantMap cfg = resultCfg_;
+  QVariantMap cfg = project_.resultCfg;
   cfg["apply_node_locks"] = true;
   startSolveWithConfig(cfg);
 }
@@ -393,10 +383,10 @@ void AppController::cancelSolve() {
 
 void AppController::clearResults() {
   abandonRun();
-  fileWorker_.giveUpReading();
+  reading_.giveUp();
   session_.clear();
   dropResult();
-  lastUiCfg_.clear();
+  project_.lastUiCfg.clear();
   setProgress(0);
   setStatus(tr("Ready"));
   memory_.reset();
@@ -442,33 +432,26 @@ QString AppController::readTextResource(const QString& path) {
   return ::readTextResource(path);
 }
 
-Project AppController::projectWith(const QVariantMap& state) {
-  const bool result = hasResult();
-  return {state,
-          result,
-          outcome_,
-          tree_,
-          results_.caches(),
-          resultCfg_,
-          solvedLocks_,
-          nodeLockTable_,
-          result ? resultCfg_ : lastUiCfg_};
+Project AppController::projectWith(const QVariantMap& state) const {
+  Project project = project_;
+  project.state = state;
+  project.hasResults = hasResult();
+  if (project.hasResults) project.lastUiCfg = project.resultCfg;
+  return project;
 }
 
 bool AppController::saveProject(const QUrl& fileUrl, const QVariantMap& projectState) {
   const LocalPath file = pathToSave(fileUrl);
   if (!file.error.isEmpty()) return false;
-  const Project project = withRootAnswers(projectWith(projectState), solved_.solver, solved_.game,
-                                          results_.actionValues());
-  results_.caches() = project.caches;
-  const bool saved = writeProject(project, file.path).isEmpty();
+  completeRoot(project_.caches, answers_.source());
+  const bool saved = writeProject(projectWith(projectState), file.path).isEmpty();
   if (saved) setResultUnsaved(false);
   return saved;
 }
 
 void AppController::saveProjectInBackground(const QUrl& fileUrl, const QVariantMap& projectState) {
-  fileWorker_.giveUpReading();
-  if (fileWorker_.busy()) {
+  reading_.giveUp();
+  if (writing_.busy()) {
     emit projectSaved(false, tr("Another file is still being saved or opened"));
     return;
   }
@@ -481,12 +464,12 @@ void AppController::saveProjectInBackground(const QUrl& fileUrl, const QVariantM
   const bool unsaved = resultUnsaved_;
   setResultUnsaved(false);
   const auto error = std::make_shared<QString>();
-  fileWorker_.run(
-      FileWorker::Kind::kWriting,
-      [project = projectWith(projectState), path = file.path,
-       solver = std::weak_ptr(solved_.solver), game = std::weak_ptr(solved_.game),
-       values = results_.actionValues(), error](const FileWorker::Progress& progress) {
-        *error = writeProject(withRootAnswers(project, solver, game, values), path, progress);
+  writing_.run(
+      [project = projectWith(projectState), path = file.path, source = answers_.source(),
+       error](Background::Job& job) mutable {
+        completeRoot(project.caches, source);
+        // Also where nobody waits any more: a file is written whole.
+        *error = writeProject(project, path, [&job](double done) { job.report(done); });
       },
       [this, error, unsaved](const QString& fault) {
         const QString text = fault.isEmpty() ? *error : tr("Failed to save file: %1").arg(fault);
@@ -498,13 +481,13 @@ void AppController::saveProjectInBackground(const QUrl& fileUrl, const QVariantM
 QVariantMap AppController::loadProject(const QUrl& fileUrl) {
   const LocalPath file = localPathOf(fileUrl);
   if (!file.error.isEmpty()) return refusedLoad(file.error);
-  fileWorker_.giveUpReading();
+  reading_.giveUp();
   return adopt(readProject(file.path), file.path);
 }
 
 void AppController::loadProjectInBackground(const QUrl& fileUrl) {
-  fileWorker_.giveUpReading();
-  if (fileWorker_.busy()) {
+  reading_.giveUp();
+  if (writing_.busy()) {
     emit projectLoaded(refusedLoad(tr("Another file is still being saved or opened")));
     return;
   }
@@ -514,10 +497,12 @@ void AppController::loadProjectInBackground(const QUrl& fileUrl) {
     return;
   }
   const auto reading = std::make_shared<ProjectReading>();
-  fileWorker_.run(
-      FileWorker::Kind::kReading,
-      [reading, path = file.path](const FileWorker::Progress& progress) {
-        *reading = readProject(path, progress);
+  reading_.run(
+      [reading, path = file.path](Background::Job& job) {
+        *reading = readProject(path, [&job](double fraction) {
+          if (job.givenUp()) throw std::runtime_error("given up");
+          job.report(fraction);
+        });
       },
       [this, reading, path = file.path](const QString& fault) {
         emit projectLoaded(fault.isEmpty() ? adopt(*reading, path) : refusedLoad(fault));
@@ -526,30 +511,23 @@ void AppController::loadProjectInBackground(const QUrl& fileUrl) {
 
 QVariantMap AppController::adopt(const ProjectReading& reading, const QString& path) {
   if (!reading.error.isEmpty()) return refusedLoad(reading.error);
-  const Project& project = reading.project;
   abandonRun();
   session_.clear();
   dropResult();
-  outcome_ = project.outcome;
-  tree_ = project.tree;
-  resultCfg_ = project.resultCfg;
-  results_.caches() = project.caches;
-  nodeLockTable_ = project.nodeLocks;
-  solvedLocks_ = project.solvedLocks;
-  lastUiCfg_ = project.lastUiCfg;
+  project_ = reading.project;
   memory_.reset();
   setProgress(0);
   setStatus(tr("Loaded project (%1 strategy nodes, %2 combo nodes)")
-                .arg(project.caches.handStrategyCache.size())
-                .arg(project.caches.handCombosCache.size()));
+                .arg(project_.caches.handStrategyCache.size())
+                .arg(project_.caches.handCombosCache.size()));
   setResultUnsaved(false);
   announceResult();
-  qInfo() << "Loaded project:" << path << "hasResults=" << project.hasResults;
+  qInfo() << "Loaded project:" << path << "hasResults=" << project_.hasResults;
   return {{"ok", true},
           {"error", QString()},
           {"file", QUrl::fromLocalFile(path)},
-          {"project", project.state},
-          {"hasResults", project.hasResults}};
+          {"project", project_.state},
+          {"hasResults", project_.hasResults}};
 }
 
 QVariantMap AppController::saveTextFile(const QUrl& fileUrl, const QString& text) {
@@ -570,50 +548,50 @@ QString AppController::fileKind(const QUrl& fileUrl) {
 
 void AppController::setNodeLock(int nodeIndex, const QString& handLabel169, int actionIndex,
                                 double actionProb) {
-  const QVariantMap meta = tree_.meta(nodeIndex);
+  const QVariantMap meta = project_.tree.meta(nodeIndex);
   if (meta.value("nodeType") != "decision" || actionIndex < 0 ||
-      actionIndex >= tree_.actions(nodeIndex).size()) {
+      actionIndex >= project_.tree.actions(nodeIndex).size()) {
     return;
   }
-  nodeLockTable_.set(nodeIndex, handLabel169, actionIndex, actionProb);
+  project_.nodeLocks.set(nodeIndex, handLabel169, actionIndex, actionProb);
   setResultUnsaved(true);
   emit locksChanged(nodeIndex);
 }
 
 void AppController::clearNodeLocks(int nodeIndex) {
-  if (nodeLockTable_.locksAt(nodeIndex).isEmpty()) return;
-  nodeLockTable_.clear(nodeIndex);
+  if (project_.nodeLocks.locksAt(nodeIndex).isEmpty()) return;
+  project_.nodeLocks.clear(nodeIndex);
   setResultUnsaved(true);
   emit locksChanged(nodeIndex);
 }
 
 bool AppController::nodeLocksPending(int nodeIndex) const {
-  return nodeLockTable_.locksAt(nodeIndex) != solvedLocks_.locksAt(nodeIndex);
+  return project_.nodeLocks.locksAt(nodeIndex) != project_.solvedLocks.locksAt(nodeIndex);
 }
 
 QVariantList AppController::nodeLocks(int nodeIndex) {
-  return nodeLockTable_.locksAt(nodeIndex);
+  return project_.nodeLocks.locksAt(nodeIndex);
 }
 
 int AppController::treeNodeCount() {
-  return tree_.nodeCount();
+  return project_.tree.nodeCount();
 }
 
 QVariantMap AppController::nodeMeta(int nodeIndex) {
-  return tree_.meta(nodeIndex);
+  return project_.tree.meta(nodeIndex);
 }
 
 QVariantList AppController::nodeActions(int nodeIndex) {
-  return tree_.actions(nodeIndex);
+  return project_.tree.actions(nodeIndex);
 }
 
 QVariantList AppController::nodeActionStats(int nodeIndex) {
-  return results_.nodeActionStats(nodeIndex);
+  return answers_.nodeActionStats(nodeIndex);
 }
 
 QVariantList AppController::nodePocketActionEvs(int nodeIndex, const QString& player,
                                                 const QString& c1, const QString& c2) {
-  return results_.nodePocketActionEvs(nodeIndex, player, c1, c2);
+  return answers_.nodePocketActionEvs(nodeIndex, player, c1, c2);
 }
 
 QVariantMap AppController::showdownWinner(const QString& boardText, const QString& oopText,
@@ -624,28 +602,27 @@ QVariantMap AppController::showdownWinner(const QString& boardText, const QStrin
 }
 
 QVariantMap AppController::nodeHandStrategy(int nodeIndex) {
-  return results_.nodeHandStrategy(nodeIndex);
+  return answers_.nodeHandStrategy(nodeIndex);
 }
 
 QVariantMap AppController::nodeHandStrategyReach169(int nodeIndex, const QString& bucketName) {
-  return results_.nodeHandStrategyReach169(nodeIndex, bucketName);
+  return answers_.nodeHandStrategyReach169(nodeIndex, bucketName);
 }
 
 QVariantList AppController::nodeHandCombos(int nodeIndex) {
-  return results_.nodeHandCombos(nodeIndex);
+  return answers_.nodeHandCombos(nodeIndex);
 }
 
 QVariantList AppController::nodeSeatHandCombos(int nodeIndex, const QString& player) {
-  return results_.nodeSeatHandCombos(nodeIndex, player);
+  return answers_.nodeSeatHandCombos(nodeIndex, player);
 }
 
 QVariantList AppController::nodeHandBuckets(int nodeIndex) {
   return nodeLocksPending(nodeIndex)
-             ? results_.nodeHandBuckets(nodeIndex, nodeLockTable_.entriesAt(nodeIndex))
-             : results_.nodeHandBuckets(nodeIndex);
+             ? answers_.nodeHandBuckets(nodeIndex, project_.nodeLocks.entriesAt(nodeIndex))
+             : answers_.nodeHandBuckets(nodeIndex);
 }
 
 void AppController::prepareNodeAnswers(int nodeIndex) {
-  preparer_.prepare(nodeIndex, solved_, tree_, results_.actionValues(),
-                    results_.caches().ofNode(nodeIndex));
+  answers_.prepare(nodeIndex);
 }

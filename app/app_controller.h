@@ -1,6 +1,7 @@
 // The one object through which the pages reach the solver.
 #pragma once
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -10,17 +11,14 @@
 #include <QVariantList>
 #include <QVariantMap>
 
+#include "background.h"
 #include "draft.h"
-#include "node_lock_table.h"
+#include "project.h"
 #include "project_reader.h"
 #include "report_inbox.h"
-#include "results/node_preparer.h"
-#include "results/result_queries.h"
-#include "solve_outcome.h"
+#include "results/node_answers.h"
 #include "solve_session.h"
-#include "system/file_worker.h"
 #include "system/memory_monitor.h"
-#include "tree_mirror.h"
 
 /// A facade: it leads a solve from the pages' settings map to the finished result and passes
 /// everything else on to the classes that know. All of it is of the user-interface thread, and
@@ -59,6 +57,7 @@ class AppController : public QObject {
   Q_PROPERTY(qulonglong resultsReclaimableMemoryBytes READ resultsReclaimableMemoryBytes NOTIFY
                  resultsChanged)
   Q_PROPERTY(bool developerMode READ developerMode CONSTANT)
+  Q_PROPERTY(NodeAnswers* answers READ answers CONSTANT)
   Q_PROPERTY(double fileProgress READ fileProgress NOTIFY fileProgressChanged)
   Q_PROPERTY(bool estimatePending READ estimatePending NOTIFY estimatePendingChanged)
   Q_PROPERTY(int resultRevision READ resultRevision NOTIFY resultsChanged)
@@ -98,37 +97,39 @@ class AppController : public QObject {
   /// before the first measure.
   int iteration() const { return iteration_; }
   double exploitability() const { return exploitability_; }
-  QString resultsSummary() const { return outcome_.summary; }
-  int resultStartingPot() const { return outcome_.startingPot; }
-  int resultIterations() const { return outcome_.iterations; }
-  double resultExploitability() const { return outcome_.exploitability; }
-  double resultEvOop() const { return outcome_.evOop; }
-  double resultEvIp() const { return outcome_.evIp; }
-  QVariantList rootActions() const { return outcome_.rootActions; }
+  QString resultsSummary() const { return project_.outcome.summary; }
+  int resultStartingPot() const { return project_.outcome.startingPot; }
+  int resultIterations() const { return project_.outcome.iterations; }
+  double resultExploitability() const { return project_.outcome.exploitability; }
+  double resultEvOop() const { return project_.outcome.evOop; }
+  double resultEvIp() const { return project_.outcome.evIp; }
+  QVariantList rootActions() const { return project_.outcome.rootActions; }
   qulonglong resultsReclaimableMemoryBytes() const { return memory_.reclaimableBytes(); }
   bool developerMode() const { return developerMode_; }
+  /// What the pages ask of a node; the queries below pass on to it.
+  NodeAnswers* answers() { return &answers_; }
   /// 0..1 while a file is worked on in the background, else -1.
-  double fileProgress() const { return fileWorker_.progress(); }
+  double fileProgress() const { return std::max(reading_.progress(), writing_.progress()); }
   /// True until the latest requested memory estimate has arrived.
   bool estimatePending() const { return memory_.estimatePending(); }
   /// Goes up with each new or dropped result.
   int resultRevision() const { return resultRevision_; }
   /// The spot of the solve that made the result, whatever Setup shows by now.
   QString resultBoard() const;
-  double resultRakePercent() const { return resultCfg_.value("rake_percent").toDouble(); }
-  double resultRakeCap() const { return resultCfg_.value("rake_cap").toDouble(); }
+  double resultRakePercent() const { return project_.resultCfg.value("rake_percent").toDouble(); }
+  double resultRakeCap() const { return project_.resultCfg.value("rake_cap").toDouble(); }
   /// Whether its locks ended the solve above its target.
-  bool resultStalled() const { return outcome_.stalled; }
+  bool resultStalled() const { return project_.outcome.stalled; }
   /// False for a result whose solver is gone, as after a load: then there are only the answers
   /// that were given before.
-  bool resultHasTables() const { return solved_.solver != nullptr; }
+  bool resultHasTables() const { return answers_.spot().solver != nullptr; }
   /// Whether the result or its locks have changed since they were last saved or loaded.
   bool resultUnsaved() const { return resultUnsaved_; }
-  int lockCount() const { return nodeLockTable_.count(); }
+  int lockCount() const { return project_.nodeLocks.count(); }
   /// Whether the locks are others than those the result was solved with.
-  bool locksPending() const { return !(nodeLockTable_ == solvedLocks_); }
+  bool locksPending() const { return !(project_.nodeLocks == project_.solvedLocks); }
   /// The solve configuration map of the latest run.
-  QVariantMap runSettings() const { return lastUiCfg_; }
+  QVariantMap runSettings() const { return project_.lastUiCfg; }
   /// How the latest run ended: "Completed", "Cancelled", "Failed" or "Refused"; empty while one is
   /// under way and before the first.
   QString lastRunOutcome() const { return lastRunOutcome_; }
@@ -267,7 +268,7 @@ class AppController : public QObject {
   void setResultUnsaved(bool unsaved);
 
   /// What a project file gets, with the answers that were given so far.
-  Project projectWith(const QVariantMap& state);
+  Project projectWith(const QVariantMap& state) const;
   /// Replaces everything by a project that was read.
   QVariantMap adopt(const ProjectReading& reading, const QString& path);
   bool hasResult() const;
@@ -277,8 +278,8 @@ class AppController : public QObject {
   void announceResult();
   /// Drops the solver of the result and keeps what it has answered.
   void dropTables();
-  void setSolvedLocks(const NodeLockTable& locks);
-  /// Starts the run of `lastUiCfg_` once its memory is known. `freed` bytes were given up for it.
+  /// Starts the run of the latest settings once its memory is known. `freed` bytes were given up
+  /// for it.
   void startWithMemoryKnown(quint64 freed);
   void startSession();
   void endRun(const QString& outcome, const QString& text);
@@ -294,28 +295,23 @@ class AppController : public QObject {
   QString lastRunOutcome_;
   QString lastRunText_;
 
-  // The result on view and what belongs to it.
-  SolveOutcome outcome_;
-  TreeMirror tree_;
-  QVariantMap resultCfg_;           ///< The settings of its solve.
-  NodeLockTable solvedLocks_;       ///< In force in its solve.
-  NodeLockTable nodeLockTable_;     ///< The user's, set on its tree.
-  velmora_app::SolvedSpot solved_;  ///< Empty if its tables are gone.
+  /// The result on view with all that belongs to it, and the settings of the latest start, refused
+  /// or not.
+  Project project_;
+  NodeAnswers answers_{project_};
   int resultRevision_ = 0;
   bool resultUnsaved_ = false;
-  ResultQueries results_{[this] { return solved_; }, tree_};
 
   // The latest run.
-  QVariantMap lastUiCfg_;        ///< Of the latest start, refused or not.
   NodeLockTable runLocks_;       ///< In force in the run.
   bool awaitsEstimate_ = false;  ///< It starts when its memory is known.
   bool awaitsOldRun_ = false;    ///< It starts when an abandoned run has ended.
 
-  NodePreparer preparer_;
   const bool developerMode_;
   const int systemThreadCount_;
   MemoryMonitor memory_;
-  FileWorker fileWorker_;
+  Background reading_;  ///< A project file. One is read or written at a time.
+  Background writing_;
   Draft draft_;
   std::shared_ptr<ReportInbox> inbox_;  ///< Of the run under way; empty if it was abandoned.
   /// Last, so that it goes first: it waits for its run, whose reports are still posted here.

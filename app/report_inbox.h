@@ -4,7 +4,7 @@
 #include <mutex>
 #include <optional>
 
-#include "solve_session.h"
+#include "solve_result.h"
 
 /// A small spot reports thousands of times a second, far more often than a window can show. One
 /// report waits at a time, and the reader takes it when it is ready for one. The report with a

@@ -16,20 +16,14 @@ using velmora_app::SpotFault;
 
 namespace {
 
-QString translated(const char* text) {
-  return QCoreApplication::translate("AppController", text);
-}
-
-QString translated(const char* context, const char* text) {
-  return QCoreApplication::translate(context, text);
-}
-
 QString missingText(const QString& field) {
-  if (field == "board") return translated("Not ready: enter a valid board first");
+  if (field == "board")
+    return QCoreApplication::translate("AppController", "Not ready: enter a valid board first");
   if (field.endsWith("_range")) {
-    return translated("Not ready: select at least one hand in both ranges");
+    return QCoreApplication::translate("AppController",
+                                       "Not ready: select at least one hand in both ranges");
   }
-  return translated("Not ready: fill out both OOP and IP sizing");
+  return QCoreApplication::translate("AppController", "Not ready: fill out both OOP and IP sizing");
 }
 
 }  // namespace
@@ -86,7 +80,7 @@ QString fieldTitle(const QString& field) {
       {"ip_weight", {"RangeCard", "Weight"}},
   };
   if (const auto title = kTitles.find(field); title != kTitles.end()) {
-    return translated(title->first, title->second);
+    return QCoreApplication::translate(title->first, title->second);
   }
   // What is left stands in the cards of the bet sizes: a seat, maybe a street, and a row.
   static constexpr std::array kParts{
@@ -102,7 +96,7 @@ QString fieldTitle(const QString& field) {
   QString rest = field;
   for (const auto& [part, word] : kParts) {
     if (!rest.startsWith(QLatin1String(part))) continue;
-    words += translated("SizingCard", word);
+    words += QCoreApplication::translate("SizingCard", word);
     rest.remove(0, static_cast<int>(std::strlen(part)));
   }
   return words.join(QLatin1Char(' '));

@@ -10,7 +10,7 @@
 #include <QJsonObject>
 
 #include "memory_estimate.h"
-#include "solve_session.h"
+#include "solve_result.h"
 
 /// Iteration and exploitability in chips.
 using Measure = std::pair<std::uint32_t, float>;

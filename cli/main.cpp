@@ -36,10 +36,10 @@ void print(std::FILE* stream, const QString& text) {
   std::fputs(text.toLocal8Bit().constData(), stream);
 }
 
-/// One command's line: its options, and what was wrong with them.
-class CommandLine {
+/// The options of one command, and what was wrong with them.
+class CommandOptions {
  public:
-  CommandLine(const QString& name, const QString& description) : name_(name) {
+  CommandOptions(const QString& name, const QString& description) : name_(name) {
     parser_.setApplicationDescription(description);
     // Shown in the usage line only.
     parser_.addPositionalArgument("command", {}, name);
@@ -107,12 +107,12 @@ const QCommandLineOption kLocks("locks",
                                 "hand, action and frequency.",
                                 "FILE");
 
-ExitStatus run_solve(const QStringList& arguments) {
-  CommandLine line("solve",
-                   "Solves a spot: a JSON file with a solve configuration map or a "
-                   "project. The result is one JSON object on standard output. Ctrl+C, SIGTERM "
-                   "and the time limit stop the solve and give what is there so far, with "
-                   "\"success\" false and \"stopped\" true.");
+ExitStatus solve_command(const QStringList& arguments) {
+  CommandOptions line("solve",
+                      "Solves a spot: a JSON file with a solve configuration map or a "
+                      "project. The result is one JSON object on standard output. Ctrl+C, SIGTERM "
+                      "and the time limit stop the solve and give what is there so far, with "
+                      "\"success\" false and \"stopped\" true.");
   line.parser().addPositionalArgument("SPOT.json", "The spot.");
   line.parser().addOptions(
       {kThreads,
@@ -142,8 +142,8 @@ ExitStatus run_solve(const QStringList& arguments) {
   return solve(request);
 }
 
-ExitStatus run_estimate(const QStringList& arguments) {
-  CommandLine line("estimate", "Tells how much memory a spot will take, as a JSON object.");
+ExitStatus estimate_command(const QStringList& arguments) {
+  CommandOptions line("estimate", "Tells how much memory a spot will take, as a JSON object.");
   line.parser().addPositionalArgument("SPOT.json", "The spot.");
   line.parser().addOptions({kThreads, kLocks});
   SolveRequest request;
@@ -155,10 +155,10 @@ ExitStatus run_estimate(const QStringList& arguments) {
   return estimate(request);
 }
 
-ExitStatus run_bench(const QStringList& arguments) {
-  CommandLine line("bench",
-                   "Solves a fixed set of spots. Prints iterations per second for each "
-                   "and a signature of all results.");
+ExitStatus bench_command(const QStringList& arguments) {
+  CommandOptions line("bench",
+                      "Solves a fixed set of spots. Prints iterations per second for each "
+                      "and a signature of all results.");
   line.parser().addOptions(
       {kThreads, {"isa", "Vector instructions: baseline, avx2 or avx512.", "NAME"}});
   std::optional<std::uint64_t> threads;
@@ -170,9 +170,9 @@ ExitStatus run_bench(const QStringList& arguments) {
 
 ExitStatus run(const QStringList& arguments) {
   const QString command = arguments.value(1);
-  if (command == "solve") return run_solve(arguments);
-  if (command == "estimate") return run_estimate(arguments);
-  if (command == "bench") return run_bench(arguments);
+  if (command == "solve") return solve_command(arguments);
+  if (command == "estimate") return estimate_command(arguments);
+  if (command == "bench") return bench_command(arguments);
   if (command == "-h" || command == "--help") {
     print(stdout, kOverview);
     return kDone;

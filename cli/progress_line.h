@@ -4,7 +4,7 @@
 #include <chrono>
 #include <cstdint>
 
-#include "solve_session.h"
+#include "solve_result.h"
 
 /// One line that updates itself on a terminal, else a line for each measure.
 class ProgressLine {

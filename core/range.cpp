@@ -1,12 +1,9 @@
 #include "range.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <limits>
-#include <locale.h>
 #include <map>
 #include <stdexcept>
 #include <vector>
@@ -17,46 +14,13 @@ namespace velmora {
 
 namespace {
 
-// A desktop program sets the user's locale, where a decimal comma may be the rule. Numbers in the
-// notations are always read as the C locale reads them.
-locale_t c_locale() {
-  static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
-  return locale;
-}
-
-/// What a conversion made of a whole text, with the grammar of the C library.
-template <typename Number>
-struct Conversion {
-  Number value;
-  bool found;         ///< A number stands at the beginning.
-  bool out_of_range;  ///< It doesn't fit its type.
-  bool complete;      ///< Nothing stands behind it.
-};
-
-template <typename Convert>
-auto convert(const std::string& text, Convert convert_text) {
-  const char* const begin = text.c_str();
-  char* end = nullptr;
-  errno = 0;
-  const auto value = convert_text(begin, &end);
-  return Conversion<decltype(convert_text(begin, &end))>{value, end != begin, errno == ERANGE,
-                                                         end == begin + text.size()};
-}
-
-Conversion<double> convert_double(const std::string& text) {
-  return convert(text,
-                 [](const char* begin, char** end) { return strtod_l(begin, end, c_locale()); });
-}
-
 void check_weight(float weight) {
   if (!(weight >= 0 && weight <= 1)) throw std::invalid_argument("Weight must be within [0, 1]");
 }
 
 float parse_weight(std::string_view text) {
   if (text.empty()) throw std::invalid_argument("Weight string is empty");
-  const auto weight = convert(std::string(text), [](const char* begin, char** end) {
-    return strtof_l(begin, end, c_locale());
-  });
+  const auto weight = convert_float(text);
   if (!weight.found) throw NumberFault("invalid stof argument");
   if (weight.out_of_range) throw std::out_of_range("stof argument out of range");
   if (!weight.complete) throw NumberFault("Weight string contains invalid characters");
@@ -227,7 +191,7 @@ bool is_percent_range(std::string_view text) {
 PocketWeights parse_range_text(std::string_view text) {
   if (!is_percent_range(text)) return parse_range(text);
   const std::string_view percent = trimmed(text);
-  const auto number = convert_double(std::string(percent.substr(0, percent.size() - 1)));
+  const auto number = convert_double(percent.substr(0, percent.size() - 1));
   if (!number.found || number.out_of_range) {
     throw std::invalid_argument("Invalid percent range '" + std::string(percent) +
                                 "' (expected like '50%')");
@@ -281,34 +245,6 @@ bool is_suit_symmetric(const PocketWeights& weights, std::uint8_t suit1, std::ui
     }
   }
   return true;
-}
-
-double parse_double_strict(std::string_view text) {
-  const auto number = convert_double(std::string(text));
-  if (number.found && !number.out_of_range && number.complete) return number.value;
-  constexpr std::string_view kHexDigits = "0123456789abcdef";
-  std::string hex;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    hex += kHexDigits[byte >> 4];
-    hex += kHexDigits[byte & 15];
-  }
-  throw NumberFault("Failed to parse floating-point number from '" + std::string(text) +
-                    "' (hex=" + hex + ")");
-}
-
-std::int32_t parse_int_strict(std::string_view text) {
-  const auto number = convert(std::string(text), [](const char* begin, char** end) {
-    return strtoll_l(begin, end, 10, c_locale());
-  });
-  if (!number.found || number.out_of_range || !number.complete) {
-    throw NumberFault("Failed to parse integer from '" + std::string(text) + "'");
-  }
-  if (number.value < std::numeric_limits<std::int32_t>::min() ||
-      number.value > std::numeric_limits<std::int32_t>::max()) {
-    throw std::out_of_range("Integer value is out of range");
-  }
-  return static_cast<std::int32_t>(number.value);
 }
 
 std::string hand_class_label(Pocket pocket) {

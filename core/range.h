@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "cards.h"
+#include "numbers.h"
 
 namespace velmora {
 
@@ -86,17 +87,6 @@ std::string range_fault(std::string_view text);
 
 /// True if the table is unchanged when the two suits are exchanged.
 bool is_suit_symmetric(const PocketWeights& weights, std::uint8_t suit1, std::uint8_t suit2);
-
-/// A text stands where a number should.
-class NumberFault : public std::invalid_argument {
- public:
-  using std::invalid_argument::invalid_argument;
-};
-
-/// The whole text as a double. Throws `NumberFault`.
-double parse_double_strict(std::string_view text);
-/// The whole text as a signed 32-bit number. Throws `NumberFault`, `std::out_of_range`.
-std::int32_t parse_int_strict(std::string_view text);
 
 /// Label of the pocket in the 13 by 13 grid: "AA", "AKs", "AKo", higher rank first.
 std::string hand_class_label(Pocket pocket);

@@ -135,6 +135,34 @@
         <source>Invalid JSON at byte %1, in %2</source>
         <translation>Ungültiges JSON bei Byte %1, in %2</translation>
     </message>
+    <message>
+        <source>Not ready: enter a valid board first</source>
+        <translation>Nicht bereit: zuerst ein gültiges Board eingeben</translation>
+    </message>
+    <message>
+        <source>Not ready: select at least one hand in both ranges</source>
+        <translation>Nicht bereit: in beiden Ranges mindestens eine Hand wählen</translation>
+    </message>
+    <message>
+        <source>Not ready: fill out both OOP and IP sizing</source>
+        <translation>Nicht bereit: Einsatzgrößen von OOP und IP ausfüllen</translation>
+    </message>
+    <message>
+        <source>Solve failed: %1</source>
+        <translation>Berechnung fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Board %1 | iters %2 | expl≈%3 | EV(oop)=%4 EV(ip)=%5</source>
+        <translation>Board %1 | Iter. %2 | Expl.≈%3 | EV(oop)=%4 EV(ip)=%5</translation>
+    </message>
+    <message>
+        <source>Invalid/non-local file URL</source>
+        <translation>Ungültige oder nicht lokale Datei-URL</translation>
+    </message>
+    <message>
+        <source>Empty file path</source>
+        <translation>Leerer Dateipfad</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

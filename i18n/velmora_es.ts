@@ -135,6 +135,34 @@
         <source>Invalid JSON at byte %1, in %2</source>
         <translation>JSON no válido en el byte %1, en %2</translation>
     </message>
+    <message>
+        <source>Not ready: enter a valid board first</source>
+        <translation>No está listo: introduce primero un board válido</translation>
+    </message>
+    <message>
+        <source>Not ready: select at least one hand in both ranges</source>
+        <translation>No está listo: selecciona al menos una mano en ambos rangos</translation>
+    </message>
+    <message>
+        <source>Not ready: fill out both OOP and IP sizing</source>
+        <translation>No está listo: completa los tamaños de OOP y de IP</translation>
+    </message>
+    <message>
+        <source>Solve failed: %1</source>
+        <translation>El cálculo ha fallado: %1</translation>
+    </message>
+    <message>
+        <source>Board %1 | iters %2 | expl≈%3 | EV(oop)=%4 EV(ip)=%5</source>
+        <translation>Board %1 | iter. %2 | expl.≈%3 | EV(oop)=%4 EV(ip)=%5</translation>
+    </message>
+    <message>
+        <source>Invalid/non-local file URL</source>
+        <translation>URL de archivo no válida o no local</translation>
+    </message>
+    <message>
+        <source>Empty file path</source>
+        <translation>Ruta de archivo vacía</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

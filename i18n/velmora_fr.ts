@@ -135,6 +135,34 @@
         <source>Invalid JSON at byte %1, in %2</source>
         <translation>JSON non valide à l’octet %1, dans %2</translation>
     </message>
+    <message>
+        <source>Not ready: enter a valid board first</source>
+        <translation>Pas prêt&#xa0;: saisissez d’abord un board valide</translation>
+    </message>
+    <message>
+        <source>Not ready: select at least one hand in both ranges</source>
+        <translation>Pas prêt&#xa0;: sélectionnez au moins une main dans les deux ranges</translation>
+    </message>
+    <message>
+        <source>Not ready: fill out both OOP and IP sizing</source>
+        <translation>Pas prêt&#xa0;: renseignez les tailles de mise OOP et IP</translation>
+    </message>
+    <message>
+        <source>Solve failed: %1</source>
+        <translation>Échec du calcul&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Board %1 | iters %2 | expl≈%3 | EV(oop)=%4 EV(ip)=%5</source>
+        <translation>Board %1 | itér. %2 | expl.≈%3 | EV(oop)=%4 EV(ip)=%5</translation>
+    </message>
+    <message>
+        <source>Invalid/non-local file URL</source>
+        <translation>URL de fichier non valide ou non locale</translation>
+    </message>
+    <message>
+        <source>Empty file path</source>
+        <translation>Chemin de fichier vide</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

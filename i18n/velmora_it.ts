@@ -135,6 +135,34 @@
         <source>Invalid JSON at byte %1, in %2</source>
         <translation>JSON non valido al byte %1, in %2</translation>
     </message>
+    <message>
+        <source>Not ready: enter a valid board first</source>
+        <translation>Non pronto: inserisci prima un board valido</translation>
+    </message>
+    <message>
+        <source>Not ready: select at least one hand in both ranges</source>
+        <translation>Non pronto: seleziona almeno una mano in entrambi i range</translation>
+    </message>
+    <message>
+        <source>Not ready: fill out both OOP and IP sizing</source>
+        <translation>Non pronto: compila le size di OOP e di IP</translation>
+    </message>
+    <message>
+        <source>Solve failed: %1</source>
+        <translation>Calcolo non riuscito: %1</translation>
+    </message>
+    <message>
+        <source>Board %1 | iters %2 | expl≈%3 | EV(oop)=%4 EV(ip)=%5</source>
+        <translation>Board %1 | iter. %2 | expl.≈%3 | EV(oop)=%4 EV(ip)=%5</translation>
+    </message>
+    <message>
+        <source>Invalid/non-local file URL</source>
+        <translation>URL del file non valido o non locale</translation>
+    </message>
+    <message>
+        <source>Empty file path</source>
+        <translation>Percorso del file vuoto</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

@@ -135,6 +135,34 @@
         <source>Invalid JSON at byte %1, in %2</source>
         <translation>Nieprawidłowy JSON w bajcie %1, w %2</translation>
     </message>
+    <message>
+        <source>Not ready: enter a valid board first</source>
+        <translation>Nie gotowe: najpierw podaj poprawny board</translation>
+    </message>
+    <message>
+        <source>Not ready: select at least one hand in both ranges</source>
+        <translation>Nie gotowe: wybierz co najmniej jedną rękę w obu zakresach</translation>
+    </message>
+    <message>
+        <source>Not ready: fill out both OOP and IP sizing</source>
+        <translation>Nie gotowe: uzupełnij rozmiary zakładów OOP i IP</translation>
+    </message>
+    <message>
+        <source>Solve failed: %1</source>
+        <translation>Obliczenia nie powiodły się: %1</translation>
+    </message>
+    <message>
+        <source>Board %1 | iters %2 | expl≈%3 | EV(oop)=%4 EV(ip)=%5</source>
+        <translation>Board %1 | iter. %2 | expl≈%3 | EV(oop)=%4 EV(ip)=%5</translation>
+    </message>
+    <message>
+        <source>Invalid/non-local file URL</source>
+        <translation>Nieprawidłowy lub nielokalny adres URL pliku</translation>
+    </message>
+    <message>
+        <source>Empty file path</source>
+        <translation>Pusta ścieżka pliku</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

@@ -135,6 +135,34 @@
         <source>Invalid JSON at byte %1, in %2</source>
         <translation>JSON inválido no byte %1, em %2</translation>
     </message>
+    <message>
+        <source>Not ready: enter a valid board first</source>
+        <translation>Não está pronto: informe primeiro um board válido</translation>
+    </message>
+    <message>
+        <source>Not ready: select at least one hand in both ranges</source>
+        <translation>Não está pronto: selecione ao menos uma mão nos dois ranges</translation>
+    </message>
+    <message>
+        <source>Not ready: fill out both OOP and IP sizing</source>
+        <translation>Não está pronto: preencha os tamanhos de OOP e de IP</translation>
+    </message>
+    <message>
+        <source>Solve failed: %1</source>
+        <translation>O cálculo falhou: %1</translation>
+    </message>
+    <message>
+        <source>Board %1 | iters %2 | expl≈%3 | EV(oop)=%4 EV(ip)=%5</source>
+        <translation>Board %1 | iter. %2 | expl.≈%3 | EV(oop)=%4 EV(ip)=%5</translation>
+    </message>
+    <message>
+        <source>Invalid/non-local file URL</source>
+        <translation>URL de arquivo inválida ou não local</translation>
+    </message>
+    <message>
+        <source>Empty file path</source>
+        <translation>Caminho do arquivo vazio</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

@@ -135,6 +135,34 @@
         <source>Invalid JSON at byte %1, in %2</source>
         <translation>Неверный JSON в байте %1, в %2</translation>
     </message>
+    <message>
+        <source>Not ready: enter a valid board first</source>
+        <translation>Не готово: сначала введите корректный борд</translation>
+    </message>
+    <message>
+        <source>Not ready: select at least one hand in both ranges</source>
+        <translation>Не готово: выберите хотя бы одну руку в обоих диапазонах</translation>
+    </message>
+    <message>
+        <source>Not ready: fill out both OOP and IP sizing</source>
+        <translation>Не готово: заполните размеры ставок OOP и IP</translation>
+    </message>
+    <message>
+        <source>Solve failed: %1</source>
+        <translation>Расчёт не удался: %1</translation>
+    </message>
+    <message>
+        <source>Board %1 | iters %2 | expl≈%3 | EV(oop)=%4 EV(ip)=%5</source>
+        <translation>Борд %1 | итер. %2 | экспл.≈%3 | EV(oop)=%4 EV(ip)=%5</translation>
+    </message>
+    <message>
+        <source>Invalid/non-local file URL</source>
+        <translation>Недопустимый или нелокальный URL файла</translation>
+    </message>
+    <message>
+        <source>Empty file path</source>
+        <translation>Пустой путь к файлу</translation>
+    </message>
 </context>
 <context>
     <name>AppShell</name>

@@ -2,39 +2,38 @@
 
 namespace {
 
-template <typename Answer>
-void copyEntry(QMap<int, Answer>& to, const QMap<int, Answer>& from, int node) {
-  if (const auto it = from.constFind(node); it != from.cend()) to.insert(node, *it);
+template <typename Key, typename Answer>
+std::optional<Answer> find(const QMap<Key, Answer>& cache, const Key& key) {
+  const auto it = cache.constFind(key);
+  return it == cache.cend() ? std::nullopt : std::optional(*it);
 }
 
 template <typename Key, typename Answer>
-void takeMissing(QMap<Key, Answer>& here, const QMap<Key, Answer>& other) {
-  for (auto it = other.cbegin(); it != other.cend(); ++it) {
-    if (!here.contains(it.key())) here.insert(it.key(), it.value());
-  }
-}
-
-/// What the keys of a node's grids begin with.
-QString gridPrefix(int node) {
-  return QString::number(node) + '|';
+void insert(QMap<Key, Answer>& cache, const Key& key, const std::optional<Answer>& answer) {
+  if (answer) cache.insert(key, *answer);
 }
 
 }  // namespace
 
-ResultCaches ResultCaches::ofNode(int node) const {
-  ResultCaches answers;
-  copyEntry(answers.handStrategyCache, handStrategyCache, node);
-  copyEntry(answers.actionStatsCache, actionStatsCache, node);
-  copyEntry(answers.handCombosCache, handCombosCache, node);
-  copyEntry(answers.handBucketsCache, handBucketsCache, node);
-  copyEntry(answers.seatHandCombosOopCache, seatHandCombosOopCache, node);
-  copyEntry(answers.seatHandCombosIpCache, seatHandCombosIpCache, node);
-  const QString prefix = gridPrefix(node);
-  for (auto it = reach169Cache.lowerBound(prefix);
-       it != reach169Cache.cend() && it.key().startsWith(prefix); ++it) {
-    answers.reach169Cache.insert(it.key(), it.value());
-  }
-  return answers;
+QString ResultCaches::reachKey(int node, const QString& category) {
+  return QString::number(node) + '|' + category;
+}
+
+NodeAnswer ResultCaches::answer(int node) const {
+  return {find(handStrategyCache, node),    find(reach169Cache, reachKey(node, {})),
+          find(actionStatsCache, node),     find(handCombosCache, node),
+          find(handBucketsCache, node),     find(seatHandCombosOopCache, node),
+          find(seatHandCombosIpCache, node)};
+}
+
+void ResultCaches::store(int node, const NodeAnswer& answer) {
+  insert(handStrategyCache, node, answer.handStrategy);
+  insert(reach169Cache, reachKey(node, {}), answer.reach169);
+  insert(actionStatsCache, node, answer.actionStats);
+  insert(handCombosCache, node, answer.handCombos);
+  insert(handBucketsCache, node, answer.handBuckets);
+  insert(seatHandCombosOopCache, node, answer.seatHandCombosOop);
+  insert(seatHandCombosIpCache, node, answer.seatHandCombosIp);
 }
 
 void ResultCaches::remove(int node) {
@@ -44,16 +43,6 @@ void ResultCaches::remove(int node) {
   handBucketsCache.remove(node);
   seatHandCombosOopCache.remove(node);
   seatHandCombosIpCache.remove(node);
-  const QString prefix = gridPrefix(node);
+  const QString prefix = reachKey(node, {});
   reach169Cache.removeIf([&](auto it) { return it.key().startsWith(prefix); });
-}
-
-void ResultCaches::take(const ResultCaches& other) {
-  takeMissing(handStrategyCache, other.handStrategyCache);
-  takeMissing(reach169Cache, other.reach169Cache);
-  takeMissing(actionStatsCache, other.actionStatsCache);
-  takeMissing(handCombosCache, other.handCombosCache);
-  takeMissing(handBucketsCache, other.handBucketsCache);
-  takeMissing(seatHandCombosOopCache, other.seatHandCombosOopCache);
-  takeMissing(seatHandCombosIpCache, other.seatHandCombosIpCache);
 }

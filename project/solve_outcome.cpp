@@ -12,10 +12,6 @@ using velmora_app::SolveResult;
 
 namespace {
 
-QString translated(const char* text) {
-  return QCoreApplication::translate("AppController", text);
-}
-
 QVariantList rootActionsOf(const SolveResult& result) {
   const std::size_t names = result.root_action_names.size();
   const std::size_t types = result.root_action_types.size();
@@ -40,11 +36,13 @@ QVariantList rootActionsOf(const SolveResult& result) {
 SolveOutcome outcomeOf(const SolveResult& result) {
   SolveOutcome outcome;
   if (!result.success) {
-    outcome.summary = translated("Solve failed: %1").arg(QString::fromStdString(result.error));
+    outcome.summary = QCoreApplication::translate("AppController", "Solve failed: %1")
+                          .arg(QString::fromStdString(result.error));
     return outcome;
   }
   outcome.summary =
-      translated("Board %1 | iters %2 | expl≈%3 | EV(oop)=%4 EV(ip)=%5")
+      QCoreApplication::translate("AppController",
+                                  "Board %1 | iters %2 | expl≈%3 | EV(oop)=%4 EV(ip)=%5")
           .arg(QString::fromStdString(result.board), QString::number(result.iterations),
                QString::number(result.exploitability, 'f', 4),
                QString::number(result.ev_oop, 'f', 3), QString::number(result.ev_ip, 'f', 3));

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QVariantList>
 
-#include "solve_session.h"
+#include "solve_result.h"
 
 /// The figures of a result, 0 and empty where there is none.
 struct SolveOutcome {

@@ -7,20 +7,13 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-namespace {
-
-QString translated(const char* text) {
-  return QCoreApplication::translate("AppController", text);
-}
-
-}  // namespace
-
 LocalPath localPathOf(const QUrl& fileUrl) {
   if (!fileUrl.isValid() || !fileUrl.isLocalFile()) {
-    return {{}, translated("Invalid/non-local file URL")};
+    return {{}, QCoreApplication::translate("AppController", "Invalid/non-local file URL")};
   }
   const QString path = fileUrl.toLocalFile();
-  return {path, path.isEmpty() ? translated("Empty file path") : QString()};
+  return {path, path.isEmpty() ? QCoreApplication::translate("AppController", "Empty file path")
+                               : QString()};
 }
 
 QVariantMap saveTextFile(const QUrl& fileUrl, const QString& text) {
@@ -32,7 +25,8 @@ QVariantMap saveTextFile(const QUrl& fileUrl, const QString& text) {
 
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
-    return failed(translated("Failed to open file: %1").arg(file.errorString()));
+    return failed(QCoreApplication::translate("AppController", "Failed to open file: %1")
+                      .arg(file.errorString()));
   }
   // A disk that fills up takes a part without a fault and refuses only the rest. A refused write
   // makes the commit fail.
@@ -41,7 +35,9 @@ QVariantMap saveTextFile(const QUrl& fileUrl, const QString& text) {
     count = file.write(bytes.constData() + written, bytes.size() - written);
     if (count <= 0) break;
   }
-  if (!file.commit()) return failed(translated("Failed to save file: %1").arg(file.errorString()));
+  if (!file.commit())
+    return failed(QCoreApplication::translate("AppController", "Failed to save file: %1")
+                      .arg(file.errorString()));
   return {{"ok", true}, {"error", QString()}};
 }
 

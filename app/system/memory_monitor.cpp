@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <limits>
+#include <memory>
 #include <string>
 #include <utility>
 
 #include <QCoreApplication>
 
-#include "fault_scope.h"
 #include "memory_estimate.h"
 #include "spot.h"
 #include "spot_config.h"
@@ -16,8 +16,6 @@
 namespace {
 
 constexpr int kPollMilliseconds = 2000;
-/// One for the newest request and one that may still be busy with a request it has overtaken.
-constexpr int kEstimateThreads = 2;
 
 }  // namespace
 
@@ -57,17 +55,10 @@ MemoryMonitor::MemoryMonitor(Sources sources, QObject* parent)
       sources_(std::move(sources)),
       systemBytes_(sources_.total()),
       availableBytes_(sources_.available()) {
-  estimatePool_.setMaxThreadCount(kEstimateThreads);
   refreshAvailable();
   memoryPollTimer_.setInterval(kPollMilliseconds);
   connect(&memoryPollTimer_, &QTimer::timeout, this, &MemoryMonitor::refreshAvailable);
   memoryPollTimer_.start();
-}
-
-MemoryMonitor::~MemoryMonitor() {
-  ++memoryEstimateGeneration_;
-  estimatePool_.clear();
-  estimatePool_.waitForDone();
 }
 
 void MemoryMonitor::refreshAvailable() {
@@ -90,26 +81,18 @@ void MemoryMonitor::setEstimatePending(bool pending) {
 }
 
 void MemoryMonitor::requestEstimate(const QVariantMap& map) {
-  const quint64 generation = ++memoryEstimateGeneration_;
-  requestedFor_ = makeSolveConfig(map);
   setEstimatePending(true);
-  estimatePool_.clear();
-  estimatePool_.start([this, generation, config = requestedFor_] {
-    quint64 bytes = 0;
-    try {
-      const velmora_app::FaultScope scope;
-      bytes = sources_.estimate(config);
-    } catch (...) {
-      bytes = 0;  // No estimate; the solve itself will say why.
-    }
-    QMetaObject::invokeMethod(
-        this, [this, generation, bytes] { takeEstimate(generation, bytes); }, Qt::QueuedConnection);
-  });
+  const velmora_app::SolveConfig config = makeSolveConfig(map);
+  const auto bytes = std::make_shared<quint64>(0);
+  estimating_.run([this, config, bytes](Background::Job&) { *bytes = sources_.estimate(config); },
+                  // Where the estimate failed the solve itself will say why.
+                  [this, config, bytes](const QString& fault) {
+                    takeEstimate(config, fault.isEmpty() ? *bytes : 0);
+                  });
 }
 
-void MemoryMonitor::takeEstimate(quint64 generation, quint64 bytes) {
-  if (generation != memoryEstimateGeneration_) return;
-  requiredFor_ = requestedFor_;
+void MemoryMonitor::takeEstimate(const velmora_app::SolveConfig& config, quint64 bytes) {
+  requiredFor_ = config;
   if (bytes != requiredBytes_) {
     requiredBytes_ = bytes;
     emit solveRequiredMemoryChanged();

@@ -1,16 +1,15 @@
 // Memory figures: what the machine has, what a solve would take, what a new solve would free.
 #pragma once
 
-#include <atomic>
 #include <functional>
 #include <optional>
 
 #include <QObject>
 #include <QString>
-#include <QThreadPool>
 #include <QTimer>
 #include <QVariantMap>
 
+#include "background.h"
 #include "solve_session.h"
 
 /// "—" for 0, else gigabytes of 2^30 bytes, with one decimal below 10; below 1 megabytes of 2^20,
@@ -37,7 +36,6 @@ class MemoryMonitor : public QObject {
   static Sources systemSources();
 
   explicit MemoryMonitor(Sources sources = systemSources(), QObject* parent = nullptr);
-  ~MemoryMonitor() override;
 
   quint64 systemBytes() const { return systemBytes_; }
   QString systemText() const { return memoryText(systemBytes_); }
@@ -82,19 +80,20 @@ class MemoryMonitor : public QObject {
   void estimateArrived();
 
  private:
-  void takeEstimate(quint64 generation, quint64 bytes);
+  /// One for the newest request and one that may still be busy with a request it has overtaken.
+  static constexpr int kEstimateThreads = 2;
+
+  void takeEstimate(const velmora_app::SolveConfig& config, quint64 bytes);
   void setEstimatePending(bool pending);
 
   const Sources sources_;
   quint64 systemBytes_ = 0;
   quint64 availableBytes_ = 0;
   quint64 requiredBytes_ = 0;
-  velmora_app::SolveConfig requestedFor_;
   std::optional<velmora_app::SolveConfig> requiredFor_;
   bool estimatePending_ = false;
   quint64 reclaimableBytes_ = 0;
   quint64 pendingResultBytes_ = 0;
-  std::atomic<quint64> memoryEstimateGeneration_ = 0;
   QTimer memoryPollTimer_;
-  QThreadPool estimatePool_;
+  Background estimating_{kEstimateThreads};
 };

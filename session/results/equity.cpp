@@ -164,7 +164,8 @@ velmora::CardCode card_at(std::string_view text, std::size_t place) {
   return velmora::parse_card(text.substr(2 * place, 2));
 }
 
-velmora::Pocket pocket_of(std::string_view text) {
+/// A hand of four characters without a space between its cards.
+velmora::Pocket hand_at(std::string_view text) {
   return velmora::make_pocket(card_at(text, 0), card_at(text, 1));
 }
 
@@ -179,8 +180,8 @@ Showdown showdown_winner(std::string_view board, std::string_view oop, std::stri
   try {
     std::array<velmora::CardCode, 5> cards{};
     for (std::size_t i = 0; i < cards.size(); ++i) cards[i] = card_at(board_text, i);
-    const velmora::HandStrength mine = velmora::evaluate_hand(pocket_of(oop_text), cards);
-    const velmora::HandStrength theirs = velmora::evaluate_hand(pocket_of(ip_text), cards);
+    const velmora::HandStrength mine = velmora::evaluate_hand(hand_at(oop_text), cards);
+    const velmora::HandStrength theirs = velmora::evaluate_hand(hand_at(ip_text), cards);
     result = {mine > theirs ? "OOP" : mine < theirs ? "IP" : "TIE", mine, theirs};
   } catch (const std::exception&) {  // NOLINT: the unknown winner says it.
   }

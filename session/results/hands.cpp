@@ -58,16 +58,10 @@ class PricedActions {
 std::vector<float> probabilities_of(std::size_t hand, std::size_t hands,
                                     const std::vector<float>& strategy) {
   std::vector<float> probabilities(strategy.size() / hands);
-  double sum = 0;
   for (std::size_t a = 0; a < probabilities.size(); ++a) {
-    const float entry = strategy[a * hands + hand];
-    probabilities[a] = counts(entry) ? entry : 0.0F;
-    sum += static_cast<double>(probabilities[a]);
+    probabilities[a] = strategy[a * hands + hand];
   }
-  for (float& probability : probabilities) {
-    probability = sum > 0 ? static_cast<float>(static_cast<double>(probability) / sum)
-                          : 1.0F / static_cast<float>(probabilities.size());
-  }
+  normalize_frequencies(probabilities, probabilities);
   return probabilities;
 }
 

@@ -10,6 +10,18 @@ namespace velmora_app {
 using velmora::NodeKind;
 using velmora::PlanNode;
 
+void normalize_frequencies(std::span<const float> raw, std::span<float> frequencies) {
+  double sum = 0;
+  for (std::size_t i = 0; i < frequencies.size(); ++i) {
+    frequencies[i] = i < raw.size() && counts(raw[i]) ? raw[i] : 0.0F;
+    sum += static_cast<double>(frequencies[i]);
+  }
+  for (float& frequency : frequencies) {
+    frequency = sum > 0 ? static_cast<float>(static_cast<double>(frequency) / sum)
+                        : 1.0F / static_cast<float>(frequencies.size());
+  }
+}
+
 std::vector<PathStep> path_to(const velmora::Game& game, std::size_t node) {
   if (node >= game.nodes().size()) throw std::out_of_range("Node index is out of range");
   std::vector<PathStep> path;

@@ -20,6 +20,10 @@ inline bool counts(float weight) {
   return std::isfinite(weight) && weight > 0.0F;
 }
 
+/// Writes the frequencies of `raw` over `frequencies`: what is missing, not finite or negative
+/// counts 0, and the list adds up to 1; a list of zeros becomes uniform.
+void normalize_frequencies(std::span<const float> raw, std::span<float> frequencies);
+
 /// A node of the game, or null.
 inline const velmora::PlanNode* node_at(const SolvedSpot& spot, std::uint64_t node) {
   return spot.game && node < spot.game->nodes().size() ? &spot.game->nodes()[node] : nullptr;

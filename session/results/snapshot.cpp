@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "results/actions.h"
+#include "results/node.h"
 #include "worker_pool.h"
 
 namespace velmora_app {
@@ -15,21 +16,6 @@ using velmora::NodeKind;
 using velmora::PlanNode;
 
 namespace {
-
-/// Writes the frequencies of `raw` over `frequencies`: what is missing, not finite or negative
-/// counts 0, and the list adds up to 1; a list of zeros becomes uniform.
-void normalize_frequencies(const std::vector<float>& raw, std::span<float> frequencies) {
-  double sum = 0;
-  for (std::size_t i = 0; i < frequencies.size(); ++i) {
-    const float value = i < raw.size() ? raw[i] : 0.0F;
-    frequencies[i] = std::isfinite(value) && value > 0.0F ? value : 0.0F;
-    sum += static_cast<double>(frequencies[i]);
-  }
-  for (float& frequency : frequencies) {
-    frequency = sum > 0 ? static_cast<float>(static_cast<double>(frequency) / sum)
-                        : 1.0F / static_cast<float>(frequencies.size());
-  }
-}
 
 NodeMeta describe(const PlanNode& node, std::int32_t starting_pot,
                   std::span<const float> frequencies) {

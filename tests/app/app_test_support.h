@@ -1,4 +1,4 @@
-// What the tests of this floor share.
+// What the tests of these programs share.
 #pragma once
 
 #include <functional>

@@ -112,7 +112,6 @@ TEST_F(ProjectFile, ASolvedSpotComesBackInEveryAnswer) {
   before.setNodeLock(call, "JJ", 0, 1);
   before.setNodeLock(before.treeNodeCount(), "KK", 0, 1);  // Of no node: it is not saved.
   ASSERT_TRUE(before.saveProject(url("a.velmoraproj"), kState));
-  EXPECT_EQ(log_.messages().last(), "Saved project: \"" + path("a.velmoraproj") + '"');
   before.clearNodeLocks(before.treeNodeCount());
 
   AppController after;
@@ -124,8 +123,6 @@ TEST_F(ProjectFile, ASolvedSpotComesBackInEveryAnswer) {
   EXPECT_EQ(jsonOf(answer["project"]), jsonOf(kState));
   EXPECT_EQ(after.statusText(), "Loaded project (3 strategy nodes, 3 combo nodes)");
   EXPECT_EQ(results.count(), 1);
-  EXPECT_EQ(log_.messages().last(),
-            "Loaded project: \"" + path("a.velmoraproj") + "\" hasResults= true");
   EXPECT_EQ(answersOf(after), answersOf(before));
   for (qsizetype i = 0; i < visited.size(); ++i) EXPECT_EQ(viewsOf(after, visited[i]), views[i]);
   EXPECT_EQ(after.nodeHandStrategy(0), before.nodeHandStrategy(0));
@@ -279,12 +276,10 @@ TEST_F(ProjectFile, ARefusedFileLeavesEverythingAsItWas) {
     EXPECT_TRUE(refusalOf(text).startsWith(json + " at byte ")) << text.size();
   }
 
-  // Cut off anywhere.
+  // Cut off. (The stream of JSON is cut everywhere in its own test.)
   ASSERT_TRUE(controller.saveProject(url("a"), kState));
   const QByteArray whole = bytesOf(path("a")).trimmed();
-  for (qsizetype size = 0; size < whole.size(); size += 1 + whole.size() / 499) {
-    EXPECT_TRUE(refusalOf(whole.left(size)).startsWith(json)) << size;
-  }
+  EXPECT_TRUE(refusalOf(whole.left(whole.size() / 2)).startsWith(json));
   EXPECT_TRUE(refusalOf(whole.chopped(1)).startsWith(json));
   EXPECT_EQ(answersOf(controller), answers);
   EXPECT_EQ(viewsOf(controller, 0), views);
@@ -300,27 +295,20 @@ TEST_F(ProjectFile, AFailedSaveTellsWhyAndLeavesTheOldFile) {
   QSignalSpy saved(&controller, &AppController::projectSaved);
   const auto save = [&](const QUrl& file) {
     EXPECT_FALSE(controller.saveProject(file, kState));
-    const QString line = log_.messages().last();
     controller.saveProjectInBackground(file, kState);
     EXPECT_TRUE(waitUntil([&] { return !saved.isEmpty(); }));
     const QVariantList arguments = saved.takeFirst();
     EXPECT_FALSE(arguments[0].toBool());
-    return std::pair(line, arguments[1].toString());
+    return arguments[1].toString();
   };
-  const QUrl web("http://example.org/a");
-  const auto [webLine, webReason] = save(web);
-  EXPECT_TRUE(webLine.startsWith("warning: saveProject: invalid/non-local URL: "));
-  EXPECT_EQ(webReason, "Invalid/non-local file URL");
-  const auto [line, reason] = save(url("no/such/folder"));
-  EXPECT_TRUE(line.startsWith("warning: saveProject: failed to open: "));
+  EXPECT_EQ(save(QUrl("http://example.org/a")), "Invalid/non-local file URL");
+  const QString reason = save(url("no/such/folder"));
   EXPECT_TRUE(reason.startsWith("Failed to open file: ")) << reason.toStdString();
   for (const rlim_t bytes : {0, 5000}) {
     const FullDisk disk(bytes);
-    const auto [fullLine, fullReason] = save(url("written"));
-    EXPECT_TRUE(fullLine.startsWith("warning: saveProject: commit failed: "));
-    EXPECT_TRUE(fullReason.startsWith("Failed to save file: "));
-    EXPECT_TRUE(fullLine.contains(fullReason.mid(21))) << fullReason.toStdString();
-    EXPECT_GT(fullReason.size(), 21);
+    const QString why = save(url("written"));
+    EXPECT_TRUE(why.startsWith("Failed to save file: "));
+    EXPECT_GT(why.size(), 21);
   }
   EXPECT_EQ(bytesOf(path("written")), "old");
   EXPECT_EQ(QDir(dir_.path()).entryList(QDir::Files), QStringList("written"));

@@ -95,15 +95,3 @@ TEST(ReadTextResource, TakesTheThreeFormsOfAPath) {
     EXPECT_EQ(readTextResource(path), QString("Grüße, ♠\n")) << path;
   }
 }
-
-TEST(ReadTextResource, WarnsOfWhatItCannotRead) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"C:/x.txt", "warning: readTextResource: not a Qt resource path: \"C:/x.txt\""},
-      {"", "warning: readTextResource: not a Qt resource path: \"\""},
-      {"qrc:/none.txt", "warning: readTextResource: failed to open: \":/none.txt\""}};
-  for (const auto& [path, warning] : cases) {
-    const LogCapture log;
-    EXPECT_EQ(readTextResource(path), QString());
-    EXPECT_EQ(log.messages(), QStringList(warning));
-  }
-}

@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -112,28 +111,17 @@ TEST(Solve, BadInputIsOneClearLine) {
   };
   const std::vector<Case> cases{
       {{}, "Board must include at least a flop (6 chars, e.g. AhKsQd)"},
-      {changed("board", "AhKsXx"), "Invalid rank character"},
       {changed("board", "AhKsQdT"), "3, 4 or 5 cards"},
-      {changed("board", "AhKsQdKs2c"), "Turn conflicts with flop"},
       {changed("starting_street", "turn"), "a board of 5 cards is a river"},
-      {changed("starting_street", "preflop"), "a board of 5 cards is a river"},
       {changed("oop_range", "AKx"), "Invalid suitedness suffix"},
       {changed("oop_range", ""), "Player range empty after filtering board cards"},
       {changed("ip_river_bet_sizes", "2x"), "IP river sizing (bet='2x'"},
-      {changed("starting_pot", "much"), "\"starting_pot\" must be a whole number"},
-      {changed("starting_pot", 2.5), "\"starting_pot\" must be a whole number"},
       {changed("starting_pot", 0), "\"starting_pot\" must be a whole number from 1 to"},
-      {changed("effective_stack", 99.99), "\"effective_stack\" must be a whole number from 1 to"},
-      {changed("max_iterations", 0.5), "\"max_iterations\" must be a whole number"},
       {changed("target_exploitability", "0.1"), "\"target_exploitability\" must be a number"},
       {{{"format", "velmora_project"},
         {"version", 1},
         {"project", QJsonObject{{"boardText", "AhKsQd"}, {"targetExploitability", "low"}}}},
        "\"targetExploitability\" must be a number of 0 or more"},
-      {{{"format", "velmora_project"},
-        {"version", 1},
-        {"project", QJsonObject{{"boardText", "AhKsQd"}, {"startingPot", 2.5}}}},
-       "\"starting_pot\" must be a whole number"},
       {changed("rake_percent", -1), "\"rake_percent\" must be a number from 0 to 100"},
       {changed("oop_river_add_all_in", 1), "\"oop_river_add_all_in\" must be true or false"},
       {{{"format", "other"}}, "Unrecognized project format"},
@@ -297,12 +285,8 @@ TEST(CommandLine, WrongUseGivesHelp) {
                                       {"solve", "a.json", "b.json"},
                                       {"solve", "a.json", "--speed"},
                                       {"solve", "a.json", "--threads", "0"},
-                                      {"solve", "a.json", "--threads", "many"},
                                       {"solve", "a.json", "--iterations", "-1"},
-                                      {"solve", "a.json", "--export"},
                                       {"solve", "a.json", "--time-limit", "0"},
-                                      {"solve", "a.json", "--time-limit", "1.5"},
-                                      {"solve", "a.json", "--output"},
                                       {"estimate"},
                                       {"bench", "a.json"}};
   for (const QStringList& arguments : uses) {
@@ -320,18 +304,17 @@ TEST(CommandLine, WrongUseGivesHelp) {
   }
 }
 
-TEST(Bench, SignatureDependsOnNeitherThreadsNorInstructions) {
-  QByteArray signature;
+/// The bits of all results of the fixed spots: rivers with and without rake, with one size and
+/// three, a turn in both storages, flops with and without folded suits, one of them raked. A change
+/// that means to change results puts its own signature here; every other one keeps this.
+TEST(Bench, SignatureStaysOnAllThreadsAndInstructions) {
   for (const QStringList& options : std::vector<QStringList>{
            {"--threads", "1"}, {"--threads", "2"}, {"--threads", "3", "--isa", "baseline"}}) {
     const CliRun run = run_cli(QStringList{"bench"} + options);
     ASSERT_EQ(run.status, 0) << run.error.toStdString();
     EXPECT_EQ(run.error, "");
-    const QByteArray line = run.out.trimmed().split('\n').last();
-    EXPECT_TRUE(QRegularExpression("^signature [0-9a-f]{16}$").match(line).hasMatch())
-        << run.out.toStdString();
-    if (signature.isEmpty()) signature = line;
-    EXPECT_EQ(line, signature) << options.join(' ').toStdString();
+    EXPECT_EQ(run.out.trimmed().split('\n').last(), "signature e0257462a9e68ee6")
+        << options.join(' ').toStdString();
   }
   const CliRun unknown = run_cli({"bench", "--isa", "abacus"});
   EXPECT_EQ(unknown.status, 1);

@@ -1,8 +1,5 @@
 #include "bet_size.h"
 
-#include <clocale>
-#include <random>
-
 #include <gtest/gtest.h>
 
 #include "faults.h"
@@ -36,23 +33,15 @@ const BetSize kAllInSize{BetSizeKind::kAllIn, 0, 0, 0, 0, 0};
 TEST(BetSize, FormsOfAToken) {
   const std::vector<std::pair<std::string, BetSize>> cases{{"75%", percent(0.75)},
                                                            {" 33.5% ", percent(0.335)},
-                                                           {"-5%", percent(-0.05)},
-                                                           {"2e120%", percent(2e118)},
                                                            {"2.5x", multiple(2.5)},
-                                                           {"3X", multiple(3)},
                                                            {"100c", chips(100)},
-                                                           {"100C", chips(100)},
                                                            {"100c3r", chips(100, 3)},
-                                                           {"100C3R", chips(100, 3)},
                                                            {"33", chips(33)},
-                                                           {"-5", chips(-5)},
                                                            {"e", geometric(0, kInfinity)},
                                                            {"2e", geometric(2, kInfinity)},
                                                            {"3%120e", geometric(3, 1.2)},
-                                                           {"%120E", geometric(0, 1.2)},
                                                            {"a", kAllInSize},
                                                            {"A", kAllInSize},
-                                                           {"100a", kAllInSize},
                                                            {"?!a", kAllInSize}};
   for (const auto& [token, size] : cases) EXPECT_EQ(parse_bet_size(token, true), size) << token;
 
@@ -73,28 +62,20 @@ TEST(BetSize, FaultsOfTokens) {
     return "invalid: Failed to parse integer from '" + text + "'";
   };
   faults::expect(in_bets, {{"", "invalid: Empty bet size token"},
-                           {" \t", "invalid: Empty bet size token"},
                            {"2x", "invalid: Relative raise (x) is not allowed in this context"},
-                           {"x", "invalid: Relative raise (x) is not allowed in this context"},
                            {"100c3r", "invalid: Raise cap is only valid for raises"},
                            {"100c", "none"}});
   faults::expect(in_raises, {{"1x", "invalid: Relative raise must exceed 1.0x"},
-                             {"0.5x", "invalid: Relative raise must exceed 1.0x"},
-                             {"-3x", "invalid: Relative raise must exceed 1.0x"},
                              {"nanx", "invalid: Relative raise must exceed 1.0x"},
                              {"x", no_double("", "")},
                              {"5c3c", "invalid: Raise cap must end with 'r'"},
                              {"100c0r", "invalid: Raise cap must be positive"},
                              {"100c-1r", "invalid: Raise cap must be positive"},
-                             {"100cr", no_int("")},
-                             {"c", no_int("")},
                              {"100r", no_int("100r")},
                              {"1.5c", no_int("1.5")},
                              {"3000000000c", "range: Integer value is out of range"},
                              {"0e", "invalid: Geometric streets must be positive"},
                              {"2%e", no_double("", "")},
-                             {"1.5e", no_int("1.5")},
-                             {"%", no_double("", "")},
                              {"5 %", no_double("5 ", "3520")},
                              {"33$", no_int("33$")}});
 }
@@ -112,17 +93,12 @@ TEST(BetSize, NormalForm) {
   };
   const std::vector<Case> cases{
       {"", "", "a"},
-      {",,,", "", "a"},
       {"33, 75", "33%,75%", "33%,75%,a"},
-      {"33%,75", "33%,75%", "33%,75%,a"},
       {"33 %", "33%", "33%,a"},
       {" 33 %, 2.5 x ,100 c,2\te", "33%,2.5x,100c,2e", "33%,2.5x,100c,2e,a"},
       {"a,33", "a,33%", "a,33%"},
-      {"A", "A", "A"},
       {"100a", "100a", "100a,a"},
-      {"2.5X, 100c3R, 2e", "2.5X,100c3R,2e", "2.5X,100c3R,2e,a"},
-      {"r", "r", "r,a"},
-      {".", ".%", ".%,a"}};
+      {"2.5X, 100c3R, 2e", "2.5X,100c3R,2e", "2.5X,100c3R,2e,a"}};
   for (const auto& c : cases) {
     EXPECT_EQ(normalize_sizing(c.text, false), c.plain) << c.text;
     EXPECT_EQ(normalize_sizing(c.text, true), c.with_all_in) << c.text;
@@ -134,14 +110,10 @@ TEST(BetSize, NormalForm) {
                   {"c", "invalid: Sizing: invalid token 'c'"},
                   {"33, E", "invalid: Sizing: invalid token 'E'"},
                   {"33, fifty", foreign("fifty")},
-                  {"33$", foreign("33$")},
-                  {"-5", foreign("-5")},
                   {"33;75", foreign("33;75")},
                   {"33 75 125", no_comma("33 75 125")},
                   {"50, 33% 75%", no_comma("33% 75%")},
-                  {"33 a", no_comma("33 a")},
-                  {"100c 3r", no_comma("100c 3r")},
-                  {"2\n.5x", no_comma("2\n.5x")}});
+                  {"100c 3r", no_comma("100c 3r")}});
 }
 
 TEST(BetSize, TheFaultOfATextNamesItsSize) {
@@ -174,67 +146,6 @@ TEST(BetSize, SizesOfAStreet) {
   sizing = parse_street_sizing_bare({"33", "", true, true}, ip);
   ASSERT_TRUE(sizing.donk.has_value());
   EXPECT_TRUE(sizing.donk->empty());
-}
-
-TEST(BetSize, FaultsOfAStreetNameTheSeat) {
-  const StreetSizingText good{"50", "3x", false, false};
-  const StreetSizingText relative{"33, 2x", "3x", true, false};
-  const StreetSizingText huge{"33", "3000000000c", false, false};
-  const StreetSizingText foreign{"%", "2", false, false};
-  const std::string percent_fault =
-      "invalid: Sizing: invalid token '%'. Use numbers like '33, 75' or '33%, 75%'";
-
-  EXPECT_EQ(faults::of([&] { parse_street_sizing("turn", relative, huge); }),
-            "invalid: OOP turn sizing (bet='33, 2x', raise='3x', bet_norm='33%,2x,a', "
-            "raise_norm='3x,a'): Relative raise (x) is not allowed in this context");
-  EXPECT_EQ(faults::of([&] { parse_street_sizing("river", good, huge); }),
-            "invalid: IP river sizing (bet='33', raise='3000000000c', bet_norm='33%', "
-            "raise_norm='3000000000c'): Integer value is out of range");
-  EXPECT_EQ(faults::of([&] { parse_street_sizing("flop", good, foreign); }), percent_fault);
-
-  EXPECT_EQ(faults::of([&] { parse_street_sizing_bare(relative, good); }),
-            "invalid: Relative raise (x) is not allowed in this context");
-  EXPECT_EQ(faults::of([&] { parse_street_sizing_bare(good, huge); }),
-            "range: Integer value is out of range");
-  EXPECT_EQ(faults::of([&] { parse_street_sizing_bare(good, foreign); }), percent_fault);
-}
-
-// A program that follows the user's locale may run where the decimal mark is a comma.
-TEST(BetSize, NumbersDoNotDependOnTheLocale) {
-  const std::string before = std::setlocale(LC_ALL, nullptr);
-  bool has_comma = false;
-  for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "ru_RU.UTF-8"}) {
-    if (std::setlocale(LC_ALL, name) == nullptr) continue;
-    has_comma = true;
-    EXPECT_EQ(parse_bet_size("2.5x", true), multiple(2.5));
-    EXPECT_NE(faults::of([] { parse_bet_size("2,5x", true); }), "none");
-    break;
-  }
-  std::setlocale(LC_ALL, before.c_str());
-  if (!has_comma) GTEST_SKIP() << "No locale with a decimal comma is installed";
-}
-
-TEST(BetSize, AnyTextIsReadOrRefused) {
-  std::mt19937 random(13);
-  const std::string alphabet = "0123456789%%,,..aceErxX -+$\xff";
-  int read = 0;
-  for (int i = 0; i < 50000; ++i) {
-    std::string text(random() % 10, ' ');
-    for (char& c : text) c = alphabet[random() % alphabet.size()];
-    const bool add_all_in = random() % 2 == 0;
-    ASSERT_TRUE(faults::allowed([&] { parse_bet_sizes(text, true); })) << text;
-    ASSERT_TRUE(faults::allowed([&] {
-      const std::string normal = normalize_sizing(text, add_all_in);
-      ASSERT_EQ(normalize_sizing(normal, add_all_in), normal) << text;
-      const auto sizes = parse_bet_sizes(normal, true);
-      ++read;
-      ASSERT_EQ(parse_bet_sizes(normalize_sizing(normal, false), true), sizes) << text;
-      for (const BetSize& size : sizes) {
-        ASSERT_TRUE(size.kind == BetSizeKind::kChips || size.chips == 0) << text;
-      }
-    })) << text;
-  }
-  EXPECT_GT(read, 5000);
 }
 
 }  // namespace

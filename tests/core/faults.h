@@ -37,9 +37,4 @@ void expect(Parse parse, const std::vector<Case>& cases) {
   }
 }
 
-/// True if the call returns or throws one of the two kinds that parsers may throw.
-inline bool allowed(const std::function<void()>& call) {
-  return of(call).rfind("other", 0) != 0;
-}
-
 }  // namespace faults

@@ -72,6 +72,7 @@ TEST(HandCategories, OfAPocketOnABoard) {
       {"AhKh9c4d7s", "4h3s", {"bottom pair"}},
       // Missed draws, told only of hands that add nothing to the board.
       {"As9d7d3h2c", "KdQd", {"missed FD"}},
+      {"As9d3h7d2c", "KdQd", {"missed FD"}},  // Drawn to from the turn on.
       {"As9d7d3hKc", "KdQd", {"middle pair"}},
       {"8s7h2c3dKs", "Td9c", {"missed OESD"}},
       {"8s7h2c3dKs", "JdTc", {"missed gutter"}},

@@ -17,16 +17,6 @@ namespace {
 
 using Seven = std::array<CardCode, 7>;
 
-Seven seven(std::string_view text) {
-  Seven cards{};
-  for (std::size_t i = 0; i < 7; ++i) cards[i] = parse_card(text.substr(2 * i, 2));
-  return cards;
-}
-
-HandStrength value(std::string_view text) {
-  return evaluate_seven(seven(text));
-}
-
 /// A five-card hand as a list that compares as hands do: the category, then the ranks by how often
 /// they occur and by height.
 std::vector<int> rank_five(const std::array<CardCode, 5>& cards) {
@@ -81,61 +71,6 @@ std::vector<int> best_of_21(const Seven& cards) {
     }
   }
   return best;
-}
-
-TEST(HandEval, KnownValues) {
-  struct Case {
-    std::string_view cards;
-    HandStrength category, primary, secondary;
-  };
-  const auto ranks = [](std::string_view chars) {
-    HandStrength mask = 0;
-    for (const char c : chars) mask |= 1U << rank_from_char(c);
-    return mask;
-  };
-  const std::vector<Case> cases{{"AdAhKsQs2c9h3d", 1, ranks("A"), ranks("KQ9")},
-                                {"AdKhQs9c7h3d2s", 0, ranks("AKQ97"), 0},
-                                {"AhAdKhKdQhQd2c", 2, ranks("AK"), ranks("Q")},
-                                {"AhAdKhKd9hQd2c", 2, ranks("AK"), ranks("Q")},
-                                {"7h7d7cKd9hQd2c", 3, ranks("7"), ranks("KQ")},
-                                {"AhAdAcKhKdKc2c", 6, ranks("A"), ranks("K")},
-                                {"2h2d2cKhKdQcQh", 6, ranks("2"), ranks("K")},
-                                {"2h2d2c2sKdKcQh", 7, ranks("2"), ranks("K")},
-                                {"2h2d2c2s3d3c3h", 7, ranks("2"), ranks("3")},
-                                {"Ah2d3c4s5dKcKh", 4, ranks("5"), 0},
-                                {"Ah2d3c4s5d6cKh", 4, ranks("6"), 0},
-                                {"AhKdQcJsTd9c8h", 4, ranks("A"), 0},
-                                {"KhAd2c3s4dQcJh", 0, ranks("AKQJ4"), 0},
-                                {"5h5d5c4s3d2cAh", 4, ranks("5"), 0},
-                                {"Ah2h3h4h5h6d7c", 8, ranks("5"), 0},
-                                {"AhKhQhJhThTd9c", 8, ranks("A"), 0},
-                                {"AhKhQhJh9h8h2c", 5, ranks("AKQJ9"), 0},
-                                {"9h8h7h6h2hTd5c", 5, ranks("98762"), 0},
-                                {"2h4h6h8hTh9d7c", 5, ranks("T8642"), 0}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(value(c.cards), (c.category << 26) | (c.primary << 13) | c.secondary) << c.cards;
-  }
-  EXPECT_EQ(value("AsKsQsJsTs2c3d"), 0x22000000U);
-  EXPECT_EQ(value("Ah2d3c4s5dTcTh"), 0x10010000U);
-  EXPECT_EQ(value("Ah2h3h4h5hTcTh"), 0x20010000U);
-  EXPECT_EQ(value("AhAdKcQsJd2c3h"), 0x6000E00U);
-}
-
-TEST(HandEval, FaultsAndCardOrder) {
-  const std::array<CardCode, 5> board{3, 9, 21, 34, 50};
-  const Pocket pocket = make_pocket(51, 0);
-  EXPECT_EQ(evaluate_hand(pocket, board), evaluate_seven(Seven{0, 51, 50, 34, 21, 9, 3}));
-  for (const std::size_t size : {0U, 3U, 4U}) {
-    EXPECT_EQ(faults::of([&] { evaluate_hand(pocket, std::span(board).first(size)); }),
-              "invalid: Board must contain exactly 5 cards for evaluation");
-  }
-  for (const int code : {52, 64, 255}) {
-    for (std::size_t i = 0; i < 7; ++i) {
-      Seven cards{0, 51, 50, 34, 21, 9, 3};
-      cards[i] = static_cast<CardCode>(code);
-      EXPECT_EQ(faults::of([&] { evaluate_seven(cards); }), "range: Card code must be in [0, 52)");
-    }
-  }
 }
 
 // Every comparison must come out as between the best five-card hands, ties included.

@@ -28,9 +28,7 @@ std::string shown(const std::string& text) {
 TEST(RangeEdit, AMatrixShowsWhatTheParserReads) {
   const std::map<std::string, std::string> cases{
       {"", ""},
-      {"AA:0.5, AA", "AA 1"},
       {"54s-76s", "54s 1,65s 1,76s 1"},
-      {"QJs+:0.25", "AKs 0.25,KQs 0.25,QJs 0.25"},
       // The mean over the combos of a class: 1 of 12, 2 of 4, 3 of 6.
       {"AhKd", "AKo 0.083333"},
       {"AhKh, AsKs", "AKs 0.5"},
@@ -67,8 +65,6 @@ TEST(RangeEdit, PaintingAHand) {
   const std::vector<Case> adding{{"", "88", 1, "88"},
                                  {"AA", "88", 0.5, "AA, 88:0.5"},
                                  {"AA", "88", 0.33333, "AA, 88:0.333"},
-                                 {"AA", "88", 0.9995, "AA, 88"},
-                                 {"AA", "88", 0.02, "AA, 88:0.02"},
                                  {"AA KK\tQQ,,JJ : 0.5", "88", 1, "AA, KK, QQ, JJ:0.5, 88"},
                                  {"AA, K", "88", 1, "AA, K, 88"},
                                  {"0%", "AKs", 0.5, "AKs:0.5"}};
@@ -100,8 +96,6 @@ TEST(RangeEdit, AFaultNamesItsToken) {
       {"AA, 99-22, 50%", "'50%': Invalid rank character"},
       {"AA, KKs, K", "'KKs': Pair cannot have suitedness suffix"},
       {"AA:x", "'AA:x': Weight must be a number from 0 to 1"},
-      {"AA:50%", "'AA:50%': Weight must be a number from 0 to 1"},
-      {"AA:1e99", "'AA:1e99': Weight must be a number from 0 to 1"},
       {"AA:2", "'AA:2': Weight must be within [0, 1]"},
       {"120%", "'120%': Weight must be within [0, 1]"},
       {"100%", ""},

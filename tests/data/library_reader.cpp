@@ -61,8 +61,4 @@ bool within(const PocketWeights& part, const PocketWeights& whole) {
   return true;
 }
 
-double weight_of(const PocketWeights& weights, std::string_view label) {
-  return weights[expand_pattern(parse_combo_pattern(label)).front()];
-}
-
 }  // namespace velmora

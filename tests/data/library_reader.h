@@ -46,7 +46,5 @@ double percent(const PocketWeights& weights);
 PocketWeights sum(const PocketWeights& a, const PocketWeights& b);
 /// True if no pocket has more in `part` than in `whole`, up to the last decimal that is written.
 bool within(const PocketWeights& part, const PocketWeights& whole);
-/// Weight of a class such as "AKs", whose pockets all have the same.
-double weight_of(const PocketWeights& weights, std::string_view label);
 
 }  // namespace velmora

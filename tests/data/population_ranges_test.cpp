@@ -1,10 +1,7 @@
 // What must hold of the ranges of typical players.
-#include <cmath>
-#include <set>
 
 #include <QDateTime>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "library_reader.h"
@@ -12,30 +9,19 @@
 namespace velmora {
 namespace {
 
-using ::testing::AllOf;
-using ::testing::Ge;
-using ::testing::Le;
-
 using Names = std::vector<std::string>;
 
 const std::string kPassive = "Passive (VPIP 18–65) / ";
 const std::string kAggressive = "Loose aggressive (VPIP 28–70) / ";
 const std::string kNit = "Overfolder (10-22 VPIP) / Nit";
 
-struct Archetype {
-  std::string path;
-  double least_vpip;
-  double most_vpip;
-};
-const std::vector<Archetype> kArchetypes{
-    {kPassive + "Passive tight (VPIP 18–25)", 18, 25},
-    {kPassive + "Passive neutral (VPIP 25–35)", 25, 35},
-    {kPassive + "Passive loose (VPIP 35–45)", 35, 45},
-    {kPassive + "Extreme loose (VPIP 45–65)", 45, 65},
-    {kAggressive + "Standard LAG (VPIP 28–40)", 28, 40},
-    {kAggressive + "Maniac (VPIP 45–70)", 45, 70},
-    {kNit, 10, 22},
-};
+const Names kArchetypes{kPassive + "Passive tight (VPIP 18–25)",
+                        kPassive + "Passive neutral (VPIP 25–35)",
+                        kPassive + "Passive loose (VPIP 35–45)",
+                        kPassive + "Extreme loose (VPIP 45–65)",
+                        kAggressive + "Standard LAG (VPIP 28–40)",
+                        kAggressive + "Maniac (VPIP 45–70)",
+                        kNit};
 
 const LibraryRows& rows_of(const std::string& seat) {
   static const LibraryRows oop = population_rows("oop");
@@ -48,62 +34,6 @@ PocketWeights range(const std::string& seat, const std::string& name) {
   const auto& rows = rows_of(seat);
   const auto found = std::ranges::find(rows, name, &LibraryRows::value_type::first);
   return found == rows.end() ? PocketWeights{} : parse_range_text(found->second);
-}
-
-Names with_prefix(const std::string& prefix, const Names& leaves) {
-  Names names;
-  for (const std::string& leaf : leaves) names.push_back(prefix + " / " + leaf);
-  return names;
-}
-
-/// The leaves of an archetype in the order of the tree.
-Names leaves_of(const std::string& path, const std::string& seat) {
-  const bool passive = path.starts_with(kPassive);
-  const bool aggressive = path.starts_with(kAggressive);
-  const bool oop = seat == "oop";
-  Names names;
-  const auto add = [&](const std::string& position, const Names& leaves) {
-    for (const std::string& name : with_prefix(path + " / " + position, leaves))
-      names.push_back(name);
-  };
-  if (oop) {
-    add("UTG/HJ/CO", passive ? Names{"Limp", "Limp-call", "Limp-3b", "RFI", "Call 3b", "4b"}
-                             : Names{"RFI", "Call 3b", "4b"});
-    add("SB", passive ? Names{"Limp", "Limp-3b", "RFI", "3b", "4b", "Call 3b", "Call 4b"}
-                      : Names{"RFI", "3b", "4b", "Call 3b", "Call 4b"});
-    add("BB", aggressive ? Names{"Call raise", "3b", "Call 4b"}
-                         : Names{"Check back", "Call raise", "3b", "Call 4b"});
-  } else {
-    for (const char* position : {"UTG/HJ/CO", "BU"}) {
-      add(position,
-          passive ? Names{"Limp", "Limp-call", "Limp-3b", "RFI", "3b", "Call 3b", "4b", "Call 4b"}
-                  : Names{"RFI", "3b", "Call 3b", "4b", "Call 4b"});
-    }
-    add("BB", aggressive ? Names{"Call", "3b"} : Names{"Call raise", "3b", "Call 4b"});
-  }
-  if (passive) names.push_back(path + " / 3b cold call");
-  return names;
-}
-
-/// The folders below a rake level in which a scenario of the standard charts stands, and its leaf.
-std::string place_of(const std::string& scenario) {
-  if (scenario.starts_with("RFI ")) return "RFI / " + scenario.substr(4);
-  const std::size_t colon = scenario.find(": ");
-  const std::string spot = scenario.substr(0, colon);
-  const std::string leaf = scenario.substr(colon + 2);
-  if (spot.starts_with("vs RFI ")) return "vs RFI / vs " + spot.substr(7) + " RFI / " + leaf;
-  const bool four_bet = spot.find("3bet vs") != std::string::npos;
-  return (four_bet ? "vs 4bet / " : "vs 3bet / ") + spot + " / " + leaf;
-}
-
-/// Scenarios of the charts for six players without rake, with their ranges.
-LibraryRows unraked(const std::string& seat) {
-  const std::string prefix = "No rake / ";
-  LibraryRows rows;
-  for (const auto& [name, text] : standard_rows(seat.c_str())) {
-    if (name.starts_with(prefix)) rows.emplace_back(name.substr(prefix.size()), text);
-  }
-  return rows;
 }
 
 TEST(PopulationRanges, AreAnExportOfBothSeats) {
@@ -119,62 +49,14 @@ TEST(PopulationRanges, AreAnExportOfBothSeats) {
   EXPECT_EQ(rows_of("ip").size(), 202);
 }
 
-TEST(PopulationRanges, HoldEveryLeafOfTheTreeAndNoEmptyOne) {
-  for (const std::string seat : {"oop", "ip"}) {
-    Names expected;
-    const auto add = [&](const Names& names) {
-      expected.insert(expected.end(), names.begin(), names.end());
-    };
-    for (const Archetype& archetype : kArchetypes) {
-      if (archetype.path == kNit) {
-        for (const char* regular : {"Tighter reg", "Looser reg"}) {
-          for (const auto& row : unraked(seat)) {
-            add({std::string("Weaker regs / ") + regular + " / " + place_of(row.first)});
-          }
-        }
-      }
-      add(leaves_of(archetype.path, seat));
-    }
-    add({"Other / Bomb pot"});
-    Names names;
-    for (const auto& [name, text] : rows_of(seat)) {
-      names.push_back(name);
-      EXPECT_GT(percent(parse_range_text(text)), 0) << name;
-    }
-    EXPECT_THAT(names, ::testing::ElementsAreArray(expected)) << seat;
-    EXPECT_EQ(rows_of(seat).back().second, "100%");
-  }
-}
-
-TEST(PopulationRanges, PlayAsManyHandsAsTheirFolderSays) {
-  for (const std::string seat : {"oop", "ip"}) {
-    for (const Archetype& archetype : kArchetypes) {
-      const auto played = [&](const std::string& position, const Names& ways) {
-        double hands = 0;
-        for (const std::string& name : with_prefix(archetype.path + " / " + position, ways)) {
-          hands += percent(range(seat, name));
-        }
-        return hands;
-      };
-      // Three of five seats share the first folder. The big blind is counted against a raise.
-      const double early = played("UTG/HJ/CO", {"Limp", "RFI"});
-      const double late = played(seat == "oop" ? "SB" : "BU", {"Limp", "RFI"});
-      const double blind = played("BB", {"Call raise", "Call", "3b"});
-      EXPECT_THAT((3 * early + late + blind) / 5,
-                  AllOf(Ge(archetype.least_vpip), Le(archetype.most_vpip)))
-          << seat << " " << archetype.path;
-      EXPECT_GT(late, early) << seat << " " << archetype.path;
-    }
-  }
-}
-
 TEST(PopulationRanges, NoHandDoesMoreThanItCan) {
   PocketWeights always{};
   always.fill(1);
   for (const std::string seat : {"oop", "ip"}) {
-    for (const Archetype& archetype : kArchetypes) {
+    for (const std::string& archetype : kArchetypes) {
+      EXPECT_GT(percent(range(seat, archetype + " / UTG/HJ/CO / RFI")), 0) << archetype;
       for (const char* position : {"UTG/HJ/CO", "BU", "SB", "BB"}) {
-        const std::string path = archetype.path + " / " + position + " / ";
+        const std::string path = archetype + " / " + position + " / ";
         const auto leaf = [&](const char* name) { return range(seat, path + name); };
         EXPECT_TRUE(within(sum(leaf("Limp"), leaf("RFI")), always)) << path;
         EXPECT_TRUE(within(sum(leaf("Limp-call"), leaf("Limp-3b")), leaf("Limp"))) << path;
@@ -188,25 +70,6 @@ TEST(PopulationRanges, NoHandDoesMoreThanItCan) {
   const PocketWeights trap =
       range("oop", kPassive + "Passive tight (VPIP 18–25) / UTG/HJ/CO / Limp-3b");
   EXPECT_EQ(trap, parse_range("QQ:0.5, AKo:0.5, AKs:0.5, KK:0.5, AA:0.5"));
-}
-
-TEST(PopulationRanges, RegularsAreTighterAndLooserThanTheCharts) {
-  const std::string tighter = "Weaker regs / Tighter reg / ";
-  const std::string looser = "Weaker regs / Looser reg / ";
-  for (const std::string seat : {"oop", "ip"}) {
-    const Ranges charts(unraked(seat));
-    for (const auto& [scenario, chart] : charts) {
-      // Weights move in steps of 0.05.
-      const double low = percent(range(seat, tighter + place_of(scenario)));
-      const double high = percent(range(seat, looser + place_of(scenario)));
-      EXPECT_LT(low, percent(chart) + 0.1) << seat << " " << scenario;
-      EXPECT_GT(high, percent(chart) - 0.1) << seat << " " << scenario;
-      EXPECT_GE(high, low) << seat << " " << scenario;
-      if (scenario.starts_with("RFI ")) {
-        EXPECT_GT(high, low + 2) << seat << " " << scenario;
-      }
-    }
-  }
 }
 
 }  // namespace

@@ -1,6 +1,4 @@
 // What must hold of equilibrium charts, whatever model they come from.
-#include <regex>
-#include <set>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,7 +10,6 @@ namespace {
 
 using ::testing::AllOf;
 using ::testing::Ge;
-using ::testing::Gt;
 using ::testing::Le;
 
 using Names = std::vector<std::string>;
@@ -80,49 +77,11 @@ std::string name_of(const Spot& spot) {
   return spot.prefix + spot.opener + " against " + spot.caller;
 }
 
-TEST(StandardRanges, HoldEveryRowOnceUnderItsName) {
+TEST(StandardRanges, HoldEveryRowOnce) {
   for (const char* seat : kSeats) {
-    std::set<std::string> expected;
-    for (const Spot& spot : all_spots()) {
-      const bool two_players = spot.prefix.starts_with("Heads up");
-      if (!two_players || spot.opener_seat == seat)
-        expected.insert(spot.prefix + "RFI " + spot.opener);
-      if (spot.caller_seat == seat) {
-        const std::string answer = spot.prefix + "vs RFI " + spot.opener + ": ";
-        expected.insert(answer + "Call " + spot.caller);
-        expected.insert(answer + "3bet " + spot.caller);
-        expected.insert(spot.prefix + spot.caller + " 3bet vs " + spot.opener +
-                        " 4bet: " + spot.caller + " Call");
-      } else {
-        const std::string answer = spot.prefix + spot.opener + " vs " + spot.caller + " 3bet: ";
-        expected.insert(answer + spot.opener + " Call");
-        expected.insert(answer + spot.opener + " 4bet");
-      }
-    }
-    Names names;
-    for (const auto& row : rows_of(seat)) names.push_back(row.first);
-    EXPECT_THAT(names, ::testing::UnorderedElementsAreArray(expected));
-  }
-  EXPECT_EQ(rows_of("oop").size(), 230);
-  EXPECT_EQ(rows_of("ip").size(), 225);
-}
-
-TEST(StandardRanges, AreWrittenAsOneLabelAToken) {
-  const std::regex token("[2-9TJQKA]{2}[so]?(:0\\.\\d{1,4})?");
-  for (const char* seat : kSeats) {
-    for (const auto& [name, text] : rows_of(seat)) {
-      ASSERT_FALSE(text.empty()) << name;
-      std::set<std::string> labels;
-      for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t end = std::min(text.find(", ", begin), text.size());
-        const std::string piece = text.substr(begin, end - begin);
-        EXPECT_TRUE(std::regex_match(piece, token)) << name << ": " << piece;
-        EXPECT_TRUE(labels.insert(piece.substr(0, piece.find(':'))).second)
-            << name << ": " << piece;
-        begin = end + 2;
-      }
-      EXPECT_GT(percent(parse_range(text)), 0) << name;
-    }
+    const auto rows = static_cast<std::ptrdiff_t>(rows_of(seat).size());
+    EXPECT_EQ(rows, std::string_view(seat) == "oop" ? 230 : 225);
+    EXPECT_EQ(std::distance(ranges_of(seat).begin(), ranges_of(seat).end()), rows);  // By name.
   }
 }
 
@@ -147,26 +106,6 @@ TEST(StandardRanges, OpensWidenTowardsTheButton) {
   }
 }
 
-TEST(StandardRanges, BetterHandsOpenAtLeastAsOften) {
-  constexpr std::string_view kRanks = "AKQJT98765432";
-  for (const Spot& spot : all_spots()) {
-    const PocketWeights& open = spot.open();
-    EXPECT_EQ(weight_of(open, "AA"), 1) << name_of(spot);
-    for (std::size_t high = 0; high < kRanks.size(); ++high) {
-      if (high > 0) {
-        EXPECT_GE(weight_of(open, std::string(2, kRanks[high - 1])),
-                  weight_of(open, std::string(2, kRanks[high])))
-            << name_of(spot);
-      }
-      for (std::size_t low = high + 1; low < kRanks.size(); ++low) {
-        const std::string ranks{kRanks[high], kRanks[low]};
-        EXPECT_GE(weight_of(open, ranks + "s"), weight_of(open, ranks + "o"))
-            << name_of(spot) << " " << ranks;
-      }
-    }
-  }
-}
-
 TEST(StandardRanges, NoHandDoesMoreThanItCan) {
   PocketWeights always{};
   always.fill(1);
@@ -175,86 +114,6 @@ TEST(StandardRanges, NoHandDoesMoreThanItCan) {
     EXPECT_TRUE(within(sum(spot.vs_three_bet("Call"), spot.vs_three_bet("4bet")), spot.open()))
         << name_of(spot);
     EXPECT_TRUE(within(spot.vs_four_bet(), spot.answer("3bet"))) << name_of(spot);
-  }
-}
-
-TEST(StandardRanges, BigPairsAreNotFoldedToARaise) {
-  for (const Spot& spot : all_spots()) {
-    for (const char* pair : {"AA", "KK", "QQ"}) {
-      const auto together = [&](const PocketWeights& a, const PocketWeights& b) {
-        return weight_of(a, pair) + weight_of(b, pair);
-      };
-      EXPECT_NEAR(together(spot.answer("Call"), spot.answer("3bet")), 1, 0.0051)
-          << name_of(spot) << " " << pair;
-      EXPECT_NEAR(together(spot.vs_three_bet("Call"), spot.vs_three_bet("4bet")), 1, 0.0051)
-          << name_of(spot) << " " << pair;
-    }
-  }
-}
-
-TEST(StandardRanges, ThreeBetsAndFourBetsHaveThePlausibleSize) {
-  for (const Spot& spot : all_spots()) {
-    // The small blind opens so wide against one player that all that follows is wide.
-    const bool blinds = spot.opener == "SB";
-    const double four_bets = percent(spot.vs_three_bet("4bet"));
-    EXPECT_THAT(percent(spot.answer("3bet")), AllOf(Ge(4), Le(blinds ? 28 : 15))) << name_of(spot);
-    EXPECT_THAT(four_bets, AllOf(Ge(1), Le(blinds ? 10 : 6))) << name_of(spot);
-    EXPECT_LT(four_bets, 0.25 * percent(spot.open())) << name_of(spot);
-    EXPECT_LT(percent(spot.vs_three_bet("Call")), 0.5 * percent(spot.open())) << name_of(spot);
-  }
-  for (const std::string& rake : kRakeLevels) {
-    const Spot big_blind{rake + " / ", "BTN", "BB", "ip", "oop"};
-    EXPECT_THAT(percent(big_blind.answer("Call")) + percent(big_blind.answer("3bet")),
-                AllOf(Ge(30), Le(50)))
-        << rake;
-  }
-}
-
-TEST(StandardRanges, MoreRakeMeansTighterCalls) {
-  // The smaller the blinds, the more big blinds the house takes.
-  const Names by_rake{"No rake", "500nl rake", "200nl rake", "100nl rake", "50nl rake"};
-  for (std::size_t spot = 0; spot < six_max_spots("").size(); ++spot) {
-    const auto called = [&](const std::string& rake) {
-      return percent(six_max_spots(rake)[spot].answer("Call"));
-    };
-    EXPECT_GT(called("No rake"), called("500nl rake")) << name_of(six_max_spots("")[spot]);
-    EXPECT_GT(called("500nl rake"), called("50nl rake")) << name_of(six_max_spots("")[spot]);
-  }
-  const auto all_calls = [](const std::string& rake) {
-    double calls = 0;
-    for (const Spot& spot : six_max_spots(rake)) calls += percent(spot.answer("Call"));
-    return calls;
-  };
-  const auto heads_up_calls = [](const std::string& rake) {
-    return percent(Spot{"Heads up / " + rake + " / ", "SB", "BB", "ip", "oop"}.answer("Call"));
-  };
-  for (std::size_t level = 1; level < by_rake.size(); ++level) {
-    EXPECT_LT(all_calls(by_rake[level]), all_calls(by_rake[level - 1])) << by_rake[level];
-    EXPECT_LT(heads_up_calls(by_rake[level]), heads_up_calls(by_rake[level - 1])) << by_rake[level];
-  }
-}
-
-TEST(StandardRanges, CallersHoldHandsThatPlayWell) {
-  // Against a random hand each hand on the left has less equity than the one on the right.
-  const std::pair<const char*, const char*> better_to_play[] = {{"54s", "K4o"}, {"65s", "Q7o"},
-                                                                {"76s", "K5o"}, {"87s", "K6o"},
-                                                                {"22", "K6o"},  {"T8s", "Q8o"}};
-  for (const Spot& spot : all_spots()) {
-    if (spot.caller != "BB") continue;
-    const PocketWeights defended = sum(spot.answer("Call"), spot.answer("3bet"));
-    for (const auto& [left, right] : better_to_play) {
-      EXPECT_GE(weight_of(defended, left), weight_of(defended, right))
-          << name_of(spot) << " " << left << " " << right;
-    }
-    PocketWeights suited{};
-    PocketWeights offsuit{};
-    for (std::size_t i = 0; i < kNumPockets; ++i) {
-      const auto [a, b] = pocket_cards(i);
-      if (rank_of(a) == rank_of(b)) continue;
-      (suit_of(a) == suit_of(b) ? suited : offsuit)[i] = spot.answer("Call")[i];
-    }
-    // 78 kinds of suited hands make 312 pockets, as many offsuit kinds make 936.
-    EXPECT_GT(percent(suited) / 312, 1.3 * percent(offsuit) / 936) << name_of(spot);
   }
 }
 

@@ -12,7 +12,7 @@
 #include "fuzz_support.h"
 #include "project_reader.h"
 #include "project_writer.h"
-#include "results/result_queries.h"
+#include "results/node_answers.h"
 
 namespace {
 
@@ -36,22 +36,21 @@ void check_against(const Project& project, const QJsonObject& file) {
 }
 
 /// Asks all that a page asks of a loaded project.
-void walk(const Project& project) {
-  ResultQueries queries([] { return velmora_app::SolvedSpot(); }, project.tree);
-  queries.caches() = project.caches;
+void walk(Project project) {
+  NodeAnswers answers(project);
   for (int node = -1; node <= project.tree.nodeCount(); ++node) {
     project.tree.meta(node);
     project.tree.actions(node);
-    queries.askAll(node);
+    project.caches.store(node, answers.source().complete(node, project.caches.answer(node)));
     for (const char* category : {"", "air"}) {
-      const QVariantMap grid = queries.nodeHandStrategyReach169(node, category);
+      const QVariantMap grid = answers.nodeHandStrategyReach169(node, category);
       for (const QVariant& weight : grid["weights"].toMap()) {
         fuzz::check(!std::isnan(weight.toDouble()), "weights are numbers");
       }
     }
-    for (const QVariant& combo : queries.nodeSeatHandCombos(node, "OOP")) {
+    for (const QVariant& combo : answers.nodeSeatHandCombos(node, "OOP")) {
       const QVariantMap hand = combo.toMap();
-      queries.nodePocketActionEvs(node, "IP", hand["c1"].toString(), hand["c2"].toString());
+      answers.nodePocketActionEvs(node, "IP", hand["c1"].toString(), hand["c2"].toString());
     }
   }
   for (const velmora_app::NodeLockEntry& lock : project.nodeLocks.entries()) {

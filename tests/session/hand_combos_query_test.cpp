@@ -194,31 +194,6 @@ TEST(HandCombosQuery, MeetsNobodyExactly) {
   }
 }
 
-/// The tree in which equal suits are folded gives the figures of the one in which they are not.
-TEST(HandCombosQuery, SuitFoldingChangesNothing) {
-  const velmora_test::Spot spot{.board = "AhKh7h2s",
-                                .oop_range = "AA,QJs",
-                                .ip_range = "KK,87s",
-                                .sizes = {{{}, {"50", ""}, {"a", ""}}}};
-  // A few iterations: later a rounding can decide between two actions that are worth the same.
-  const SolvedSpot folded = solved(spot, velmora::SuitFolding::kOn, 5);
-  const SolvedSpot plain = solved(spot, velmora::SuitFolding::kOff, 5);
-  ASSERT_LT(folded.game->nodes().size(), plain.game->nodes().size());
-  for (const Path& path : {Path{0}, Path{0, 1}, Path{1, 1, kFirstCard}}) {
-    ActionValues values;
-    const auto a = query_hand_combos(folded, follow(folded, path), values);
-    const auto b = query_hand_combos(plain, follow(plain, path), values);
-    ASSERT_TRUE(a.ok && b.ok);
-    std::map<std::string, const HandCombo*> by_hand;
-    for (const HandCombo& combo : b.combos) by_hand[combo.c1 + combo.c2] = &combo;
-    for (const HandCombo& combo : a.combos) {
-      const HandCombo& twin = *by_hand.at(combo.c1 + combo.c2);
-      EXPECT_NEAR(combo.ev, twin.ev, 0.05) << combo.c1 << combo.c2;
-      EXPECT_NEAR(combo.weight, twin.weight, 1e-3);
-    }
-  }
-}
-
 TEST(HandCombosQuery, FindsPathsWithoutATable) {
   const SolvedSpot spot = solved(query_cases()[1].spot, velmora::SuitFolding::kOn, 0);
   EXPECT_THAT(path_to(*spot.game, 0), IsEmpty());

@@ -49,6 +49,7 @@ TEST(MemoryEstimate, IsThatOfTheBuiltGame) {
       ++decisions;
       cells += node.actions.size() * game->num_hands(node.seat);
     }
+    std::uint64_t plain_peak = 0;
     for (const bool compressed : {false, true}) {
       config.compressed_storage = compressed;
       config.node_locks = {{12345678, "AA", 9, 1}};
@@ -64,6 +65,8 @@ TEST(MemoryEstimate, IsThatOfTheBuiltGame) {
       EXPECT_EQ(found->state_bytes, cells * (compressed ? 4 : 8));
       EXPECT_EQ(found->tree_bytes, game->nodes().size() * 72 + entries * 8);
       EXPECT_EQ(found->context_bytes, game->cards().memory_bytes());
+      if (!compressed) plain_peak = found->peak_bytes;
+      EXPECT_GE(plain_peak, found->peak_bytes + (compressed ? cells * 4 : 0));
       const std::uint64_t sum = found->tree_bytes + found->context_bytes + found->state_bytes;
       EXPECT_EQ(found->total_bytes, static_cast<std::uint64_t>(static_cast<double>(sum) * 1.1));
     }
@@ -78,18 +81,8 @@ TEST(MemoryEstimate, FaultsAreBareTexts) {
   const Case cases[] = {
       {[](SolveConfig& c) { c.board = "AhKd7"; },
        "Board must include at least a flop (6 chars, e.g. AhKsQd)"},
-      {[](SolveConfig& c) { c.board = "AhKd7cAh"; }, "Turn conflicts with flop"},
-      {[](SolveConfig& c) { c.ip_range = "AKx"; }, "Invalid suitedness suffix"},
-      {[](SolveConfig& c) { c.oop_range = ""; }, "Player range empty after filtering board cards"},
       {[](SolveConfig& c) { c.oop_flop.bet_sizes = "2x"; },
        "Relative raise (x) is not allowed in this context"},
-      {[](SolveConfig& c) { c.ip_river.raise_sizes = "5c3c"; }, "Raise cap must end with 'r'"},
-      {[](SolveConfig& c) { c.ip_turn.bet_sizes = "e"; }, "Sizing: invalid token 'e'"},
-      {[](SolveConfig& c) {
-         c.effective_stack = 100000;
-         c.oop_river = c.ip_river = {.bet_sizes = "1c", .raise_sizes = "1c"};
-       },
-       "Betting tree is too deep"},
   };
   for (const Case& c : cases) {
     SolveConfig config = river_request();
@@ -98,21 +91,6 @@ TEST(MemoryEstimate, FaultsAreBareTexts) {
     EXPECT_FALSE(estimate_memory(config, error)) << c.error;
     EXPECT_EQ(error, c.error);
   }
-}
-
-/// A spot that no machine could hold is told by its figures, not by a fault.
-TEST(MemoryEstimate, CoversSpotsBeyondAnyMachine) {
-  SolveConfig config = flop_request();
-  config.board = "AhKd7c";
-  config.effective_stack = 10000;
-  config.oop_flop = config.ip_flop = config.oop_turn = config.ip_turn = config.oop_river =
-      config.ip_river = {.bet_sizes = "10,20,33,50,75,100,150", .raise_sizes = "2x,3x,4x"};
-  std::string error;
-  const std::optional<MemoryEstimate> found = estimate_memory(config, error);
-  ASSERT_TRUE(found) << error;
-  EXPECT_GT(found->node_count, std::uint64_t{1} << 32);
-  EXPECT_GT(found->tree_bytes, found->node_count * 72);
-  EXPECT_GT(found->total_bytes, found->tree_bytes);
 }
 
 /// Where even counting would take too long, what was counted is a lower bound; nothing is built.

@@ -109,20 +109,8 @@ TEST(SolveSession, FaultsEndARunWithTheirText) {
   const std::string too_small = "The weights of the two ranges are too small to solve";
   const Case cases[] = {
       {[](SolveConfig& c) { c = {}; }, short_board},
-      {[](SolveConfig& c) { c.board = "AhKd7"; }, short_board},
-      {[](SolveConfig& c) { c.board = "AhKd7x2s"; }, "Invalid suit character"},
-      {[](SolveConfig& c) { c.board = "AhKd1c2s"; }, "Invalid rank character"},
-      {[](SolveConfig& c) { c.board = "AhKdAh"; }, "Flop cards must be unique"},
-      {[](SolveConfig& c) { c.board = "Ah Kd 7c"; },
-       "Flop string must contain exactly three cards"},
       {[](SolveConfig& c) { c.board = "AhKd7cKd"; }, "Turn conflicts with flop", 2},
-      {[](SolveConfig& c) { c.board = "AhKd7c2s2s"; }, "River conflicts with existing cards", 2},
       // The board comes before the ranges, OOP before IP, the ranges before the sizes.
-      {[](SolveConfig& c) {
-         c.board = "";
-         c.oop_range = "XX";
-       },
-       short_board},
       {[](SolveConfig& c) {
          c.oop_range = "AKx";
          c.ip_range = "KA";
@@ -133,12 +121,6 @@ TEST(SolveSession, FaultsEndARunWithTheirText) {
          c.oop_river.bet_sizes = "%";
        },
        "First rank must be >= second rank"},
-      {[](SolveConfig& c) { c.ip_range = "AA:1.5"; }, "Weight must be within [0, 1]"},
-      {[](SolveConfig& c) { c.ip_range = "..%"; },
-       "Invalid percent range '..%' (expected like '50%')"},
-      {[](SolveConfig& c) { c.oop_range = "AsAhAd"; }, "Invalid combo pattern length"},
-      {[](SolveConfig& c) { c.oop_range = ""; }, "Player range empty after filtering board cards",
-       2},
       {[](SolveConfig& c) { c.ip_range = "AhKd"; },
        "Player range empty after filtering board cards", 2},
       // Ranges that can't meet on the board, and those that hardly ever do.
@@ -147,52 +129,19 @@ TEST(SolveSession, FaultsEndARunWithTheirText) {
          c.ip_range = "AsJs,AsTs";
        },
        never_meet, 2},
-      {[&](SolveConfig& c) {
-         c.oop_range = "QsQc,AhAc";
-         c.ip_range = "QsQc,AsQc";
-       },
-       never_meet, 2},
       {[&](SolveConfig& c) { c.oop_range = c.ip_range = "QQ:1e-30"; }, too_small, 2},
-      {[&](SolveConfig& c) {
-         c.oop_range = "QsQc,8h8s:1e-30";
-         c.ip_range = "QsQc";
-       },
-       too_small, 2},
       {[](SolveConfig& c) { c.rake_percent = std::nan(""); },
        "The rake must be from 0% to 100% of the pot"},
-      {[](SolveConfig& c) { c.rake_cap = HUGE_VAL; }, "The rake cap must be 0 chips or more"},
       // Sizes of all streets are read, also of those that the board has left behind.
       {[](SolveConfig& c) { c.oop_flop.bet_sizes = "2x"; },
        "OOP flop sizing (bet='2x', raise='', bet_norm='2x', raise_norm=''): "
        "Relative raise (x) is not allowed in this context"},
-      {[](SolveConfig& c) {
-         c.ip_turn = {"33", "0.5x", true, false};
-       },
-       "IP turn sizing (bet='33', raise='0.5x', bet_norm='33%,a', raise_norm='0.5x,a'): "
-       "Relative raise must exceed 1.0x"},
       {[](SolveConfig& c) {
          c.ip_river.raise_sizes = "5c3c";
          c.oop_river.raise_sizes = "1c0r";
        },
        "OOP river sizing (bet='50, a', raise='1c0r', bet_norm='50%,a', raise_norm='1c0r'): "
        "Raise cap must be positive"},
-      {[](SolveConfig& c) { c.oop_river.bet_sizes = "%"; },
-       "Sizing: invalid token '%'. Use numbers like '33, 75' or '33%, 75%'"},
-      {[](SolveConfig& c) { c.ip_flop.raise_sizes = "33,x"; }, "Sizing: invalid token 'x'"},
-      // Trees that nobody could hold.
-      {[](SolveConfig& c) {
-         c.effective_stack = 100000;
-         c.oop_river = c.ip_river = {.bet_sizes = "1c", .raise_sizes = "1c"};
-       },
-       "Betting tree is too deep", 2},
-      {[](SolveConfig& c) {
-         c.board = "AhKd7c";
-         c.starting_street = "flop";
-         c.effective_stack = 10000;
-         c.oop_flop = c.ip_flop = c.oop_turn = c.ip_turn = c.oop_river =
-             c.ip_river = {.bet_sizes = "10,20,33,50,75,100,150", .raise_sizes = "2x,3x,4x"};
-       },
-       "Not enough memory: this solve needs ", 2},
   };
   SolveSession session;
   for (const Case& c : cases) {
@@ -346,6 +295,7 @@ TEST(SolveSession, StopKeepsWhatIsThere) {
     config.max_iterations = c.iterations;
     SolveSession other;
     const SolveResult whole = result_of(other, config);
+    ASSERT_TRUE(whole.success) << whole.error;
     EXPECT_EQ(result.iterations, c.iterations);
     EXPECT_GT(result.exploitability, 0);
     EXPECT_EQ(result.exploitability, whole.exploitability);
@@ -369,27 +319,6 @@ TEST(SolveSession, StopKeepsWhatIsThere) {
   EXPECT_EQ(ended("Iter 3 |", false), "Done");
   EXPECT_EQ(ended("Finalizing: computing", false), "Done");
   EXPECT_TRUE(result_of(session, river_request()).success);
-}
-
-/// The free hands of a locked node never learn, so this solve has a limit above its target.
-TEST(SolveSession, ASolveThatLocksHoldUpEnds) {
-  SolveConfig config = river_request();
-  config.max_iterations = kForever;
-  config.node_locks = {{0, "AA", 0, 1}};
-  SolveSession session;
-  const SolveResult locked = result_of(session, config);
-  EXPECT_TRUE(locked.success);
-  EXPECT_TRUE(locked.stalled);
-  EXPECT_GT(locked.exploitability, 1);
-  EXPECT_LT(locked.iterations, 5000U);
-  EXPECT_FALSE(is_empty(session.solved_spot()));
-
-  // Without locks the limit ends it, however long nothing falls.
-  config.node_locks.clear();
-  config.max_iterations = 5000;
-  const SolveResult free = result_of(session, config);
-  EXPECT_FALSE(free.stalled);
-  EXPECT_EQ(free.iterations, 5000U);
 }
 
 TEST(SolveSession, OneRunAtATime) {
@@ -482,13 +411,6 @@ TEST(SolveSession, ResultsLiveAsLongAsTheyAreRead) {
   EXPECT_TRUE(dropped);
   EXPECT_NE(old_game, nullptr);
   EXPECT_EQ(held.solver->cf_values(*held.game)[1], result.ev_ip);
-}
-
-TEST(SolveSession, RunsWithoutACallback) {
-  SolveSession session;
-  ASSERT_TRUE(session.start(river_request(), {}));
-  while (session.running()) std::this_thread::yield();
-  EXPECT_FALSE(is_empty(session.solved_spot()));
 }
 
 }  // namespace

@@ -182,43 +182,26 @@ TEST(StrategyQueries, ActionStatisticsAgreeWithSumsOverPairs) {
   }
 }
 
-/// The generator is used as the distributions of the standard library use it.
+/// The numbers that samples take out of the generator: two for a hand of a range, one for a card.
 TEST(StrategyQueries, SamplesFollowFromTheGenerator) {
-  const Pocket own = velmora::make_pocket(30, 51);
-  const Pocket other = velmora::make_pocket(28, 29);
-  const std::vector<Pocket> pockets = {own, velmora::make_pocket(0, 8), other};
-  const std::vector<double> first = {0.25, 0.5, 0}, last = {0, 0, 3};
+  const std::vector<Pocket> pockets = {velmora::make_pocket(30, 51), velmora::make_pocket(0, 8),
+                                       velmora::make_pocket(28, 29)};
+  const std::vector<double> first = {0.25, 0, 0}, blocked = {0, 0.5, 0}, last = {0, 0, 3};
   const velmora::Board board{.flop = {8, 17, 47}, .turn = 50};
-  std::mt19937 random(99);
-  double score = 0;
-  int total = 0;
-  for (int sample = 0; sample < 500; ++sample) {
-    // The hand that holds a board card is drawn, and its sample dropped.
-    if (std::generate_canonical<double, 53>(random) * 0.75 > 0.25) continue;
-    random.discard(2);
-    std::vector<CardCode> deck;
-    for (CardCode card = 0; card < 52; ++card) {
-      const auto used = mask_of_pocket(own) | mask_of_pocket(other) | mask_of(board.turn) |
-                        mask_of(board.flop[0]) | mask_of(board.flop[1]) | mask_of(board.flop[2]);
-      if (!(used & mask_of(card))) deck.push_back(card);
-    }
-    const CardCode full[] = {8, 17, 47, 50,
-                             deck[std::uniform_int_distribution<std::uint32_t>(0, 43)(random)]};
-    const auto mine = velmora::evaluate_hand(own, full);
-    const auto theirs = velmora::evaluate_hand(other, full);
-    score += mine > theirs ? 1.0 : mine == theirs ? 0.5 : 0.0;
-    ++total;
-  }
-  std::mt19937 generator(99);
-  const auto equity = [&](const std::vector<double>& hero, std::size_t samples) {
-    return velmora_app::sampled_equity(generator, board, {pockets, hero}, {pockets, last}, samples);
+  const auto expect = [&](const std::vector<double>& hero, std::size_t numbers, bool known) {
+    std::mt19937 generator(99), after(99);
+    after.discard(10 * numbers);
+    const double equity =
+        velmora_app::sampled_equity(generator, board, {pockets, hero}, {pockets, last}, 10);
+    EXPECT_EQ(std::isnan(equity), !known);
+    EXPECT_EQ(generator, after) << numbers;
   };
-  EXPECT_EQ(equity(first, 500), score / total);
-  EXPECT_EQ(generator, random);
-  EXPECT_TRUE(std::isnan(equity({0, -1, NAN}, 10)));
-  EXPECT_TRUE(std::isnan(equity(first, 0)));
-  EXPECT_TRUE(std::isnan(equity({1, 1}, 10)));
-  EXPECT_TRUE(std::isnan(equity(last, 10)));  // The same hand on both sides can't meet itself.
+  expect(first, 2 + 2 + 1, true);
+  expect(blocked, 2, false);  // The board holds a card of it: the sample is dropped.
+  // A hand can't meet itself: each sample draws 32 opposing hands and gives up.
+  expect(last, 2 + 32 * 2, false);
+  expect({0, -1, NAN}, 0, false);
+  expect({1, 1}, 0, false);
 }
 
 TEST(Showdown, ComparesTwoHandsOnAFullBoard) {

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <map>
 #include <numeric>
-#include <utility>
+#include <stdexcept>
 
 #include "hand_eval.h"
 
@@ -21,22 +21,10 @@ using velmora::Seat;
 
 namespace {
 
-/// Real suit to suit in the tree: a card that the tree folds is walked in its twin's subtree.
-using SuitMap = std::array<int, 4>;
-
-CardCode mapped(CardCode card, const SuitMap& suits) {
-  return velmora::make_card(velmora::rank_of(card), suits[velmora::suit_of(card)]);
-}
-
 class BruteForce {
  public:
   BruteForce(const velmora::Game& game, const velmora::DiscountedCfr& solver, Seat seat, Play play)
       : game_(game), solver_(solver), seat_(seat), play_(play) {
-    for (const Seat s : {velmora::kOop, velmora::kIp}) {
-      for (std::size_t h = 0; h < game.num_hands(s); ++h) {
-        index_of_[s][game.cards().pockets(s)[h]] = h;
-      }
-    }
     for (const CardCode card : game.cards().board_cards()) board_.push_back(card);
     const Seat other = velmora::opponent_of(seat);
     for (std::size_t i = 0; i < game.num_hands(seat); ++i) {
@@ -54,7 +42,7 @@ class BruteForce {
     for (std::size_t j = 0; j < reach.size(); ++j) {
       if (masks_meet(own(hand), opp(j))) reach[j] = 0;
     }
-    return visit(0, hand, reach, {0, 1, 2, 3}) / total_weight_;
+    return visit(0, hand, reach) / total_weight_;
   }
 
  private:
@@ -64,12 +52,6 @@ class BruteForce {
     return (velmora::mask_of_pocket(a) & velmora::mask_of_pocket(b)) != 0;
   }
 
-  /// Index of a real hand in the tree that is walked under a suit map.
-  std::size_t tree_hand(Seat seat, Pocket pocket, const SuitMap& suits) const {
-    return index_of_[seat].at(velmora::make_pocket(mapped(velmora::low_card(pocket), suits),
-                                                   mapped(velmora::high_card(pocket), suits)));
-  }
-
   const std::vector<float>& strategy_at(std::size_t node) {
     auto [entry, is_new] = strategies_.try_emplace(node);
     if (is_new) entry->second = solver_.average_strategy(node);
@@ -77,11 +59,10 @@ class BruteForce {
   }
 
   /// Sum over opposing hands of reach times the chips that the hand gains from them.
-  double visit(std::size_t index, std::size_t hand, const std::vector<double>& reach,
-               const SuitMap& suits) {
+  double visit(std::size_t index, std::size_t hand, const std::vector<double>& reach) {
     const PlanNode& node = game_.nodes()[index];
     if (node.kind == NodeKind::kTerminal) return payoff(node, hand, reach);
-    if (node.kind == NodeKind::kChance) return deal(node, hand, reach, suits);
+    if (node.kind == NodeKind::kChance) return deal(node, hand, reach);
     const std::vector<float>& strategy = strategy_at(index);
     const std::size_t hands = game_.num_hands(node.seat);
     if (node.seat != seat_) {
@@ -90,100 +71,43 @@ class BruteForce {
         std::vector<double> child_reach = reach;
         for (std::size_t j = 0; j < reach.size(); ++j) {
           if (reach[j] == 0) continue;
-          const std::size_t h = tree_hand(node.seat, opp(j), suits);
-          child_reach[j] *= static_cast<double>(strategy[a * hands + h]);
+          child_reach[j] *= static_cast<double>(strategy[a * hands + j]);
         }
-        value += visit(node.children[a], hand, child_reach, suits);
+        value += visit(node.children[a], hand, child_reach);
       }
       return value;
     }
-    const std::size_t h = tree_hand(node.seat, own(hand), suits);
     std::vector<double> values;
-    for (const auto child : node.children) values.push_back(visit(child, hand, reach, suits));
+    for (const auto child : node.children) values.push_back(visit(child, hand, reach));
     const velmora::LockTable* lock = game_.find_node_lock(index);
-    const bool locked = lock && !std::signbit((*lock)[h]);
+    const bool locked = lock && !std::signbit((*lock)[hand]);
     if (play_ == Play::kBestResponse && !locked) {
       return *std::max_element(values.begin(), values.end());
     }
     double value = 0;
     for (std::size_t a = 0; a < values.size(); ++a) {
-      const float frequency =
-          locked && play_ == Play::kBestResponse ? (*lock)[a * hands + h] : strategy[a * hands + h];
+      const float frequency = locked && play_ == Play::kBestResponse ? (*lock)[a * hands + hand]
+                                                                     : strategy[a * hands + hand];
       value += values[a] * static_cast<double>(frequency);
     }
     return value;
   }
 
   /// Every card that neither the board nor the own hand holds; opposing hands with it drop out.
-  double deal(const PlanNode& node, std::size_t hand, const std::vector<double>& reach,
-              const SuitMap& suits) {
+  double deal(const PlanNode& node, std::size_t hand, const std::vector<double>& reach) {
     double value = 0;
-    for (CardCode card = 0; card < velmora::kNumCards; ++card) {
-      if (std::count(board_.begin(), board_.end(), card)) continue;
+    for (std::size_t c = 0; c < node.children.size(); ++c) {
+      const auto card = static_cast<CardCode>(node.actions[c].amount);
       if (velmora::mask_of_pocket(own(hand)) & velmora::mask_of(card)) continue;
       std::vector<double> child_reach = reach;
       for (std::size_t j = 0; j < reach.size(); ++j) {
         if (velmora::mask_of_pocket(opp(j)) & velmora::mask_of(card)) child_reach[j] = 0;
       }
-      const auto [child, child_suits] = child_for(node, card, suits);
       board_.push_back(card);
-      value += visit(child, hand, child_reach, child_suits);
+      value += visit(node.children[c], hand, child_reach);
       board_.pop_back();
     }
     return value / static_cast<double>(velmora::kNumCards - board_.size() - 4);
-  }
-
-  /// The subtree that stands for a real card: its own, or that of a card of the same rank whose
-  /// suit can be exchanged for it without changing the cards dealt so far.
-  std::pair<std::size_t, SuitMap> child_for(const PlanNode& node, CardCode card,
-                                            const SuitMap& suits) const {
-    const CardCode tree_card = mapped(card, suits);
-    const int suit = velmora::suit_of(tree_card);
-    for (const int exchange : {suit, 0, 1, 2, 3}) {
-      if (exchange != suit &&
-          !(board_is_unchanged(suits, suit, exchange) && ranges_are_unchanged(suit, exchange))) {
-        continue;
-      }
-      const CardCode wanted = velmora::make_card(velmora::rank_of(tree_card), exchange);
-      for (std::size_t c = 0; c < node.children.size(); ++c) {
-        if (node.actions[c].amount != wanted) continue;
-        SuitMap child_suits = suits;
-        for (int& s : child_suits) s = s == suit ? exchange : s == exchange ? suit : s;
-        return {node.children[c], child_suits};
-      }
-    }
-    throw std::logic_error("No subtree stands for a dealt card");
-  }
-
-  bool board_is_unchanged(const SuitMap& suits, int s, int t) const {
-    CardMask before = 0;
-    CardMask after = 0;
-    for (const CardCode card : board_) {
-      const CardCode c = mapped(card, suits);
-      const int suit = velmora::suit_of(c);
-      before |= velmora::mask_of(c);
-      after |= velmora::mask_of(velmora::make_card(velmora::rank_of(c), suit == s   ? t
-                                                                        : suit == t ? s
-                                                                                    : suit));
-    }
-    return before == after;
-  }
-
-  bool ranges_are_unchanged(int s, int t) const {
-    SuitMap exchange = {0, 1, 2, 3};
-    std::swap(exchange[static_cast<std::size_t>(s)], exchange[static_cast<std::size_t>(t)]);
-    for (const Seat seat : {velmora::kOop, velmora::kIp}) {
-      for (velmora::CardCode a = 0; a < velmora::kNumCards; ++a) {
-        for (velmora::CardCode b = 0; b < a; ++b) {
-          const auto& weights = game_.cards().range_weights()[seat];
-          if (velmora::get_weight(weights, a, b) !=
-              velmora::get_weight(weights, mapped(a, exchange), mapped(b, exchange))) {
-            return false;
-          }
-        }
-      }
-    }
-    return true;
   }
 
   double payoff(const PlanNode& node, std::size_t hand, const std::vector<double>& reach) const {
@@ -250,7 +174,6 @@ class BruteForce {
   Play play_;
   double total_weight_ = 0;
   std::vector<CardCode> board_;  ///< The real cards dealt so far.
-  velmora::BySeat<std::map<Pocket, std::size_t>> index_of_;
   std::map<std::size_t, std::vector<float>> strategies_;
 };
 
@@ -258,6 +181,9 @@ class BruteForce {
 
 std::vector<double> brute_force_values(const velmora::Game& game,
                                        const velmora::DiscountedCfr& solver, Seat seat, Play play) {
+  if (!game.cards().isomorphism().turn_cards.empty()) {
+    throw std::invalid_argument("The tree must hold every deal");
+  }
   BruteForce brute(game, solver, seat, play);
   std::vector<double> values(game.num_hands(seat));
   for (std::size_t h = 0; h < values.size(); ++h) values[h] = brute.value_of(h);

@@ -1,5 +1,5 @@
 // Values of a solved game found the slow way: hand against hand and card by card, without sums over
-// cards and without suit folding.
+// cards; the tree must hold every deal (`SuitFolding::kOff`).
 #pragma once
 
 #include <array>

@@ -1,4 +1,4 @@
-#include "results/result_queries.h"
+#include "results/node_answers.h"
 
 #include <atomic>
 #include <cmath>
@@ -18,7 +18,6 @@
 #include "app_controller.h"
 #include "app_test_support.h"
 #include "discounted_cfr.h"
-#include "results/node_preparer.h"
 #include "results/reach_grid.h"
 #include "spot_config.h"
 
@@ -56,7 +55,7 @@ int childOf(AppController& controller, int node, int action) {
   return controller.nodeActions(node).at(action).toMap().value("childIndex").toInt();
 }
 
-class ResultQueriesTest : public ::testing::Test {
+class NodeAnswersTest : public ::testing::Test {
  protected:
   const LogCapture log_;
 };
@@ -73,7 +72,7 @@ QVariantMap combo(const char* c1, const char* c2, double weight, const QVariantL
 
 }  // namespace
 
-TEST_F(ResultQueriesTest, AnswersInTheShapesOfThePages) {
+TEST_F(NodeAnswersTest, AnswersInTheShapesOfThePages) {
   AppController controller;
   for (const QVariant& nothing : answersAt(controller, 0)) {
     EXPECT_TRUE(nothing.toMap().isEmpty() && nothing.toList().isEmpty());
@@ -121,7 +120,7 @@ TEST_F(ResultQueriesTest, AnswersInTheShapesOfThePages) {
             (QVariantMap{{"winner", "UNKNOWN"}, {"oopStrength", 0}, {"ipStrength", 0}}));
 }
 
-TEST_F(ResultQueriesTest, TheSameSpotGivesTheSameFiguresAgain) {
+TEST_F(NodeAnswersTest, TheSameSpotGivesTheSameFiguresAgain) {
   AppController controller;
   // As a text, in which what is not a number equals itself.
   const auto textAt = [&](int node) {
@@ -139,7 +138,7 @@ TEST_F(ResultQueriesTest, TheSameSpotGivesTheSameFiguresAgain) {
   EXPECT_EQ(controller.nodeHandCombos(0), QVariantList());
 }
 
-TEST_F(ResultQueriesTest, DisplayNamesFollowTheLanguageAndAreNotKept) {
+TEST_F(NodeAnswersTest, DisplayNamesFollowTheLanguageAndAreNotKept) {
   AppController controller;
   solve(controller);
   EXPECT_EQ(controller.nodeHandBuckets(0).at(0).toMap()["displayName"], "overpair");
@@ -153,36 +152,35 @@ TEST_F(ResultQueriesTest, DisplayNamesFollowTheLanguageAndAreNotKept) {
 }
 
 /// As after a project was loaded: no game, no solver, only what the caches hold.
-TEST_F(ResultQueriesTest, AnswersFromTheCachesWithoutASolver) {
-  const velmora_app::SolveSession session;
-  const TreeMirror tree;
-  ResultQueries queries([&session] { return session.solved_spot(); }, tree);
+TEST_F(NodeAnswersTest, AnswersFromTheCachesWithoutASolver) {
+  Project project;
+  NodeAnswers answers(project);
   const QVariantList combos{combo("Ac", "Kc", 0.5, {0.25, 0.75}, {"top pair", "flush draw"}),
                             combo("Ad", "Kd", 0, {1.0, 0.0}, {"top pair"})};
   const QVariantMap grid{{"actionTypeList", QVariantList{"check", "bet 50%"}}};
-  queries.caches().handCombosCache[3] = combos;
-  queries.caches().handStrategyCache[4] = grid;
-  queries.caches().actionStatsCache[3] = {QVariantMap{{"name", "Check"}}};
-  queries.caches().handBucketsCache[3] = {QVariantMap{{"name", "air"}}};
-  queries.caches().seatHandCombosIpCache[3] = combos;
+  project.caches.handCombosCache[3] = combos;
+  project.caches.handStrategyCache[4] = grid;
+  project.caches.actionStatsCache[3] = {QVariantMap{{"name", "Check"}}};
+  project.caches.handBucketsCache[3] = {QVariantMap{{"name", "air"}}};
+  project.caches.seatHandCombosIpCache[3] = combos;
 
-  EXPECT_EQ(queries.nodeHandCombos(3), combos);
-  EXPECT_EQ(queries.nodeActionStats(3).size(), 1);
-  EXPECT_EQ(queries.nodeHandBuckets(3).at(0).toMap()["displayName"], "air");
-  EXPECT_FALSE(queries.caches().handBucketsCache[3].at(0).toMap().contains("displayName"));
-  EXPECT_EQ(queries.nodeSeatHandCombos(3, "IP"), combos);
-  EXPECT_EQ(queries.nodeSeatHandCombos(3, "OOP"), QVariantList());
-  EXPECT_EQ(queries.nodePocketActionEvs(3, "IP", " kc", "AC"), (QVariantList{1.5, 2.5}));
-  EXPECT_EQ(queries.nodePocketActionEvs(3, "IP", "Kc", "Ad"), QVariantList());
+  EXPECT_EQ(answers.nodeHandCombos(3), combos);
+  EXPECT_EQ(answers.nodeActionStats(3).size(), 1);
+  EXPECT_EQ(answers.nodeHandBuckets(3).at(0).toMap()["displayName"], "air");
+  EXPECT_FALSE(project.caches.handBucketsCache[3].at(0).toMap().contains("displayName"));
+  EXPECT_EQ(answers.nodeSeatHandCombos(3, "IP"), combos);
+  EXPECT_EQ(answers.nodeSeatHandCombos(3, "OOP"), QVariantList());
+  EXPECT_EQ(answers.nodePocketActionEvs(3, "IP", " kc", "AC"), (QVariantList{1.5, 2.5}));
+  EXPECT_EQ(answers.nodePocketActionEvs(3, "IP", "Kc", "Ad"), QVariantList());
   // The node's own strategy is not there, its combos are; and the other way round.
-  EXPECT_EQ(queries.nodeHandStrategyReach169(3, "").keys(),
+  EXPECT_EQ(answers.nodeHandStrategyReach169(3, "").keys(),
             (QStringList{"actionProbs", "weights"}));
-  EXPECT_EQ(queries.nodeHandStrategyReach169(4, "air"), grid);
-  EXPECT_EQ(queries.nodeHandStrategy(3), QVariantMap());
-  EXPECT_FALSE(queries.caches().handStrategyCache.contains(3));
-  EXPECT_FALSE(queries.caches().handCombosCache.contains(4));
-  queries.caches().clear();
-  EXPECT_EQ(queries.nodeHandCombos(3), QVariantList());
+  EXPECT_EQ(answers.nodeHandStrategyReach169(4, "air"), grid);
+  EXPECT_EQ(answers.nodeHandStrategy(3), QVariantMap());
+  EXPECT_FALSE(project.caches.handStrategyCache.contains(3));
+  EXPECT_FALSE(project.caches.handCombosCache.contains(4));
+  project.caches.clear();
+  EXPECT_EQ(answers.nodeHandCombos(3), QVariantList());
 }
 
 TEST(ReachGrid, WeighsTheHandsOfALabelByTheirReach) {
@@ -207,7 +205,7 @@ TEST(ReachGrid, WeighsTheHandsOfALabelByTheirReach) {
   EXPECT_EQ(reachGrid({}, combos, "")["weights"], all["weights"]);
 }
 
-TEST_F(ResultQueriesTest, OnlyTheNewestAnswersAreKeptWhileTheSolverCanAnswerAgain) {
+TEST_F(NodeAnswersTest, OnlyTheNewestAnswersAreKeptWhileTheSolverCanAnswerAgain) {
   AppController controller;
   QVariantMap turn = riverSpot();
   turn["board"] = "KsQd7h2c";
@@ -233,7 +231,7 @@ TEST_F(ResultQueriesTest, OnlyTheNewestAnswersAreKeptWhileTheSolverCanAnswerAgai
   EXPECT_EQ(kept, QList<int>{0} + asked.last(100));
 }
 
-TEST_F(ResultQueriesTest, AnswersUnderWayKeepNoDroppedSolverAlive) {
+TEST_F(NodeAnswersTest, AnswersUnderWayKeepNoDroppedSolverAlive) {
   velmora_app::SolveSession session;
   std::atomic<bool> ended = false;
   QVariantMap turn = riverSpot();
@@ -243,12 +241,15 @@ TEST_F(ResultQueriesTest, AnswersUnderWayKeepNoDroppedSolverAlive) {
   });
   ASSERT_TRUE(waitUntil([&] { return ended && session.solved_spot().solver; }));
   const std::weak_ptr<const velmora::DiscountedCfr> solver = session.solved_spot().solver;
-  NodePreparer preparer;
-  const QSignalSpy ready(&preparer, &NodePreparer::ready);
-  preparer.prepare(0, session.solved_spot(), {}, std::make_shared<velmora_app::ActionValues>(), {});
-  preparer.prepare(1, session.solved_spot(), {}, std::make_shared<velmora_app::ActionValues>(), {});
+  Project project;
+  NodeAnswers answers(project);
+  answers.setSpot(session.solved_spot());
+  const QSignalSpy ready(&answers, &NodeAnswers::ready);
+  answers.prepare(0);
+  answers.setSpot({});
   session.clear();
   EXPECT_TRUE(waitUntil([&] { return solver.expired(); }));
+  answers.prepare(1);
   EXPECT_TRUE(waitUntil([&] { return ready.count() == 1; }));
   EXPECT_EQ(ready.first().first(), 1);
 }
