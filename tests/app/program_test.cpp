@@ -36,6 +36,7 @@ class Program : public ::testing::Test {
         << bytesOf(tempLog()).toStdString() << program_.readAllStandardError().toStdString();
   }
   void killBy(int signal) {
+    ASSERT_GT(program_.processId(), 0) << "it has ended by itself";
     ASSERT_EQ(::kill(static_cast<pid_t>(program_.processId()), signal), 0);
     ASSERT_TRUE(program_.waitForFinished());
     EXPECT_EQ(program_.exitStatus(), QProcess::CrashExit);

@@ -232,6 +232,7 @@ TEST(Solve, SignalsStopAndKeep) {
     process.setReadChannel(QProcess::StandardError);
     while (!process.canReadLine() && process.waitForReadyRead(60'000)) {
     }
+    ASSERT_GT(process.processId(), 0);
     ASSERT_EQ(::kill(static_cast<pid_t>(process.processId()), signal), 0);
     expect_stopped(finish_cli(process), 130, files);
   }

@@ -142,7 +142,7 @@ MainWindowCase {
             verify(oop.y < ip.y)
             compare(texts(oop).slice(-2), ["OOP", "Stack: " + Math.max(0, meta.effectiveStack - meta.investedOop).toFixed(0)])
             compare(texts(ip).slice(-2), ["IP", "Stack: " + Math.max(0, meta.effectiveStack - meta.investedIp).toFixed(0)])
-            verify(Find.text(results, "Pot: " + meta.pot.toFixed(0)))
+            verify(Find.text(Find.withProperties(results, "pictureRatio"), "Pot: " + meta.pot.toFixed(0)))
             const line = play.playActionLine.split(" → ").filter(text => !text.startsWith("Chance")).pop()
             if (play.playLastActionText && line) {
                 const [actor, action] = line.split(": ")
