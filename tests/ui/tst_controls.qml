@@ -84,12 +84,6 @@ TestCase {
         }
     }
 
-    Component {
-        id: choice
-
-        ChoiceBox { model: ["Max", "1", "2"] }
-    }
-
     function make(component: Component, properties: var): var {
         return createTemporaryObject(component, test, properties)
     }
@@ -153,21 +147,6 @@ TestCase {
             fuzzyCompare(segment.rightRadius, data.radii[i][1], 1e-9)
             x += segment.width
         })
-    }
-
-    function test_figures_data() {
-        return [
-            { tag: "whole", combos: 12.0000005, equity: 0.5, ev: 2, texts: ["12", "50.0", "2.00"] },
-            { tag: "fraction", combos: 12.00001, equity: 0.12345, ev: -1.256, texts: ["12.0", "12.3", "-1.26"] },
-            { tag: "zero", combos: 0, equity: 0, ev: 0, texts: ["0", "0.0", "0.00"] },
-            { tag: "missing", texts: ["—", "—", "—"] },
-            { tag: "not finite", combos: NaN, equity: Infinity, ev: null, texts: ["—", "—", "—"] }
-        ]
-    }
-
-    function test_figures(data) {
-        compare([Frequencies.combosText(data.combos), Frequencies.equityText(data.equity),
-                 Frequencies.evText(data.ev)], data.texts)
     }
 
     function test_bar_paints_and_answers() {
@@ -246,23 +225,6 @@ TestCase {
         compare(spy.count, 3)
     }
 
-    function test_progress_ring_caption_data() {
-        return [
-            { tag: "rounded", set: { value: 0.426 }, text: "43%" },
-            { tag: "above 1", set: { value: 1.7 }, text: "100%" },
-            { tag: "no number", set: { value: NaN }, text: "0%" },
-            { tag: "indeterminate", set: { value: 0.4, indeterminate: true }, text: "..." },
-            { tag: "hidden", set: { value: 0.4, showPercentage: false } }
-        ]
-    }
-
-    function test_progress_ring_caption(data) {
-        const caption = findChild(make(ring, data.set), "caption")
-        compare(caption.visible, data.text !== undefined)
-        if (data.text)
-            compare(caption.text, data.text)
-    }
-
     function test_progress_ring_runs_clockwise_from_the_top() {
         const item = make(ring, { theme: theme, value: 0.25 })
         tryVerify(() => alike(grabImage(item).pixel(82, 18), theme.accent))
@@ -291,26 +253,6 @@ TestCase {
         item.enabled = false
         mouseClick(item)
         compare(spy.count, 4)
-    }
-
-    function test_checkable_data() {
-        return [
-            { tag: "switch", component: toggleSwitch, set: {} },
-            { tag: "small button", component: small, set: { checkable: true } }
-        ]
-    }
-
-    function test_checkable(data) {
-        const item = make(data.component, data.set)
-        item.forceActiveFocus()
-        listen(item, "toggled")
-        let checked = false
-        for (const key of [Qt.Key_Space, Qt.Key_Return, Qt.Key_Enter]) {
-            keyClick(key)
-            checked = !checked
-            compare(item.checked, checked)
-        }
-        compare(spy.count, 3)
     }
 
     function test_chip() {
@@ -347,17 +289,5 @@ TestCase {
         fuzzyCompare(item.x + item.width / 2, item.parent.width / 2, 1)
         keyClick(Qt.Key_Escape)
         tryVerify(() => !item.visible)
-    }
-
-    function test_choice_box() {
-        const item = make(choice)
-        item.forceActiveFocus()
-        keyClick(Qt.Key_Space)
-        tryVerify(() => item.popup.opened)
-        keyClick(Qt.Key_Down)
-        keyClick(Qt.Key_Return)
-        tryVerify(() => !item.popup.visible)
-        compare(item.currentText, "1")
-        compare(item.contentItem.text, "1")
     }
 }

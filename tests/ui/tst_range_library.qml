@@ -1,7 +1,6 @@
 import QtQuick
 import QtTest
 import Velmora
-import "../../qml/components/file_url.js" as FileUrl
 import "../../qml/setup/library/range_estimates.js" as Estimates
 import "../../qml/setup/library/range_library_names.js" as Names
 import "../../qml/setup/library/range_library_overrides.js" as Overrides
@@ -234,12 +233,6 @@ TestCase {
         }
         compare(Names.populationName("Overfolder (10-22 VPIP)"), "Overfolder (VPIP 10-22)")
         compare(Names.standardName("Overfolder (10-22 VPIP)"), "Overfolder (10-22 VPIP)")
-    }
-
-    function test_file_names() {
-        const names = { "file:///a/BTN open.txt": "BTN open", "file:///a/100%25 ü.TXT": "100% ü", "file:///x.md": "x.md" }
-        for (const file in names)
-            compare(FileUrl.baseName(file, ".txt"), names[file])
     }
 
     QtObject {

@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app_test_support.h"
+#include "file_test_support.h"
 
 TEST(Draft, IsLeftBehindByARunThatDidNotDropIt) {
   const LogCapture log;
