@@ -141,23 +141,6 @@ TEST(Solve, BadInputIsOneClearLine) {
   EXPECT_EQ(run_cli({"solve", files.write("list.json", "[1]")}).status, 1);
 }
 
-/// What else is in a file is stepped over: a project with its results takes no more than a spot.
-TEST(Solve, LongFilesAreReadInPieces) {
-  const Files files;
-  const QByteArray spot = QJsonDocument(example_spot("river.json")).toJson().trimmed();
-  const QByteArray results = "{\"nodeCaches\": [\"" + QByteArray(60 << 20, 'x') + "\", [{}, []]],";
-  EXPECT_EQ(run_cli({"estimate", files.write("long.json", results + spot.mid(1))}).json(),
-            run_cli({"estimate", example("river.json")}).json());
-  const CliRun cut = run_cli({"estimate", files.write("cut.json", results + "\n")});
-  EXPECT_TRUE(cut.error.contains("Invalid JSON in line 2")) << cut.error.toStdString();
-  const CliRun nested = run_cli({"estimate", files.write("deep.json", QByteArray(5000, '['))});
-  EXPECT_EQ(nested.status, 1);
-  const CliRun board =
-      run_cli({"estimate",
-               files.write("board.json", "{\"board\": \"" + QByteArray(60 << 20, 'x') + "\"}")});
-  EXPECT_TRUE(board.error.contains("A value is too long")) << board.error.toStdString();
-}
-
 TEST(Solve, RefusesWhatTheMachineCannotHold) {
   const Files files;
   QJsonObject spot{{"board", "QsJh2h"},
@@ -181,17 +164,6 @@ TEST(Solve, RefusesWhatTheMachineCannotHold) {
   const QString text = run.json()["error"].toString();
   EXPECT_TRUE(text.startsWith("Not enough memory: this solve needs ")) << text.toStdString();
   EXPECT_EQ(run.error, "dunmarrow-cli: " + text.toUtf8() + "\n");
-}
-
-TEST(Solve, EstimateIsThatOfTheResult) {
-  const QJsonObject estimate = run_cli({"estimate", example("turn.json")}).json();
-  const QJsonObject result =
-      run_cli({"solve", example("turn.json"), "--iterations", "1", "--quiet"}).json();
-  for (const char* key :
-       {"state_bytes", "node_count", "decision_node_count", "oop_hands", "ip_hands"}) {
-    EXPECT_GT(estimate[key].toInt(), 0) << key;
-    EXPECT_EQ(estimate[key], result[key]) << key;
-  }
 }
 
 QJsonObject endless_turn() {

@@ -129,6 +129,10 @@ TEST(PlainSolver, AgreesOnRandomRiversAndTurns) {
     const char* const board = boards[round % 4];
     Spot spot = random_spot(random, board, 3 + round % 9);
     if (round % 4 >= 2) spot.sizes[2] = {"66", round % 8 < 4 ? "a" : ""};
+    if (round >= 22) {  // Hands enough for the traversals to fan out.
+      spot.oop_range = "22+,A2s+,KTs+,QTs+,AJo+";
+      spot.ip_range = "66+,A8s+,KTs+,QJs,JTs,AQo+";
+    }
     describe(spot);
     SCOPED_TRACE(testing::Message()
                  << round << ": " << board << " " << spot.oop_range << " | " << spot.ip_range);

@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
-#include <cstdint>
 #include <mutex>
-#include <new>
 #include <numeric>
 #include <optional>
 #include <set>
@@ -15,9 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "faults.h"
-#include "huge_pages.h"
 #include "scoped_environment.h"
-#include "scratch.h"
 
 namespace velmora {
 namespace {
@@ -97,20 +93,6 @@ TEST(WorkerPool, ALoopInsideALoopRunsInPlace) {
   EXPECT_EQ(split_of(&pool, 4).chunks.size(), 4U);
 }
 
-/// Many short loops one after the other: what the chunks wrote is there when the loop returns.
-TEST(WorkerPool, ResultsAreThereWhenTheLoopReturns) {
-  WorkerPool pool(3);
-  std::vector<std::uint64_t> cells(64);
-  for (std::uint64_t round = 1; round <= 2000; ++round) {
-    pool.parallel_for(cells.size(), [&](std::size_t begin, std::size_t end) {
-      for (std::size_t i = begin; i < end; ++i) cells[i] += round + i;
-    });
-    if (round % 100 != 0) continue;
-    const std::uint64_t sum = std::accumulate(cells.begin(), cells.end(), std::uint64_t{0});
-    ASSERT_EQ(sum, 64 * round * (round + 1) / 2 + round * 64 * 63 / 2);
-  }
-}
-
 TEST(WorkerPool, FaultsReachTheCaller) {
   WorkerPool pool(3);
   // Where a chunk faults, the others still run to their end before the loop returns, and the pool
@@ -157,49 +139,6 @@ TEST(WorkerPool, LimitFromTheEnvironment) {
   for (const auto& [value, limit] : cases) {
     const ScopedEnvironment environment("VELMORA_TEST_WORKERS", value);
     EXPECT_EQ(worker_limit("VELMORA_TEST_WORKERS"), limit) << value.value_or("unset");
-  }
-}
-
-TEST(Scratch, FramesGiveBackWhatTheyTook) {
-  ScratchStack stack;
-  const std::size_t sizes[] = {1, 64, 1000, std::size_t{1} << 20, std::size_t{3} << 20, 7};
-  std::vector<char*> first_time;
-  for (int round = 0; round < 3; ++round) {
-    const ScratchStack::Frame outer(stack);
-    std::vector<std::pair<char*, std::size_t>> blocks;
-    for (const std::size_t size : sizes) {
-      char* const block = stack.take<char>(size);
-      EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block) % 64, 0U);
-      for (const auto& [other, length] : blocks) {
-        EXPECT_TRUE(block + size <= other || other + length <= block);
-      }
-      std::fill_n(block, size, static_cast<char>(round));
-      blocks.emplace_back(block, size);
-      const ScratchStack::Frame inner(stack);
-      EXPECT_NE(stack.take<char>(size), block);
-    }
-    if (round == 0) {
-      for (const auto& block : blocks) first_time.push_back(block.first);
-    }
-    for (std::size_t i = 0; i < blocks.size(); ++i) EXPECT_EQ(blocks[i].first, first_time[i]);
-  }
-}
-
-TEST(HugePages, ArraysAreZeroMovableAndRefuseWhatIsTooMuch) {
-  PageArray<std::uint64_t> array(100000);
-  EXPECT_EQ(std::count(array.data(), array.data() + array.size(), 0U), 100000);
-  array[99999] = 5;
-  PageArray<std::uint64_t> moved(std::move(array));
-  PageArray<std::uint64_t> assigned(3);
-  assigned = std::move(moved);
-  EXPECT_EQ(assigned.size(), 100000U);
-  EXPECT_EQ(assigned[99999], 5U);
-  const std::span<const std::uint64_t> view = assigned;
-  EXPECT_EQ(view.data(), assigned.data());
-  EXPECT_EQ(PageArray<int>(0).data(), nullptr);
-
-  for (const std::size_t size : {std::size_t{1} << 50, std::size_t{1} << 61, ~std::size_t{0}}) {
-    EXPECT_THROW(PageArray<std::uint64_t>{size}, std::bad_alloc) << size;
   }
 }
 
