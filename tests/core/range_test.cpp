@@ -40,24 +40,6 @@ std::size_t pockets_in(const PocketWeights& weights) {
   return kNumPockets - static_cast<std::size_t>(std::count(weights.begin(), weights.end(), 0.0F));
 }
 
-TEST(Range, PocketIndexCountsThePocketsInOrder) {
-  std::size_t index = 0;
-  for (int a = 0; a < kNumCards; ++a) {
-    for (int b = a + 1; b < kNumCards; ++b, ++index) {
-      const auto low = static_cast<CardCode>(a);
-      const auto high = static_cast<CardCode>(b);
-      ASSERT_EQ(pocket_index(low, high), index);
-      ASSERT_EQ(pocket_index(high, low), index);
-      ASSERT_EQ(pocket_index(make_pocket(high, low)), index);
-      ASSERT_EQ(pocket_cards(index), std::pair(low, high));
-    }
-  }
-  EXPECT_EQ(index, kNumPockets);
-  EXPECT_EQ(pocket_index(0, 51), 50U);
-  EXPECT_EQ(pocket_index(50, 51), 1325U);
-  EXPECT_EQ(faults::of([] { pocket_cards(1326); }), "range: Pocket index is out of range");
-}
-
 TEST(Range, ExpressionsCoverTheirClasses) {
   const Classes all_pairs{"22", "33", "44", "55", "66", "77", "88",
                           "99", "TT", "JJ", "QQ", "KK", "AA"};

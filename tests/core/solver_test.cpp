@@ -215,7 +215,6 @@ std::vector<float> all_numbers(const velmora::Game& game, const velmora::Discoun
   return numbers;
 }
 
-
 TEST(Invariants, CompressedStorageStaysClose) {
   for (const Spot& spot : {river_spot(), turn_spot(), flop_spot()}) {
     SCOPED_TRACE(spot.board);

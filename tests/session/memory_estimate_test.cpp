@@ -73,26 +73,6 @@ TEST(MemoryEstimate, IsThatOfTheBuiltGame) {
   }
 }
 
-TEST(MemoryEstimate, FaultsAreBareTexts) {
-  struct Case {
-    std::function<void(SolveConfig&)> change;
-    const char* error;
-  };
-  const Case cases[] = {
-      {[](SolveConfig& c) { c.board = "AhKd7"; },
-       "Board must include at least a flop (6 chars, e.g. AhKsQd)"},
-      {[](SolveConfig& c) { c.oop_flop.bet_sizes = "2x"; },
-       "Relative raise (x) is not allowed in this context"},
-  };
-  for (const Case& c : cases) {
-    SolveConfig config = river_request();
-    c.change(config);
-    std::string error;
-    EXPECT_FALSE(estimate_memory(config, error)) << c.error;
-    EXPECT_EQ(error, c.error);
-  }
-}
-
 /// Where even counting would take too long, what was counted is a lower bound; nothing is built.
 TEST(MemoryEstimate, StopsCountingAtABound) {
   std::string many;

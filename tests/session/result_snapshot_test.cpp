@@ -1,6 +1,5 @@
 #include <limits>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "results/actions.h"
@@ -10,7 +9,6 @@
 namespace session_test {
 namespace {
 
-using ::testing::ElementsAre;
 using velmora::kNoCard;
 using velmora::NodeKind;
 using velmora::PlanNode;
@@ -70,23 +68,6 @@ TEST(ResultSnapshot, MirrorsEveryNode) {
     }
   }
   EXPECT_GT(runouts, 0);
-}
-
-TEST(ResultSnapshot, SummaryIsThatOfTheSolverAndTheRoot) {
-  SolveSession session;
-  const SolveResult result = result_of(session, river_request());
-  const SolvedSpot spot = session.solved_spot();
-  EXPECT_EQ(result.iterations, spot.solver->iterations_done());
-  EXPECT_EQ(result.exploitability, spot.solver->exploitability());
-  EXPECT_EQ(result.ev_oop, spot.solver->cf_values(*spot.game)[0]);
-  EXPECT_EQ(result.ev_ip, spot.solver->cf_values(*spot.game)[1]);
-  EXPECT_THAT(result.root_action_names, ElementsAre("Check", "Bet 50%", "All-In"));
-  EXPECT_THAT(result.root_action_types, ElementsAre("check", "bet 50%", "allin"));
-  const NodeMeta root = result.nodes->node(0);
-  ASSERT_EQ(result.root_action_freqs.size(), 3U);
-  for (std::size_t a = 0; a < 3; ++a) {
-    EXPECT_EQ(result.root_action_freqs[a], root.actions[a].frequency);
-  }
 }
 
 NodeMeta node_of(std::vector<ActionMeta> actions) {
