@@ -5,7 +5,6 @@
 #include <memory>
 #include <utility>
 
-#include <QDesktopServices>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -183,22 +182,6 @@ TEST_F(AppControllerTest, TheFiguresOfARunAreThoseOfItsStatus) {
   EXPECT_GT(unmeasured, 0);
   controller.cancelSolve();
   ASSERT_TRUE(waitUntil([&] { return !controller.running(); }));
-}
-
-TEST_F(AppControllerTest, AFailedSolveTellsWhy) {
-  AppController controller;
-  QVariantMap spot = riverSpot();
-  // Every field is right by itself, but no tree can be as deep as this one.
-  spot["effective_stack"] = 100000;
-  for (const QString seat : {"oop", "ip"}) {
-    spot[seat + "_river_bet_sizes"] = spot[seat + "_river_raise_sizes"] = "1c";
-  }
-  solve(controller, spot);
-  ASSERT_TRUE(controller.statusText().startsWith("Error: "));
-  EXPECT_GT(controller.statusText().size(), 7);
-  EXPECT_EQ(controller.resultsSummary(), "Solve failed: " + controller.statusText().mid(7));
-  EXPECT_EQ(controller.progress(), 0);
-  EXPECT_EQ(controller.treeNodeCount(), 0);
 }
 
 TEST_F(AppControllerTest, ACancelledSolveEnds) {
@@ -514,36 +497,6 @@ TEST_F(AppControllerTest, EstimatesTheSpotOnScreen) {
   ASSERT_TRUE(waitUntil([&] { return controller.solveRequiredMemoryBytes() == 0; }));
   EXPECT_EQ(controller.solveRequiredMemoryText(), "—");
 }
-
-namespace {
-
-class UrlCatcher : public QObject {
-  Q_OBJECT
-
- public:
-  QList<QUrl> urls;
-
- public slots:
-  void open(const QUrl& url) { urls << url; }
-};
-
-}  // namespace
-
-TEST_F(AppControllerTest, NoticesAreOpenedBesideTheExecutable) {
-  AppController controller;
-  UrlCatcher catcher;
-  QDesktopServices::setUrlHandler("file", &catcher, "open");
-  controller.openLicensesFolder();
-  controller.openThirdPartyNotices();
-  QDesktopServices::unsetUrlHandler("file");
-  const QString appDir = QCoreApplication::applicationDirPath();
-  EXPECT_EQ(controller.appDir(), appDir);
-  EXPECT_EQ(catcher.urls,
-            (QList<QUrl>{QUrl::fromLocalFile(appDir + "/licenses"),
-                         QUrl::fromLocalFile(appDir + "/licenses/THIRD_PARTY_NOTICES.txt")}));
-}
-
-#include "app_controller_test.moc"
 
 // The pool may be done with an answer before the window's thread takes it: that counts as outdated
 // too.

@@ -80,17 +80,6 @@ TEST(CrashLines, EveryWayToDieLeavesItsLinesInBothFiles) {
   }
 }
 
-TEST(CrashLines, AFileThatCannotBeOpenedIsPassedOver) {
-  const QTemporaryDir dir;
-  const QString log = dir.filePath("log");
-  const QByteArray line = "FATAL: C signal received sig=6\r\n";
-  EXPECT_EQ(runHelper(dir.path(), log, "abort"), SIGABRT);
-  EXPECT_EQ(bytesOf(log), line);
-  EXPECT_EQ(runHelper(log, "", "abort"), SIGABRT);
-  EXPECT_EQ(bytesOf(log), line + line);
-  EXPECT_EQ(runHelper(dir.path(), dir.filePath(QString(5000, 'x')), "abort"), SIGABRT);
-}
-
 TEST(CrashLines, ASolveSurvivesExhaustedMemory) {
   const QTemporaryDir dir;
   QProcess helper;

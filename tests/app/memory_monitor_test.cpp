@@ -100,18 +100,3 @@ TEST(MemoryMonitor, OnlyTheLastRequestCounts) {
   EXPECT_EQ(figures, (QList<quint64>{2, 3, 0}));
   EXPECT_EQ(monitor.requiredText(), "—");
 }
-
-TEST(MemoryMonitor, WaitsForItsEstimatesAtTheEnd) {
-  std::atomic<bool> started = false, finished = false;
-  auto monitor = std::make_unique<MemoryMonitor>(sourcesWith([&](const auto&) -> quint64 {
-    started = true;
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    finished = true;
-    return 1;
-  }));
-  monitor->requestEstimate({});
-  ASSERT_TRUE(waitUntil([&] { return started.load(); }));
-  monitor.reset();
-  EXPECT_TRUE(finished);
-  QCoreApplication::processEvents();
-}

@@ -102,13 +102,6 @@ TEST(Game, ChanceNodesDealTheWholeDeck) {
   }
 }
 
-std::size_t find_node(const Game& game, auto&& fits) {
-  for (std::size_t i = 0; i < game.nodes().size(); ++i) {
-    if (fits(game.nodes()[i])) return i;
-  }
-  throw std::runtime_error("no such node");
-}
-
 TEST(NodeLocks, EntriesBecomeTables) {
   // The root of the turn: check, a bet of a third, a bet of the pot; then all-in or not.
   Spot spot = spot_on("AhKd2cTs", "QQ,AQs,AcKs,AdKs,76s:0.5", "JJ,AQo");
@@ -169,48 +162,6 @@ TEST(NodeLocks, EntriesBecomeTables) {
     }
     EXPECT_GT(hands, 0);
   }
-}
-
-TEST(NodeLocks, OnlyDecisionsTakeTables) {
-  Spot spot = spot_on("AhKd2cTs");
-  spot.sizes = {{{"", ""}, {"a", ""}, {"", ""}}};
-  const auto game = make_game(spot);
-  const auto is = [](NodeKind kind) {
-    return [kind](const PlanNode& node) { return node.kind == kind; };
-  };
-  const std::size_t chance = find_node(*game, is(NodeKind::kChance));
-  const std::size_t terminal = find_node(*game, is(NodeKind::kTerminal));
-  const std::size_t runout = find_node(*game, [](const PlanNode& n) { return n.runout; });
-  // Two river nodes of one line that differ by their card only; without bets, all there is is a
-  // check.
-  const auto on_river = [](const PlanNode& n) {
-    return n.river != kNoCard && n.seat == kOop && n.kind == NodeKind::kDecision;
-  };
-  const std::size_t river = find_node(*game, on_river);
-  const std::size_t sibling = find_node(*game, [&](const PlanNode& n) {
-    return on_river(n) && n.river != game->nodes()[river].river;
-  });
-  ASSERT_EQ(game->nodes()[river].actions.size(), 1U);
-
-  const std::vector<NodeLockEntry> entries = {
-      {chance, "AA", 0, 1}, {terminal, "AA", 0, 1}, {runout, "AA", 0, 1}, {river, "AA", 0, 0.3F}};
-  build_node_locks(*game, entries);
-  for (const std::size_t free : {chance, terminal, runout, sibling, std::size_t{0}}) {
-    EXPECT_EQ(game->find_node_lock(free), nullptr);
-  }
-  const LockTable* table = game->find_node_lock(river);
-  ASSERT_NE(table, nullptr);
-  const std::vector<Pocket>& pockets = game->cards().pockets(kOop);
-  for (std::size_t h = 0; h < pockets.size(); ++h) {
-    EXPECT_EQ((*table)[h], hand_class_label(pockets[h]) == "AA" ? 1.0F : -1.0F);
-  }
-
-  game->set_node_lock(0, {1, 2});
-  game->set_node_lock(0, {3});
-  ASSERT_NE(game->find_node_lock(0), nullptr);
-  EXPECT_EQ(*game->find_node_lock(0), LockTable{3});
-  game->set_node_lock(0, {});
-  EXPECT_EQ(game->find_node_lock(0), nullptr);
 }
 
 }  // namespace

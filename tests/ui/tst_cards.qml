@@ -116,14 +116,6 @@ TestCase {
         compare(signalled(), data.clicked)
     }
 
-    function test_board_spacing() {
-        const board = make("BoardDisplay", "cardClicked", { boardText: "AhKd2cTs9s" })
-        const cards = found(board, "faceDown")
-        tryVerify(() => cards[1].x - cards[0].x === 52 + 4 && cards[4].x - cards[3].x === 52 + 8)
-        board.compact = true
-        tryVerify(() => cards[1].x - cards[0].x === 32 + 2 && cards[4].x - cards[3].x === 32 + 4)
-    }
-
     function test_picker() {
         const picker = make("CardPicker", "cardSelected", { usedCards: ["aH", "KD", "Qh"] })
         waitForRendering(picker)

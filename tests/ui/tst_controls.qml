@@ -46,18 +46,6 @@ TestCase {
     }
 
     Component {
-        id: chip
-
-        Chip { text: "Flop" }
-    }
-
-    Component {
-        id: sidebar
-
-        Sidebar { height: 600 }
-    }
-
-    Component {
         id: bar
 
         ActionBar { width: 300 }
@@ -67,21 +55,6 @@ TestCase {
         id: node
 
         TreeNode {}
-    }
-
-    Component {
-        id: ring
-
-        ProgressRing {}
-    }
-
-    Component {
-        id: dialog
-
-        AppDialog {
-            title: "Sure?"
-            footerButtons: SecondaryButton { text: "Close" }
-        }
     }
 
     function make(component: Component, properties: var): var {
@@ -225,14 +198,6 @@ TestCase {
         compare(spy.count, 3)
     }
 
-    function test_progress_ring_runs_clockwise_from_the_top() {
-        const item = make(ring, { theme: theme, value: 0.25 })
-        tryVerify(() => alike(grabImage(item).pixel(82, 18), theme.accent))
-        verify(alike(grabImage(item).pixel(18, 82), theme.surface3))
-        item.indeterminate = true
-        tryVerify(() => alike(grabImage(item).pixel(82, 18), theme.surface3))
-    }
-
     function test_buttons_data() {
         return [
             { tag: "primary", component: primary }, { tag: "secondary", component: secondary },
@@ -253,41 +218,5 @@ TestCase {
         item.enabled = false
         mouseClick(item)
         compare(spy.count, 4)
-    }
-
-    function test_chip() {
-        const item = make(chip, { x: 20, y: 20 })
-        listen(item, "clicked")
-        mouseClick(item)
-        compare(spy.count, 0)
-        item.clickable = true
-        mouseClick(item)
-        compare(spy.count, 1)
-        item.removable = true
-        mouseClick(item)
-        compare(spy.count, 1)
-        listen(item, "removeClicked")
-        waitForRendering(item)
-        mouseClick(item, item.width - 14, 14)
-        compare(spy.count, 1)
-    }
-
-    function test_sidebar() {
-        const item = make(sidebar)
-        listen(item, "navigate")
-        waitForRendering(item)
-        for (let row = 0; row < 5; ++row)
-            mouseClick(item, 100, 100 + row * 56)
-        compare(Array.from(spy.signalArguments, list => list[0]), [0, 1, 2, 3, 4])
-    }
-
-    function test_dialog() {
-        const item = make(dialog)
-        item.open()
-        tryVerify(() => item.opened)
-        verify(item.modal)
-        fuzzyCompare(item.x + item.width / 2, item.parent.width / 2, 1)
-        keyClick(Qt.Key_Escape)
-        tryVerify(() => !item.visible)
     }
 }

@@ -1,8 +1,6 @@
 import QtQuick
 import QtTest
 import Velmora
-import "../../qml/setup/library/range_estimates.js" as Estimates
-import "../../qml/setup/library/range_library_names.js" as Names
 import "../../qml/setup/library/range_library_overrides.js" as Overrides
 import "../../qml/setup/library/range_library_population.js" as Population
 import "../../qml/setup/library/range_library_standard.js" as Standard
@@ -199,21 +197,6 @@ TestCase {
             compare(valueOf("Maniac", "BU", "RFI"), valueOf("Maniac", "UTG/HJ/CO", "RFI"))
     }
 
-    /// What a type plays lies in the span that its folder names, and gets wider from type to type.
-    function test_template_vpip() {
-        const spans = { "Passive tight": [18, 25], "Passive neutral": [25, 35], "Passive loose": [35, 45],
-                        "Extreme loose": [45, 65], "Standard LAG": [27, 40], "Maniac": [45, 70] }
-        for (const table of [Estimates.PASSIVE, Estimates.LOOSE_AGGRESSIVE]) {
-            table.archetypes.forEach((type, column) => {
-                const early = table.estimates["UTG/HJ/CO"]
-                const played = RangeText.weights([early["Limp"]?.[column] ?? "", early["RFI"][column]].join())
-                const vpip = 100 * HandText.labels.reduce((combos, hand) => combos
-                    + (played[hand] ?? 0) * (hand.length === 2 ? 6 : hand.endsWith("s") ? 4 : 12), 0) / 1326
-                verify(vpip >= spans[type][0] && vpip <= spans[type][1], type + " " + vpip)
-            })
-        }
-    }
-
     function test_population_file_and_template() {
         const names = nodes => nodes.map(node => node.name)
         const merged = Population.completed(tree({ Foo: {}, "Weaker regs": {} }), "oop", [])
@@ -222,17 +205,6 @@ TestCase {
         for (const file of [{}, { x: "AA" }])
             compare(names(Population.completed(tree(file), "ip", [])).length, 5)
         compare(Population.stripWeightsText("AA:0.5,KK QQ:1\n99-22:0.25, 100%"), "AA, KK, QQ, 99-22, 100%")
-    }
-
-    function test_names_are_shown_in_words() {
-        const names = ["RFI", "vs UTG RFI", "UTG vs HJ 3bet", "SB 3bet vs UTG 4bet", "UTG Call", "Call SB",
-                       "Unknown thing here", "UTG/HJ/CO", "Limp-call", "Passive (VPIP 18–65)"]
-        for (const name of names) {
-            compare(Names.standardName(name), name)
-            compare(Names.populationName(name), name)
-        }
-        compare(Names.populationName("Overfolder (10-22 VPIP)"), "Overfolder (VPIP 10-22)")
-        compare(Names.standardName("Overfolder (10-22 VPIP)"), "Overfolder (10-22 VPIP)")
     }
 
     QtObject {

@@ -326,17 +326,6 @@ MainWindowCase {
         compare(project.startingPot, 1807)
     }
 
-    function test_target_buttons_rewrite_the_field() {
-        openNewProject()
-        click(field("Target Exploitability (%)"))
-        keyClick("7")
-        clickButton("1%")
-        compare(project.targetExploitability, 1)
-        compare(field("Target Exploitability (%)").text, "1")
-        clickButton("0.1%")
-        compare(field("Target Exploitability (%)").text, "0.1")
-    }
-
     function test_switches_and_the_jam_field() {
         openNewProject()
         const toggle = text => Find.all(page(), item => item.text === text && item.value !== undefined)[0]
@@ -431,27 +420,6 @@ MainWindowCase {
             clickInDialog("Load Settings Profile", "Cancel")
             tryVerify(() => !dialog("Load Settings Profile"))
         }
-    }
-
-    function test_what_was_saved_is_there_in_the_next_window() {
-        openNewProject()
-        clickButton("Save settings")
-        tryVerify(() => dialog("Save Settings Profile"))
-        wait(150)
-        keyClick("k")
-        keyClick(Qt.Key_Return)
-        tryVerify(() => !dialog("Save Settings Profile"))
-        cleanup()
-        init()
-        openNewProject()
-        clickButton("Load settings")
-        tryVerify(() => dialog("Load Settings Profile"))
-        wait(150)
-        const list = dialog("Load Settings Profile")
-        mouseClick(Find.text(list, "k"))
-        clickInDialog("Load Settings Profile", "Delete")
-        clickInDialog("Delete settings profile", "Delete")
-        tryVerify(() => !Find.text(list, "k"))
     }
 
     function test_threads() {

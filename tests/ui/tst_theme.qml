@@ -1,7 +1,6 @@
 import QtQuick
 import QtTest
 import Velmora
-import "../../qml/style/font_families.js" as FontFamilies
 
 TestCase {
     id: test
@@ -50,19 +49,6 @@ TestCase {
         }
     }
 
-    function test_suit_colors_data() {
-        return [
-            { tag: "s", token: "suitSpades" }, { tag: "Hearts", token: "suitHearts" },
-            { tag: "D", token: "suitDiamonds" }, { tag: "clubs", token: "suitClubs" },
-            { tag: "x", token: "text" }, { tag: "", token: "text" }
-        ]
-    }
-
-    function test_suit_colors(data) {
-        const theme = createTemporaryObject(themeComponent, test)
-        compare(theme.suitColor(data.tag), theme[data.token])
-    }
-
     function test_accent_override() {
         const theme = createTemporaryObject(themeComponent, test)
         const before = String(theme._defaultAccent)
@@ -95,19 +81,5 @@ TestCase {
         compare(theme.useAccentOverride, data.accent !== "")
         if (data.accent !== "")
             compare(String(theme.accent), data.accent)
-    }
-
-    function test_font_lists_data() {
-        return [
-            { tag: "later entry", list: "Segoe UI, Consolas, monospace", expected: "Consolas" },
-            { tag: "any case", list: "CONSOLAS", expected: "Consolas" },
-            { tag: "system", list: "Segoe UI, system-ui, Consolas", expected: "System Sans" },
-            { tag: "generic", list: "Segoe UI, monospace", expected: "monospace" },
-            { tag: "none", list: "Segoe UI", expected: "System Sans" }
-        ]
-    }
-
-    function test_font_lists(data) {
-        compare(FontFamilies.firstInstalled(data.list, ["Arial", "Consolas"], "System Sans"), data.expected)
     }
 }
