@@ -43,6 +43,11 @@ MainWindowCase {
         return evs.map(ev => fold < 0 ? ev : ev - evs[fold])
     }
 
+    /// The cards that show below an item, each once, in the order of the tree.
+    function cards(item: Item): var {
+        return Array.from(new Set(Find.all(item, part => part.rank && part.suit).map(card => card.rank + card.suit)))
+    }
+
     function checkNode(node: int) {
         const stats = Array.from(controller.nodeActionStats(node))
         const meta = controller.nodeMeta(node)
@@ -82,10 +87,10 @@ MainWindowCase {
         const comboRows = Find.all(results, item => item.combo !== undefined && item.actions !== undefined && item.combo)
         verify(comboRows.length > 0)
         for (const row of comboRows) {
-            const cards = Array.from(new Set(Find.all(row, item => item.rank !== undefined).map(card => card.rank + card.suit)))
-            compare(cards.length, 2)
-            const combo = combos.find(one => one.c1 === cards[0] && one.c2 === cards[1])
-            verify(combo, cards.join())
+            const hand = cards(row)
+            compare(hand.length, 2)
+            const combo = combos.find(one => one.c1 === hand[0] && one.c2 === hand[1])
+            verify(combo, hand.join())
             const expected = shownEvs(stats, Array.from(combo.actionEvs))
             const numbers = texts(row).map(text => /(-?\d+\.\d+)$/.exec(text)?.[1]).filter(Boolean).map(Number)
             compare(numbers.length, stats.length)
@@ -120,6 +125,47 @@ MainWindowCase {
             compare(results.view.handWeights, controller.nodeHandStrategyReach169(results.walk.currentNodeIndex, "").weights)
             checkNode(results.walk.currentNodeIndex)
         }
+
+        // A river card stands on the board of the head, and its node has figures of its own.
+        const walk = results.walk
+        walk.navigateToBreadcrumb(0)
+        walk.selectActionAtLevel(0, 0)
+        walk.selectActionAtLevel(1, 0)
+        const river = controller.nodeActions(walk.currentNodeIndex)[5].name
+        walk.chooseChanceCard(2, 5, "")
+        settle()
+        const head = Find.all(results, item => item.boardText !== undefined && item.compact === true)[0]
+        compare(cards(head), ["Qs", "Jh", "2h", "3s", river])
+        checkNode(walk.currentNodeIndex)
+    }
+
+    function test_solve() {
+        setRiverSpot()
+        shell.applyProjectState({ boardText: "AsKd7h2c", startingStreet: "turn", oopRangeText: "50%", ipRangeText: "50%",
+                                  maxIterations: 1000000, targetExploitability: 0 })
+        tryVerify(() => shell.canSolve, 10000)
+        keyClick(Qt.Key_3, Qt.ControlModifier)
+        keyClick(Qt.Key_F5)
+        tryVerify(() => controller.iteration > 0, 20000)
+        if (controller.iteration < 40)
+            compare(figure("Exploitability"), "Measuring...")
+        tryVerify(() => controller.iteration > 60 && figure("Speed") !== "—", 60000)
+        const iteration = controller.iteration
+        const shown = controller.exploitability.toFixed(4)
+        compare(figure("Exploitability"), shown)
+        verify(Find.text(page(), "Iteration " + iteration + " | exploitability=" + Number(shown).toFixed(2)))
+        verify(Find.text(page(), "Window " + ((iteration - 1) % 10 + 1) + "/10"))
+        const seconds = text => text.split(":").reduce((sum, part) => 60 * sum + Number(part), 0)
+        const [elapsed, remaining] = [seconds(figure("Elapsed")), seconds(figure("Remaining"))]
+        verify(elapsed >= 1 && elapsed < 60, elapsed)
+        const speed = Number(figure("Speed"))
+        // The clock looks once a second, and shows a speed without decimals.
+        verify(speed > 0 && speed <= iteration / elapsed + 0.5, speed)
+        verify(Math.abs(remaining - (1000000 - iteration) / speed) <= 0.6 / speed * remaining + 2, remaining)
+        controller.cancelSolve()
+        tryVerify(() => !controller.running, 20000)
+        compare([figure("Exploitability"), figure("Remaining")], ["—", "00:00"])
+        verify(Find.text(page(), "Iterations: 0"))
     }
 
     function test_the_table_of_the_trainer() {
@@ -142,6 +188,7 @@ MainWindowCase {
             verify(oop.y < ip.y)
             compare(texts(oop).slice(-2), ["OOP", "Stack: " + Math.max(0, meta.effectiveStack - meta.investedOop).toFixed(0)])
             compare(texts(ip).slice(-2), ["IP", "Stack: " + Math.max(0, meta.effectiveStack - meta.investedIp).toFixed(0)])
+            compare([cards(oop), cards(ip)], [[play.oopCard1, play.oopCard2], [play.ipCard1, play.ipCard2]])
             verify(Find.text(Find.withProperties(results, "pictureRatio"), "Pot: " + meta.pot.toFixed(0)))
             const line = play.playActionLine.split(" → ").filter(text => !text.startsWith("Chance")).pop()
             if (play.playLastActionText && line) {
@@ -172,5 +219,10 @@ MainWindowCase {
         for (let second = 0; second < 3; ++second)
             clock.triggered()
         compare([clock.elapsedTime, clock.iterationsPerSec, clock.estimatedRemaining], ["00:03", 10, "00:01"])
+        // Another run is another time.
+        clock.running = true
+        clock.triggered()
+        clock.running = false
+        compare(clock.elapsedTime, "00:01")
     }
 }
