@@ -5,6 +5,7 @@
 #include <memory>
 #include <utility>
 
+#include <QJsonDocument>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -340,6 +341,8 @@ TEST_F(AppControllerTest, AFileHoldsTheSpotOfItsResultAndNotTheOneUnderEdit) {
   controller.saveProjectInBackground(file, {{"boardText", "2c2d2h"}});
   ASSERT_TRUE(waitUntil([&] { return controller.fileProgress() < 0; }));
   EXPECT_FALSE(controller.resultUnsaved());
+  const QJsonDocument stored = QJsonDocument::fromJson(bytesOf(dir.filePath("saved")));
+  EXPECT_EQ(stored["lastUiCfg"]["max_iterations"], riverSpot().value("max_iterations").toInt());
 
   AppController loaded;
   const QVariantMap answer = loaded.loadProject(file);

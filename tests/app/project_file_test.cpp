@@ -299,6 +299,7 @@ TEST_F(ProjectFile, AFailedSaveTellsWhyAndLeavesTheOldFile) {
     EXPECT_TRUE(waitUntil([&] { return !saved.isEmpty(); }));
     const QVariantList arguments = saved.takeFirst();
     EXPECT_FALSE(arguments[0].toBool());
+    EXPECT_TRUE(controller.resultUnsaved());
     return arguments[1].toString();
   };
   EXPECT_EQ(save(QUrl("http://example.org/a")), "Invalid/non-local file URL");

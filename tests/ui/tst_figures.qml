@@ -142,9 +142,15 @@ MainWindowCase {
     function test_solve() {
         setRiverSpot()
         shell.applyProjectState({ boardText: "AsKd7h2c", startingStreet: "turn", oopRangeText: "50%", ipRangeText: "50%",
-                                  maxIterations: 1000000, targetExploitability: 0 })
+                                  maxIterations: 1000000, targetExploitability: 0, rakePercent: 5, rakeCap: 7,
+                                  oopTurnBetSizesText: "33", ipRiverBetSizesText: "75" })
         tryVerify(() => shell.canSolve, 10000)
         keyClick(Qt.Key_3, Qt.ControlModifier)
+        for (const fact of ["TURN", "100 / 200", "0% (= 0.00)", "5% (cap 7)", "F 50/50 • T 33/50 • R 50/75"])
+            verify(Find.text(page(), fact), fact)
+        project.targetExploitability = 0.5
+        verify(Find.text(page(), "0.5% (= 0.50)"))
+        project.targetExploitability = 0
         keyClick(Qt.Key_F5)
         tryVerify(() => controller.iteration > 0, 20000)
         if (controller.iteration < 40)
@@ -189,6 +195,7 @@ MainWindowCase {
             compare(texts(oop).slice(-2), ["OOP", "Stack: " + Math.max(0, meta.effectiveStack - meta.investedOop).toFixed(0)])
             compare(texts(ip).slice(-2), ["IP", "Stack: " + Math.max(0, meta.effectiveStack - meta.investedIp).toFixed(0)])
             compare([cards(oop), cards(ip)], [[play.oopCard1, play.oopCard2], [play.ipCard1, play.ipCard2]])
+            compare([oop, ip].map(seat => / face down$/.test(seat.Accessible.name)), [true, false])
             verify(Find.text(Find.withProperties(results, "pictureRatio"), "Pot: " + meta.pot.toFixed(0)))
             const line = play.playActionLine.split(" → ").filter(text => !text.startsWith("Chance")).pop()
             if (play.playLastActionText && line) {

@@ -147,7 +147,7 @@ TestCase {
     function test_winner_won_and_rake_data() {
         return [
             { tag: "showdown", fields: {}, winner: "IP", won: "175", rake: "0" },
-            { tag: "a fold", fields: { line: "OOP: Bet 50% → IP: Fold" }, winner: "OOP", won: "175", rake: "0" },
+            { tag: "a fold", fields: { line: "OOP: Bet 50% → IP: Fold", investedIp: 25 }, winner: "OOP", won: "175", rake: "0" },
             { tag: "the user's own fold", fields: { line: "OOP: Check → IP: All-in → OOP: Fold", investedIp: 100 }, winner: "IP", won: "150", rake: "0" },
             { tag: "an unfinished board", fields: { board: "QsJh2h9c" }, winner: "—", won: "—", rake: "0" },
             { tag: "an unknown hand", fields: { oop: "" }, winner: "—", won: "—", rake: "0" },
