@@ -273,6 +273,20 @@ MainWindowCase {
         compare(log.playHandLog.count, 1)
     }
 
+    function test_no_card_is_dealt_twice() {
+        openTrainer(9)
+        play.playStopOnSuboptimalAction = false
+        play.startPlaySession("BOTH")
+        for (let hand = 0; hand < 40; ++hand) {
+            // Check after check, to the showdown.
+            for (untilItRests(); !play.playHandComplete; untilItRests())
+                play.choosePlayAction(0)
+            const cards = BoardText.usedCards(play.playBoardText).concat(play.cardsOf("OOP"), play.cardsOf("IP"))
+            compare(new Set(cards).size, 9, cards.join(" "))
+            play.restartHand()
+        }
+    }
+
     function test_another_river_card() {
         openTrainer(11)
         clickButton("Play as both")
